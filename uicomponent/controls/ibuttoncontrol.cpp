@@ -2,8 +2,17 @@
 
 #include "uicontrol.h"
 
-void IButtonControl::move(POINT delta) { m_control->move(delta, false); }
+void IButtonControl::move(POINT delta)
+{
+    m_control->move(delta, false);
+}
 
-void IButtonControl::setShow(bool show) { m_control->setShow(show); }
+void IButtonControl::setShow(bool show)
+{
+    m_control->setShow(show);
+}
 
-void IButtonControl::setEnable(bool enable) { m_control->setEnable(enable); }
+void IButtonControl::setEnable(bool enable)
+{
+    m_control->setEnable(enable);
+}

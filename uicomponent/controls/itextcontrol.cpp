@@ -17,8 +17,17 @@ void ITextControl::setText(const CXString& text)
     ::SetDlgItemTextW(m_control->getParentHwnd(), m_control->getId(), text.c_str());
 }
 
-void ITextControl::move(POINT delta) { m_control->move(delta, false); }
+void ITextControl::move(POINT delta)
+{
+    m_control->move(delta, false);
+}
 
-void ITextControl::setShow(bool show) { m_control->setShow(show); }
+void ITextControl::setShow(bool show)
+{
+    m_control->setShow(show);
+}
 
-void ITextControl::setEnable(bool enable) { m_control->setEnable(enable); }
+void ITextControl::setEnable(bool enable)
+{
+    m_control->setEnable(enable);
+}

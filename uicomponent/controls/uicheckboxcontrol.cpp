@@ -8,7 +8,7 @@ constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
 static_assert((kStyle | BS_AUTOCHECKBOX) == 0x50010003);
 static_assert((kStyle | BS_AUTO3STATE) == 0x50010006);
 
-const wchar_t* stateName(LRESULT state)
+const wchar_t* stateName(int state)
 {
     return state == BST_CHECKED     ? L"checked"
            : state == BST_UNCHECKED ? L"unchecked"
@@ -29,5 +29,17 @@ UICheckBoxControl::~UICheckBoxControl() = default;
 
 void UICheckBoxControl::dump() const
 {
-    dumpWindow(L"check", stateName(::SendMessageW(getHwnd(), BM_GETCHECK, 0, 0)));
+    dumpWindow(L"check", stateName(getCheck()));
+}
+
+int UICheckBoxControl::getCheck() const
+{
+    return static_cast<int>(::SendMessageW(getHwnd(), BM_GETCHECK, 0, 0));
+}
+
+void UICheckBoxControl::setCheck(int state)
+{
+    if (getCheck() != state) {
+        ::SendMessageW(getHwnd(), BM_SETCHECK, static_cast<WPARAM>(state), 0);
+    }
 }

@@ -12,4 +12,9 @@ public:
     ~UICheckBoxControl() override;
 
     void dump() const override;
+
+    /// BST_UNCHECKED, BST_CHECKED or BST_INDETERMINATE.
+    int getCheck() const;
+    /// Shows the state without a notification; nothing happens when it is shown already.
+    void setCheck(int state);
 };

@@ -10,7 +10,10 @@
 
 namespace {
 
-int withSignOf(int sign, int magnitude) { return sign < 0 ? -magnitude : magnitude; }
+int withSignOf(int sign, int magnitude)
+{
+    return sign < 0 ? -magnitude : magnitude;
+}
 
 } // namespace
 
@@ -18,8 +21,8 @@ UIControl::UIControl(HWND parent, int id, UIServices& services, HFONT font, POIN
                      SIZE size, bool inPixels)
     : m_parent(parent), m_conversion(services.getDialogConversion()), m_parentFont(font), m_id(id)
 {
-    const RECT place = toPixels(
-        {location.x, location.y, location.x + size.cx, location.y + size.cy}, inPixels);
+    const RECT place =
+        toPixels({location.x, location.y, location.x + size.cx, location.y + size.cy}, inPixels);
     m_x = place.left;
     m_y = place.top;
     m_width = place.right - place.left;
@@ -34,9 +37,14 @@ UIControl::~UIControl()
     }
 }
 
-bool UIControl::handleMessage(const _UIWindowsMessage& /*message*/) { return false; }
+bool UIControl::handleMessage(const _UIWindowsMessage& /*message*/)
+{
+    return false;
+}
 
-void UIControl::dump() const {}
+void UIControl::dump() const
+{
+}
 
 void UIControl::setEnable(bool enable)
 {
@@ -80,8 +88,8 @@ void UIControl::setSize(SIZE size, bool inPixels)
 
 void UIControl::createControlWindow(const wchar_t* className, DWORD style)
 {
-    m_window.reset(IsolationAware::createWindow(0, className, style,
-                                                {m_x, m_y, m_width, m_height}, m_parent, m_id));
+    m_window.reset(IsolationAware::createWindow(0, className, style, {m_x, m_y, m_width, m_height},
+                                                m_parent, m_id));
     ::SendMessageW(getHwnd(), WM_SETFONT, reinterpret_cast<WPARAM>(m_parentFont), FALSE);
 }
 
@@ -91,8 +99,7 @@ void UIControl::dumpWindow(const wchar_t* kind, const CXString& addition) const
         return;
     }
     CXString line;
-    line.Format(L"%s %d \"%s\"%s%s%s%s", kind, m_id,
-                o7::oneLine(o7::windowText(getHwnd())).c_str(),
+    line.Format(L"%s %d \"%s\"%s%s%s%s", kind, m_id, o7::oneLine(o7::windowText(getHwnd())).c_str(),
                 ::IsWindowEnabled(getHwnd()) != FALSE ? L"" : L" disabled",
                 m_visible ? L"" : L" hidden", addition.IsEmpty() ? L"" : L" ", addition.c_str());
     UIDump::line(line.View());

@@ -20,4 +20,7 @@ UIGroupBoxControl::UIGroupBoxControl(HWND parent, int id, UIServices& services, 
 
 UIGroupBoxControl::~UIGroupBoxControl() = default;
 
-void UIGroupBoxControl::dump() const { dumpWindow(L"group", {}); }
+void UIGroupBoxControl::dump() const
+{
+    dumpWindow(L"group", {});
+}

@@ -11,9 +11,15 @@ UITextControl::UITextControl(HWND parent, int id, UIServices& services, HFONT fo
 
 UITextControl::~UITextControl() = default;
 
-bool UITextControl::handleMessage(const _UIWindowsMessage& /*message*/) { return false; }
+bool UITextControl::handleMessage(const _UIWindowsMessage& /*message*/)
+{
+    return false;
+}
 
-void UITextControl::clearText() const { ::SetWindowTextW(getHwnd(), L""); }
+void UITextControl::clearText() const
+{
+    ::SetWindowTextW(getHwnd(), L"");
+}
 
 void UITextControl::boldText(bool bold)
 {
@@ -21,4 +27,7 @@ void UITextControl::boldText(bool bold)
     ::SendMessageW(getHwnd(), WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
 }
 
-void UITextControl::dump() const { dumpWindow(L"text", {}); }
+void UITextControl::dump() const
+{
+    dumpWindow(L"text", {});
+}
