@@ -88,8 +88,7 @@ INT_PTR CALLBACK ChildEntry::aboutPageProcedure(HWND page, UINT message, WPARAM,
 {
     if (message == WM_INITDIALOG) {
         const auto& description = *reinterpret_cast<const PROPSHEETPAGEW*>(lParam);
-        SetDlgItemTextW(page, IDC_ABOUT_TEXT,
-                        reinterpret_cast<const wchar_t*>(description.lParam));
+        SetDlgItemTextW(page, IDC_ABOUT_TEXT, reinterpret_cast<const wchar_t*>(description.lParam));
         return TRUE;
     }
     return FALSE;

@@ -2,6 +2,10 @@
 
 #include <windows.h>
 
+#include <string>
+
+#include "cxstring.h"
+
 namespace o7 {
 namespace {
 
@@ -20,34 +24,12 @@ void writeLine(DWORD standardHandle, std::wstring_view text)
     if (GetConsoleMode(stream, &mode)) {
         WriteConsoleW(stream, line.data(), static_cast<DWORD>(line.size()), &written, nullptr);
     } else {
-        const std::string bytes = utf8FromWide(line);
+        const std::string bytes = CXString(line).ToUtf8();
         WriteFile(stream, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
     }
 }
 
 } // namespace
-
-std::wstring wideFromUtf8(std::string_view text)
-{
-    const auto length = static_cast<int>(text.size());
-    std::wstring wide(
-        static_cast<std::size_t>(MultiByteToWideChar(CP_UTF8, 0, text.data(), length, nullptr, 0)),
-        L'\0');
-    MultiByteToWideChar(CP_UTF8, 0, text.data(), length, wide.data(),
-                        static_cast<int>(wide.size()));
-    return wide;
-}
-
-std::string utf8FromWide(std::wstring_view text)
-{
-    const auto length = static_cast<int>(text.size());
-    std::string bytes(static_cast<std::size_t>(WideCharToMultiByte(
-                          CP_UTF8, 0, text.data(), length, nullptr, 0, nullptr, nullptr)),
-                      '\0');
-    WideCharToMultiByte(CP_UTF8, 0, text.data(), length, bytes.data(),
-                        static_cast<int>(bytes.size()), nullptr, nullptr);
-    return bytes;
-}
 
 void printError(std::wstring_view text)
 {

@@ -1,29 +1,15 @@
 #include "cpsuientry.h"
 
-#include <memory>
 #include <stdexcept>
-#include <type_traits>
 #include <utility>
 
+#include "operatingsystem.h"
 #include "themescope.h"
 
 namespace o7 {
 namespace {
 
-struct LibraryCloser
-{
-    void operator()(HMODULE module) const { FreeLibrary(module); }
-};
-
-using Library = std::unique_ptr<std::remove_pointer_t<HMODULE>, LibraryCloser>;
 using ShowSheet = LONG(WINAPI*)(HWND, PFNPROPSHEETUI, LPARAM, LPDWORD);
-
-ShowSheet findShowSheet(HMODULE library)
-{
-    // By way of an untyped function pointer: the compiler warns of a direct cast.
-    return reinterpret_cast<ShowSheet>(
-        reinterpret_cast<void (*)()>(GetProcAddress(library, "CommonPropertySheetUIW")));
-}
 
 } // namespace
 
@@ -35,9 +21,8 @@ CpsuiEntry::CpsuiEntry(std::wstring caption, AddPages addPages)
 void CpsuiEntry::run(HWND owner)
 {
     const ThemeScope theme; // the sheet stands for one in a program that has the theme
-    // No file beside the program can stand in for the system's.
-    const Library library(LoadLibraryExW(L"compstui.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32));
-    const ShowSheet showSheet = library ? findShowSheet(library.get()) : nullptr;
+    const SystemLibrary library = OperatingSystem::LoadSystemLibrary(L"compstui.dll");
+    const auto showSheet = library.function<ShowSheet>("CommonPropertySheetUIW");
     if (!showSheet) {
         throw std::runtime_error("This system has no common property sheet (compstui.dll).");
     }

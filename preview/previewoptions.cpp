@@ -83,8 +83,9 @@ std::wstring_view setLanguage(PreviewOptions& options, const std::wstring& value
         return (c >= L'a' && c <= L'z') || (c >= L'A' && c <= L'Z') || c == L'-';
     };
     options.language = value;
-    return value.size() >= 2 && std::ranges::all_of(value, allowed) ? L""
-                                                                    : L"a language such as en or de";
+    return value.size() >= 2 && std::ranges::all_of(value, allowed)
+               ? L""
+               : L"a language such as en or de";
 }
 
 std::wstring_view setFamily(PreviewOptions& options, const std::wstring& value)
@@ -137,8 +138,7 @@ ParsedOptions parsePreviewOptions(std::span<const std::wstring> words)
         }
         const std::wstring value =
             equals == std::wstring::npos ? words[++i] : word.substr(equals + 1);
-        if (const std::wstring_view expected = row->set(result.options, value);
-            !expected.empty()) {
+        if (const std::wstring_view expected = row->set(result.options, value); !expected.empty()) {
             result.error = L"Option " + name + L": expected " + std::wstring(expected) +
                            L", found \"" + value + L"\".";
             return result;

@@ -19,14 +19,14 @@ enum class PreviewEntry
 /// What the command line asks for. Fields that were not given keep the defaults below.
 struct PreviewOptions
 {
-    std::wstring product;               ///< folder name; empty: the first product there is
-    std::optional<int> mode;            ///< 1..4
+    std::wstring product;    ///< folder name; empty: the first product there is
+    std::optional<int> mode; ///< 1..4
     PreviewEntry entry = PreviewEntry::Sheet;
-    std::wstring language;              ///< empty: the language of the person's system
-    std::wstring shotsDirectory;        ///< empty: no pictures
-    std::wstring snapshotFile;          ///< empty: no snapshot
-    std::wstring userDirectory;         ///< empty: the person's application directory
-    std::optional<int> family;          ///< another value of feature 285
+    std::wstring language;       ///< empty: the language of the person's system
+    std::wstring shotsDirectory; ///< empty: no pictures
+    std::wstring snapshotFile;   ///< empty: no snapshot
+    std::wstring userDirectory;  ///< empty: the person's application directory
+    std::optional<int> family;   ///< another value of feature 285
     bool help = false;
 
     /// The mode to open: as given, else the one that the entry shows something in.

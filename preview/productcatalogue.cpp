@@ -19,8 +19,7 @@ ProductCatalogue::ProductCatalogue(std::filesystem::path root) : m_root(std::mov
 
 std::optional<std::filesystem::path> ProductCatalogue::find(std::wstring_view name) const
 {
-    const auto found =
-        name.empty() ? m_names.begin() : std::ranges::find(m_names, name);
+    const auto found = name.empty() ? m_names.begin() : std::ranges::find(m_names, name);
     if (found == m_names.end()) {
         return std::nullopt;
     }

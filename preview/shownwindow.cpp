@@ -78,8 +78,7 @@ std::wstring ShownWindow::pageTitle(int index) const
     item.mask = TCIF_TEXT;
     item.pszText = text.data();
     item.cchTextMax = static_cast<int>(text.size());
-    SendMessageW(m_tabs, TCM_GETITEMW, static_cast<WPARAM>(index),
-                 reinterpret_cast<LPARAM>(&item));
+    SendMessageW(m_tabs, TCM_GETITEMW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item));
     std::wstring title = item.pszText ? item.pszText : L"";
     std::erase(title, L'&');
     return title;
@@ -102,8 +101,7 @@ bool ShownWindow::pageIsShown() const
     if (!m_tabs) {
         return isOpen();
     }
-    const auto page =
-        reinterpret_cast<HWND>(SendMessageW(m_window, PSM_GETCURRENTPAGEHWND, 0, 0));
+    const auto page = reinterpret_cast<HWND>(SendMessageW(m_window, PSM_GETCURRENTPAGEHWND, 0, 0));
     return page && IsWindowVisible(page);
 }
 
@@ -124,7 +122,8 @@ std::wstring ShownWindow::description() const
 {
     std::wstring text = windowText(m_window) + L":";
     EnumChildWindows(m_window, appendStaticText, reinterpret_cast<LPARAM>(&text));
-    std::ranges::replace_if(text, [](wchar_t c) { return c == L'\r' || c == L'\n'; }, L' ');
+    std::ranges::replace_if(
+        text, [](wchar_t c) { return c == L'\r' || c == L'\n'; }, L' ');
     return text;
 }
 

@@ -6,7 +6,9 @@
 
 namespace o7 {
 
-Watchdog::Watchdog(std::chrono::seconds limit) : m_thread([this, limit] { watch(limit); }) {}
+Watchdog::Watchdog(std::chrono::seconds limit) : m_thread([this, limit] { watch(limit); })
+{
+}
 
 Watchdog::~Watchdog()
 {

@@ -3,7 +3,7 @@
 #include <exception>
 #include <utility>
 
-#include "console.h"
+#include "cxstring.h"
 
 namespace o7 {
 namespace {
@@ -50,7 +50,7 @@ void CALLBACK WindowDriver::onTimer(HWND, UINT, UINT_PTR, DWORD) noexcept
     try {
         s_driver->step();
     } catch (const std::exception& error) {
-        s_driver->fail(wideFromUtf8(error.what()));
+        s_driver->fail(std::wstring(CXString(error.what()).View()));
     }
 }
 
@@ -77,6 +77,7 @@ void WindowDriver::seek(HWND window)
 {
     if (window) {
         m_window = ShownWindow(window);
+        m_work.onShown(m_window);
         m_window.selectPage(0);
         m_state = State::Settle;
         m_ticks = 0;

@@ -21,6 +21,8 @@ public:
     struct Work
     {
         bool wantsSheet = true; ///< false: a dialog without pages is expected
+        /// Once, when the window has come up.
+        std::function<void(const ShownWindow&)> onShown;
         /// Once for every page while it is shown; `number` counts from 1.
         std::function<void(const ShownWindow&, int number, const std::wstring& title)> onPage;
         /// Once, after the last page and before Cancel.

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "previewoptions.h"
+
+class UIManager;
+
+namespace o7 {
+
+class ProductSession;
+
+/// What the program ends with.
+enum class ExitCode
+{
+    Done = 0,
+    Failed = 1,   ///< something that was asked for could not be done
+    BadInput = 2, ///< options, product or package are at fault; nothing was opened
+};
+
+/// One run of the preview: finds the product, opens its settings, shows the UI through the entry
+/// asked for, keeps what was accepted. Reports everything in sentences on the error stream.
+class PreviewRun
+{
+public:
+    /// @param productsRoot  the folder of the product packages.
+    PreviewRun(PreviewOptions options, std::filesystem::path productsRoot);
+    ~PreviewRun();
+    PreviewRun(const PreviewRun&) = delete;
+    PreviewRun& operator=(const PreviewRun&) = delete;
+
+    /// Lets through what the modules throw.
+    ExitCode run();
+
+private:
+    bool openSession();
+    bool applyFamily();
+    void loadJobTicket();
+    bool saveJobTicket();
+    bool show();
+    bool showVisited(UIManager& manager);
+    bool openEntry(UIManager& manager);
+    std::filesystem::path jobTicketPath() const;
+    std::wstring aboutText() const;
+    std::wstring snapshotHeading() const;
+
+    PreviewOptions m_options;
+    std::filesystem::path m_productsRoot;
+    std::wstring m_productName;
+    std::unique_ptr<ProductSession> m_session;
+};
+
+} // namespace o7
