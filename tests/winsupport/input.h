@@ -1,0 +1,41 @@
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <initializer_list>
+#include <string_view>
+
+namespace o7::test {
+
+/// Real input by SendInput, as a person's hand would give it, and waiting without guessing times.
+/// Every function dispatches the calling thread's messages while it waits, so a test works the same
+/// whether the windows belong to its own thread or to another one. For a modal dialog, whose loop
+/// keeps the thread, call them from a second thread.
+
+/// Dispatches what is in this thread's queue now (keyboard messages translated).
+void pumpMessages();
+
+/// Dispatches messages until the predicate holds; false when it did not within the time.
+/// The predicate is asked at once, and after every message.
+bool pumpUntil(const std::function<bool()>& predicate, int milliseconds = 2000);
+
+/// Dispatches messages until none came for the given time.
+void pumpUntilQuiet(int milliseconds = 30);
+
+/// Moves the pointer to a point of the screen (pixels) and presses and releases the left button.
+void sendClick(int x, int y);
+/// Clicks the middle of the window. The window must be visible and not covered.
+void sendClick(HWND window);
+
+/// Presses and releases a virtual key while the given ones (VK_SHIFT, VK_CONTROL, VK_MENU) are
+/// held.
+void sendKey(WORD virtualKey, std::initializer_list<WORD> held = {});
+
+/// Types the text into whatever has the focus, independent of the keyboard layout.
+void typeText(std::wstring_view text);
+
+/// The visible top-level window of this process with this title, waited for; null when none came.
+HWND waitForWindow(std::wstring_view title, int milliseconds = 5000);
+
+} // namespace o7::test

@@ -1,0 +1,157 @@
+# shellcheck shell=bash
+# Shell functions shared by run, test, bench and the scripts beside this file. Sourced, not run.
+# The caller gets: O7_ROOT, the functions below, and a clean-up of the display and of Wine's server
+# when it ends.
+
+O7_ROOT=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+export O7_ROOT
+
+o7_say() { printf '%s\n' "$*" >&2; }
+o7_die() {
+    o7_say "${0##*/}: $1"
+    exit "${2:-1}"
+}
+
+# --- packages -------------------------------------------------------------------------------
+
+O7_PACKAGES_BUILD=(cmake ninja-build g++ g++-mingw-w64-x86-64 googletest nlohmann-json3-dev)
+O7_PACKAGES_WINE=(wine64 wine xvfb xauth)
+O7_PACKAGES_TEST=(clang-format clang-tidy python3)
+O7_PACKAGES_APP=(xdotool imagemagick)
+
+# o7_need PACKAGE...: installs those that are missing, and says so. Asks nothing.
+o7_need() {
+    local missing=() package root=()
+    for package in "$@"; do
+        [ "$(dpkg-query -W -f='${Status}' "$package" 2>/dev/null)" = "install ok installed" ] ||
+            missing+=("$package")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+    command -v apt-get >/dev/null ||
+        o7_die "these packages are missing and there is no apt-get to install them: ${missing[*]}"
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null ||
+            o7_die "these packages are missing; run as root or install them: ${missing[*]}"
+        root=(sudo)
+    fi
+    o7_say "installing: ${missing[*]}"
+    local apt=("${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -y)
+    # The package lists of this machine may be old or absent: one update, only when needed.
+    "${apt[@]}" install --no-install-recommends "${missing[@]}" >/dev/null 2>&1 && return 0
+    "${apt[@]}" update >/dev/null || o7_die "the package lists cannot be updated"
+    "${apt[@]}" install --no-install-recommends "${missing[@]}" >/dev/null ||
+        o7_die "cannot install: ${missing[*]}"
+}
+
+# --- building -------------------------------------------------------------------------------
+
+O7_JOBS=${O7_JOBS:-$(nproc)}
+
+# o7_build PRESET [TARGET...]: configures when that was never done, then builds. Quiet when it goes
+# well; everything goes to build/PRESET.log, whose end is shown when it does not.
+o7_build() {
+    local preset=$1 log
+    shift
+    mkdir -p "$O7_ROOT/build"
+    log=$O7_ROOT/build/$preset.log
+    if ! {
+        { [ -f "$O7_ROOT/build/$preset/build.ninja" ] ||
+            cmake -S "$O7_ROOT" --preset "$preset"; } &&
+            cmake --build "$O7_ROOT/build/$preset" -j "$O7_JOBS" ${1:+--target "$@"}
+    } >"$log" 2>&1; then
+        tail -n 60 "$log" >&2
+        o7_say "building $preset failed; all of it: build/$preset.log"
+        return 1
+    fi
+}
+
+# --- Wine -----------------------------------------------------------------------------------
+
+# The 64-bit programs themselves: the distribution's wrapper complains about a missing 32-bit one.
+o7_wine_find() {
+    local folder
+    for folder in /usr/lib/wine /usr/lib/x86_64-linux-gnu/wine /opt/wine-stable/bin /usr/bin; do
+        if [ -x "$folder/wine64" ]; then
+            O7_WINE=$folder/wine64
+            O7_WINESERVER=$folder/wineserver64
+            [ -x "$O7_WINESERVER" ] || O7_WINESERVER=$folder/wineserver
+            [ -x "$O7_WINESERVER" ] || O7_WINESERVER=$(command -v wineserver)
+            return 0
+        fi
+    done
+    o7_die "wine64 is not installed"
+}
+
+# Everything Wine needs to know, once per shell. A prefix of this tree, never the user's own.
+o7_wine_env() {
+    o7_wine_find
+    export O7_WINE O7_WINESERVER
+    export WINEPREFIX=${O7_WINEPREFIX:-$O7_ROOT/build/wineprefix}
+    export WINEARCH=win64 WINEDEBUG=${O7_WINEDEBUG:--all} WINEDLLOVERRIDES="mscoree=;mshtml="
+    export WINESERVER=$O7_WINESERVER
+    unset WINELOADER
+}
+
+o7_wine() { "$O7_WINE" "$@"; }
+
+# o7_reg KEY NAME TYPE DATA: sets one registry value in the prefix.
+o7_reg() { o7_wine reg add "$1" /v "$2" /t "$3" /d "$4" /f >/dev/null; }
+
+# Makes the prefix when it is not there yet (about ten seconds; needs the display).
+o7_wine_prefix() {
+    o7_wine_env
+    local mark=$WINEPREFIX/.o7-ready
+    [ -f "$mark" ] && return 0
+    mkdir -p "$WINEPREFIX"
+    o7_say "making a Wine prefix in ${WINEPREFIX#"$O7_ROOT"/}"
+    o7_wine wineboot -i >/dev/null 2>&1 || o7_die "wineboot failed in $WINEPREFIX"
+    # Without a window manager nobody would answer Wine's requests to show a window.
+    o7_reg 'HKCU\Software\Wine\X11 Driver' Managed REG_SZ N
+    # A crash ends the program instead of waiting for someone to close a dialog.
+    o7_reg 'HKCU\Software\Wine\WineDbg' ShowCrashDialog REG_DWORD 0
+    # A stopped server has written the registry to disk.
+    o7_wine_stop
+    : >"$mark"
+}
+
+# o7_wine_stop: asks the prefix's server to end every program that is left, and waits for it.
+o7_wine_stop() {
+    [ -n "${O7_WINESERVER:-}" ] && [ -d "${WINEPREFIX:-/nowhere}" ] || return 0
+    "$O7_WINESERVER" -k >/dev/null 2>&1
+    "$O7_WINESERVER" -w >/dev/null 2>&1
+    return 0
+}
+
+# o7_winpath PATH: the Windows name of a path of this machine (Wine shows "/" as drive Z:).
+o7_winpath() {
+    local path
+    path=$(realpath -m -- "$1")
+    printf 'Z:%s' "${path//\//\\}"
+}
+
+# --- display --------------------------------------------------------------------------------
+
+O7_XVFB_PID=
+
+# o7_display_start: a virtual display of our own, on the first free number.
+o7_display_start() {
+    local number
+    exec {O7_XVFB_FD}< <(exec Xvfb -displayfd 1 -screen 0 1600x1200x24 -nolisten tcp 2>/dev/null)
+    O7_XVFB_PID=$!
+    read -r -t 30 -u "$O7_XVFB_FD" number || o7_die "the virtual display did not start"
+    export DISPLAY=:$number
+    unset XAUTHORITY WAYLAND_DISPLAY
+}
+
+o7_display_stop() {
+    [ -n "$O7_XVFB_PID" ] || return 0
+    kill "$O7_XVFB_PID" 2>/dev/null
+    wait "$O7_XVFB_PID" 2>/dev/null
+    O7_XVFB_PID=
+}
+
+# o7_at_end: what a script that called o7_display_start or o7_wine_prefix leaves behind: nothing.
+o7_at_end() {
+    o7_wine_stop
+    o7_display_stop
+}
