@@ -59,7 +59,7 @@ o7::ExitCode runPreview(const std::vector<std::wstring>& words)
         return o7::ExitCode::Done;
     }
     const ComApartment apartment;
-    return o7::PreviewRun(parsed.options, programFolder() / "products").run();
+    return o7::PreviewRun(parsed.options, programFolder()).run();
 }
 
 } // namespace

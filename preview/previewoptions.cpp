@@ -23,7 +23,8 @@ constexpr std::wstring_view kUsage =
     L"Usage: o7preview [options]\n"
     L"Opens the pages of a product without installing a driver.\n"
     L"\n"
-    L"  --product P      folder name under products beside the program (default: the first)\n"
+    L"  --product P      folder name of the product package (default: the first there is)\n"
+    L"  --products DIR   where the packages are (default: products beside the program)\n"
     L"  --mode N         1 printing preferences, 2 device settings, 3 compact dialog,\n"
     L"                   4 printing defaults (default: 1, with --entry dialog 3)\n"
     L"  --entry E        sheet, cpsui, dialog or child (default: sheet)\n"
@@ -31,7 +32,7 @@ constexpr std::wstring_view kUsage =
     L"  --shots DIR      visit every page, save one picture each, cancel\n"
     L"  --snapshot FILE  visit every page, write what is on them as text, cancel\n"
     L"  --user-dir DIR   where accepted settings are kept\n"
-    L"  --family N       run with another value of the device family (feature 285)\n"
+    L"  --family N       run with another device family (feature 285), keep nothing\n"
     L"  --help           this text\n"
     L"\n"
     L"Ends with 0 when everything asked for was done, 1 when something failed,\n"
@@ -100,8 +101,10 @@ struct OptionRow
     Setter set;
 };
 
-constexpr std::array<OptionRow, 8> kOptions{{
+constexpr std::array<OptionRow, 9> kOptions{{
     {L"--product", [](PreviewOptions& o, const std::wstring& v) { return setText(o.product, v); }},
+    {L"--products",
+     [](PreviewOptions& o, const std::wstring& v) { return setText(o.productsDirectory, v); }},
     {L"--mode", setMode},
     {L"--entry", setEntry},
     {L"--lang", setLanguage},

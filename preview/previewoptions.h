@@ -19,8 +19,9 @@ enum class PreviewEntry
 /// What the command line asks for. Fields that were not given keep the defaults below.
 struct PreviewOptions
 {
-    std::wstring product;    ///< folder name; empty: the first product there is
-    std::optional<int> mode; ///< 1..4
+    std::wstring product;           ///< folder name; empty: the first product there is
+    std::wstring productsDirectory; ///< empty: the folder products beside the program
+    std::optional<int> mode;        ///< 1..4
     PreviewEntry entry = PreviewEntry::Sheet;
     std::wstring language;       ///< empty: the language of the person's system
     std::wstring shotsDirectory; ///< empty: no pictures

@@ -55,22 +55,28 @@ private:
 
 } // namespace
 
-PreviewRun::PreviewRun(PreviewOptions options, std::filesystem::path productsRoot)
-    : m_options(std::move(options)), m_productsRoot(std::move(productsRoot))
+PreviewRun::PreviewRun(PreviewOptions options, const std::filesystem::path& programFolder)
+    : m_options(std::move(options)), m_productsRoot(m_options.productsDirectory)
 {
+    if (m_productsRoot.empty()) {
+        m_productsRoot = programFolder / "products";
+    }
 }
 
 PreviewRun::~PreviewRun() = default;
 
 ExitCode PreviewRun::run()
 {
-    if (!openSession() || !applyFamily()) {
+    if (!openSession()) {
         return ExitCode::BadInput;
     }
-    loadJobTicket();
+    loadJobTicket(); // before the family, which kept settings must not bring back
+    if (!applyFamily()) {
+        return ExitCode::BadInput;
+    }
     const AcceptanceWatch watch(m_session->featureServices());
     bool done = show();
-    if (watch.accepted()) {
+    if (watch.accepted() || m_dialogAccepted) {
         done = saveJobTicket() && done;
     }
     return done ? ExitCode::Done : ExitCode::Failed;
@@ -150,9 +156,7 @@ bool PreviewRun::show()
     if (m_options.unattended()) {
         return showVisited(manager);
     }
-    if (!openEntry(manager)) {
-        m_session->featureServices().RevertToAccepted();
-    }
+    openEntry(manager);
     return true;
 }
 
@@ -177,28 +181,38 @@ bool PreviewRun::showVisited(UIManager& manager)
     return failures.empty();
 }
 
-bool PreviewRun::openEntry(UIManager& manager)
+void PreviewRun::openEntry(UIManager& manager)
 {
     FeatureServices& model = m_session->featureServices();
     ProductStringLoader& strings = m_session->strings();
     const std::wstring caption = wide(m_session->productData().GetModelName());
     switch (m_options.entry) {
     case PreviewEntry::Sheet:
-        return manager.runAsPropertySheet(model, strings, nullptr);
+        manager.runAsPropertySheet(model, strings, nullptr);
+        return;
     case PreviewEntry::Dialog:
-        return manager.runAsDialog(model, strings, nullptr);
+        return openDialog(manager);
     case PreviewEntry::Cpsui:
         CpsuiEntry(caption, [&](HANDLE sheet, PFNCOMPROPSHEET callback) {
             manager.initializeForCPSUI(sheet, callback, model, strings, nullptr);
         }).run(nullptr);
-        return true;
+        return;
     case PreviewEntry::Child:
         ChildEntry(caption, aboutText()).run([&](HWND sheet) {
             manager.initialize(sheet, model, strings, nullptr);
         });
-        return true;
+        return;
     }
-    return false;
+}
+
+/// A dialog's OK commits its transaction but is no event of the model.
+void PreviewRun::openDialog(UIManager& manager)
+{
+    FeatureServices& model = m_session->featureServices();
+    if (manager.runAsDialog(model, m_session->strings(), nullptr)) {
+        model.CommitAccepted();
+        m_dialogAccepted = true;
+    }
 }
 
 std::filesystem::path PreviewRun::jobTicketPath() const

@@ -26,8 +26,8 @@ enum class ExitCode
 class PreviewRun
 {
 public:
-    /// @param productsRoot  the folder of the product packages.
-    PreviewRun(PreviewOptions options, std::filesystem::path productsRoot);
+    /// @param programFolder  where the folder of the product packages is when none is named.
+    PreviewRun(PreviewOptions options, const std::filesystem::path& programFolder);
     ~PreviewRun();
     PreviewRun(const PreviewRun&) = delete;
     PreviewRun& operator=(const PreviewRun&) = delete;
@@ -42,7 +42,8 @@ private:
     bool saveJobTicket();
     bool show();
     bool showVisited(UIManager& manager);
-    bool openEntry(UIManager& manager);
+    void openEntry(UIManager& manager);
+    void openDialog(UIManager& manager);
     std::filesystem::path jobTicketPath() const;
     std::wstring aboutText() const;
     std::wstring snapshotHeading() const;
@@ -51,6 +52,7 @@ private:
     std::filesystem::path m_productsRoot;
     std::wstring m_productName;
     std::unique_ptr<ProductSession> m_session;
+    bool m_dialogAccepted = false;
 };
 
 } // namespace o7
