@@ -26,7 +26,7 @@ using Window = std::unique_ptr<std::remove_pointer_t<HWND>, WindowDestroyer>;
 INT_PTR showPropertySheet(const PROPSHEETHEADERW& header)
 {
     using Show = INT_PTR(WINAPI*)(LPCPROPSHEETHEADERW);
-    const HMODULE library = LoadLibraryW(L"comctl32.dll");
+    HMODULE library = LoadLibraryW(L"comctl32.dll");
     const auto show = library ? reinterpret_cast<Show>(reinterpret_cast<void (*)()>(
                                     GetProcAddress(library, "PropertySheetW")))
                               : nullptr;

@@ -11,7 +11,7 @@ namespace {
 
 void writeLine(DWORD standardHandle, std::wstring_view text)
 {
-    const HANDLE stream = GetStdHandle(standardHandle);
+    HANDLE stream = GetStdHandle(standardHandle);
     if (!stream || stream == INVALID_HANDLE_VALUE) {
         return;
     }

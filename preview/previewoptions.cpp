@@ -142,8 +142,8 @@ ParsedOptions parsePreviewOptions(std::span<const std::wstring> words)
         const std::wstring value =
             equals == std::wstring::npos ? words[++i] : word.substr(equals + 1);
         if (const std::wstring_view expected = row->set(result.options, value); !expected.empty()) {
-            result.error = L"Option " + name + L": expected " + std::wstring(expected) +
-                           L", found \"" + value + L"\".";
+            result.error = L"Option " + name + L": expected ";
+            result.error.append(expected).append(L", found \"").append(value).append(L"\".");
             return result;
         }
     }

@@ -57,7 +57,7 @@ void CALLBACK WindowDriver::onTimer(HWND, UINT, UINT_PTR, DWORD) noexcept
 void WindowDriver::step()
 {
     ++m_ticks;
-    const HWND other = ShownWindow::findOther(m_window.handle());
+    HWND other = ShownWindow::findOther(m_window.handle());
     if (other && (m_window.handle() || ShownWindow(other).isSheet() != m_work.wantsSheet)) {
         return closeUnexpected(other);
     }

@@ -66,7 +66,7 @@ WindowPicture::WindowPicture(HWND window)
         throw std::runtime_error("The picture could not be taken: no bitmap of that size.");
     }
     m_pixels = static_cast<const DWORD*>(pixels);
-    const HGDIOBJ before = SelectObject(memory.get(), m_bitmap.get());
+    HGDIOBJ before = SelectObject(memory.get(), m_bitmap.get());
     const BOOL copied = BitBlt(memory.get(), 0, 0, m_size.cx, m_size.cy, screen.get(), origin.x,
                                origin.y, SRCCOPY | CAPTUREBLT);
     GdiFlush();
