@@ -208,6 +208,9 @@ void PreviewRun::openEntry(UIManager& manager)
 /// A dialog's OK commits its transaction but is no event of the model.
 void PreviewRun::openDialog(UIManager& manager)
 {
+    if (m_options.effectiveMode() != static_cast<int>(UIMode::CompactDialog)) {
+        printError(L"The entry \"dialog\" shows something in mode 3 only.");
+    }
     FeatureServices& model = m_session->featureServices();
     if (manager.runAsDialog(model, m_session->strings(), nullptr)) {
         model.CommitAccepted();
