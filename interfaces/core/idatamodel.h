@@ -43,7 +43,7 @@ public:
     virtual bool SaveJobTicket(const std::filesystem::path& file, std::string& message) = 0;
 
     /// Reads settings from the file, notifies what changed, and makes them the accepted ones.
-    virtual JobTicketResult LoadJobTicket(const std::filesystem::path& file) = 0;
+    virtual o7::JobTicketResult LoadJobTicket(const std::filesystem::path& file) = 0;
 
     /// The accepted settings that differ from the defaults, as a versioned block with checksum.
     /// False, and an empty block, when it would be larger than `limit` bytes.

@@ -12,6 +12,7 @@ public:
     ValueFactory(const ValueId& value) : m_value(value) {}
     ValueFactory(int value) : m_value(value) {}
     ValueFactory(const CXString& value) : m_value(value) {}
+    ValueFactory(const wchar_t* value) : m_value(CXString(value)) {}
     ValueFactory(bool value) : m_value(value) {}
     ValueFactory(const RangeOfInteger& value) : m_value(value) {}
     ValueFactory(const Dimension& value) : m_value(value) {}
