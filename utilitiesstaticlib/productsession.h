@@ -9,8 +9,7 @@
 #include "productdata.h"
 #include "productstringloader.h"
 
-namespace o7
-{
+namespace o7 {
 
 /// Everything that has to stand behind a preferences UI for one product: its description, its
 /// texts in one language and a data model with its defaults. A host (the driver's plug-in, the
