@@ -124,7 +124,7 @@ ParsedOptions parsePreviewOptions(std::span<const std::wstring> words)
     ParsedOptions result;
     for (std::size_t i = 0; i < words.size(); ++i) {
         const std::wstring& word = words[i];
-        if (word == L"--help") {
+        if (word == L"--help" || word == L"-h") {
             result.options.help = true;
             continue;
         }
