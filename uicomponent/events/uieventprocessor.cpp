@@ -7,9 +7,7 @@
 
 UIEventProcessor::UIEventProcessor(UIPopupLauncher& popupLauncher, FeatureServices& featureServices,
                                    ProductData& productData)
-    : m_popupLauncher(popupLauncher),
-      m_featureServices(featureServices),
-      m_productData(productData)
+    : m_popupLauncher(popupLauncher), m_featureServices(featureServices), m_productData(productData)
 {
 }
 

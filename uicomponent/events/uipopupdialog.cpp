@@ -97,8 +97,7 @@ void UIPopupDialog::createButtons()
         auto button = std::make_unique<UIButtonControl>(
             getWindow(), static_cast<int>(action->getControlId()), getServices(), getPage().font,
             POINT{x, y}, SIZE{kButtonWidth, kButtonHeight}, action->isDefault());
-        SetWindowTextW(button->getHwnd(),
-                       getStrings().LoadStringW(action->getLabel()).c_str());
+        SetWindowTextW(button->getHwnd(), getStrings().LoadStringW(action->getLabel()).c_str());
         m_buttons.push_back(std::move(button));
         x += kButtonWidth + kButtonGap;
     }
@@ -147,8 +146,8 @@ bool UIPopupDialog::processCommand(const _UIWindowsMessage& message) const
 
 void UIPopupDialog::dump() const
 {
-    UIDump::line(std::wstring(L"dialog \"") +
-                 getStrings().LoadStringW(m_data.getTitle()).c_str() + L"\"");
+    UIDump::line(std::wstring(L"dialog \"") + getStrings().LoadStringW(m_data.getTitle()).c_str() +
+                 L"\"");
     const UIDump::Level inner;
     dumpMolecules();
 }

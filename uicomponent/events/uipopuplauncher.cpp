@@ -16,8 +16,7 @@ namespace {
 class DialogRegistration
 {
 public:
-    DialogRegistration(UIMessageManager& manager, UIMessageHandler& handler)
-        : m_manager(manager)
+    DialogRegistration(UIMessageManager& manager, UIMessageHandler& handler) : m_manager(manager)
     {
         m_manager.append(UIMessageKind::Dialog, handler);
     }

@@ -15,8 +15,8 @@ class UIServices;
 struct UIContext;
 
 /// Shows popup dialogs by DialogId, each inside a transaction of the data model: kept when the
-/// dialog ends with OK, rolled back otherwise. While a dialog is open, its handler stands at the end
-/// of the message manager's dialog list.
+/// dialog ends with OK, rolled back otherwise. While a dialog is open, its handler stands at the
+/// end of the message manager's dialog list.
 class UIPopupLauncher
 {
 public:

@@ -6,10 +6,7 @@
 class UIColorAccessPinHandler : public UIHandlerBase
 {
 public:
-    UIColorAccessPinHandler()
-        : UIHandlerBase(L"UIColorAccessPinHandler")
-    {
-    }
+    UIColorAccessPinHandler() : UIHandlerBase(L"UIColorAccessPinHandler") {}
 
     unsigned getState() const { return m_state; }
 

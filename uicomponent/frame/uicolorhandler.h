@@ -6,10 +6,7 @@
 class UIColorHandler : public UIHandlerBase
 {
 public:
-    UIColorHandler()
-        : UIHandlerBase(L"UIColorHandler")
-    {
-    }
+    UIColorHandler() : UIHandlerBase(L"UIColorHandler") {}
 
     unsigned getState() const { return m_state; }
 

@@ -5,9 +5,7 @@
 #include "uitrayhandler.h"
 
 UIDataSource::UIDataSource(HINSTANCE module, ProductData& productData)
-    : m_module(module),
-      m_productData(productData),
-      m_trayHandler(std::make_unique<UITrayHandler>())
+    : m_module(module), m_productData(productData), m_trayHandler(std::make_unique<UITrayHandler>())
 {
 }
 

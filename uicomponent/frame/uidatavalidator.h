@@ -12,7 +12,8 @@ class UIDataValidator
 public:
     UIDataValidator(FeatureServices& featureServices, UIEventProcessor& eventProcessor);
 
-    /// @param apply  the PSN_APPLY notification. @return false when the settings cannot be accepted.
+    /// @param apply  the PSN_APPLY notification. @return false when the settings cannot be
+    /// accepted.
     bool validate(const NMHDR& apply) const;
 
 private:

@@ -60,8 +60,8 @@ INT_PTR routeDialog(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 
 LRESULT routeOffTab(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    const auto* manager = static_cast<const UIMessageManager*>(
-        GetPropW(window, UIDialogProcedure::kManagerProperty));
+    const auto* manager =
+        static_cast<const UIMessageManager*>(GetPropW(window, UIDialogProcedure::kManagerProperty));
     if (!manager)
         return 0;
     const auto packed = pack(UIMessageKind::OffTab, window, message, wParam, lParam);

@@ -6,8 +6,5 @@
 class UIFinishingHandler : public UIHandlerBase
 {
 public:
-    UIFinishingHandler()
-        : UIHandlerBase(L"UIFinishingHandler")
-    {
-    }
+    UIFinishingHandler() : UIHandlerBase(L"UIFinishingHandler") {}
 };

@@ -13,10 +13,7 @@ class UIEventProcessor;
 class UIHandlerBase : public DataSource, public IObserver
 {
 public:
-    explicit UIHandlerBase(const wchar_t* name)
-        : m_name(name)
-    {
-    }
+    explicit UIHandlerBase(const wchar_t* name) : m_name(name) {}
     ~UIHandlerBase() override = default;
 
     CXString GetName() const override { return m_name; }

@@ -9,6 +9,7 @@
 #include "featureservices.h"
 #include "isolationaware.h"
 #include "optionfeatureref.h"
+#include "productdata.h"
 #include "productstringloader.h"
 #include "uicoloraccesspinhandler.h"
 #include "uicolorhandler.h"
@@ -122,9 +123,9 @@ void UIManager::initializeForCPSUI(void* hComPropSheet, UIComPropSheetCallback c
 {
     const BasicExecutionContext here{
         31517, CXString(L"uimanager"), CXString(L"UIManager::initializeForCPSUI"), 111,
-        CXString::Formatted(L"ActivationContext=0x%lx",
-                            static_cast<unsigned long>(
-                                reinterpret_cast<ULONG_PTR>(activationContext)))};
+        CXString::Formatted(
+            L"ActivationContext=0x%lx",
+            static_cast<unsigned long>(reinterpret_cast<ULONG_PTR>(activationContext)))};
     const ExecutionContextLifetime context(here);
 
     initializePartI(featureServices, strings, activationContext, true);
@@ -145,9 +146,8 @@ bool UIManager::runAsPropertySheet(FeatureServices& featureServices, ProductStri
     // The group is the sheet's own settings; asking for it lets the model prepare them.
     static_cast<void>(featureServices.GetListOfFeaturesByGroup(kRootGroup));
 
-    const CXString caption = m_uiData->getCaption()
-                                 ? strings.LoadStringW(m_uiData->getCaption())
-                                 : m_productData.GetModelName();
+    const CXString caption = m_uiData->getCaption() ? strings.LoadStringW(m_uiData->getCaption())
+                                                    : m_productData.GetModelName();
     std::array<HPROPSHEETPAGE, kMostPages> pages{};
     PROPSHEETHEADERW header{};
     header.dwSize = sizeof header;
@@ -186,8 +186,8 @@ void UIManager::initialize(HWND parent, FeatureServices& featureServices,
 void UIManager::addDataSources(std::vector<DataSource*>& sources) const
 {
     const std::initializer_list<DataSource*> owned = {
-        m_finishingHandler.get(),      m_offsetHandler.get(), m_colorAccessPinHandler.get(),
-        m_colorHandler.get(),          m_mruHandler.get(),    m_specialFeatureHandler.get(),
+        m_finishingHandler.get(), m_offsetHandler.get(), m_colorAccessPinHandler.get(),
+        m_colorHandler.get(),     m_mruHandler.get(),    m_specialFeatureHandler.get(),
     };
     sources.insert(sources.end(), owned);
 }

@@ -6,8 +6,5 @@
 class UIMRUHandler : public UIHandlerBase
 {
 public:
-    UIMRUHandler()
-        : UIHandlerBase(L"UIMRUHandler")
-    {
-    }
+    UIMRUHandler() : UIHandlerBase(L"UIMRUHandler") {}
 };

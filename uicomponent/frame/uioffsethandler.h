@@ -6,10 +6,7 @@
 class UIOffsetHandler : public UIHandlerBase
 {
 public:
-    UIOffsetHandler()
-        : UIHandlerBase(L"UIOffsetHandler")
-    {
-    }
+    UIOffsetHandler() : UIHandlerBase(L"UIOffsetHandler") {}
 
     bool isFirstFlagSet() const { return m_firstFlag; }
     bool isSecondFlagSet() const { return m_secondFlag; }

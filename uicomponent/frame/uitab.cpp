@@ -20,9 +20,9 @@ constexpr DataModelIds::EventEnum kRefreshEvents[] = {
 
 } // namespace
 
-UITab::UITab(FeatureServices& featureServices, UIContext& context,
-             UIEventProcessor& eventProcessor, UIServices& services,
-             const ListOfFeaturesRef& features, ProductData& productData, bool notifySuppressed)
+UITab::UITab(FeatureServices& featureServices, UIContext& context, UIEventProcessor& eventProcessor,
+             UIServices& services, const ListOfFeaturesRef& features, ProductData& productData,
+             bool notifySuppressed)
     : UIMoleculeContainer(featureServices, context.strings, services),
       m_eventProcessor(eventProcessor),
       m_features(features),
@@ -164,8 +164,8 @@ bool UITab::setActive(const _UIWindowsMessage& message)
 
 void UITab::dump() const
 {
-    UIDump::line(CXString::Formatted(L"tab \"%s\" %ld x %ld", m_title.c_str(), m_width, m_height)
-                     .View());
+    UIDump::line(
+        CXString::Formatted(L"tab \"%s\" %ld x %ld", m_title.c_str(), m_width, m_height).View());
     const UIDump::Level inner;
     if (!getWindow())
         UIDump::line(L"not visited");

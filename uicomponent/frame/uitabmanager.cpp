@@ -276,8 +276,8 @@ void UITabManager::rejectApply()
 void UITabManager::completeApply(const _UIWindowsMessage& message)
 {
     const bool closing = reinterpret_cast<const PSHNOTIFY*>(message.lParam)->lParam != 0;
-    m_eventProcessor.notifyDataModel(
-        closing ? DataModelIds::kEventOk : DataModelIds::kEventApply, &m_mode);
+    m_eventProcessor.notifyDataModel(closing ? DataModelIds::kEventOk : DataModelIds::kEventApply,
+                                     &m_mode);
     m_modifiedShown = false; // the sheet greys Apply by itself
     if (showApplyWarning(message.window))
         SetWindowLongPtrW(message.window, DWLP_MSGRESULT, PSNRET_INVALID);

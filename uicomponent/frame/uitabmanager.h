@@ -23,9 +23,9 @@ struct UIContext;
 
 using UIComPropSheetCallback = LONG_PTR(CALLBACK*)(HANDLE, UINT, LPARAM, LPARAM);
 
-/// Turns tab descriptions into property-sheet pages, receives the messages of those pages, and turns
-/// the Apply of a whole sheet into one event for the data model. Virtual operations keep their
-/// order.
+/// Turns tab descriptions into property-sheet pages, receives the messages of those pages, and
+/// turns the Apply of a whole sheet into one event for the data model. Virtual operations keep
+/// their order.
 class UITabManager : public UIMessageHandler
 {
 public:

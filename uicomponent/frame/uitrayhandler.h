@@ -6,10 +6,7 @@
 class UITrayHandler : public UIHandlerBase
 {
 public:
-    UITrayHandler()
-        : UIHandlerBase(L"UITrayHandler")
-    {
-    }
+    UITrayHandler() : UIHandlerBase(L"UITrayHandler") {}
 
     void setEventProcessor(UIEventProcessor* eventProcessor) { m_eventProcessor = eventProcessor; }
     UIEventProcessor* getEventProcessor() const { return m_eventProcessor; }

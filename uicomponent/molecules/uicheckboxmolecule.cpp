@@ -74,8 +74,8 @@ void UICheckBoxMolecule::CreateControls(UIPageWindow& page)
     const auto createText = [&](unsigned number, long textX, long textWidth) {
         auto text = std::make_unique<UITextControl>(
             page.window, page.takeId(), GetSite().services, page.font, POINT{textX, place.y + 1},
-            SIZE{textWidth, kTextHeight}, SS_NOTIFY, page.boldFont, true);
-        text->setText(LoadText(number));
+            SIZE{textWidth, kTextHeight}, SS_NOTIFY, true, page.boldFont);
+        SetWindowTextW(text->getHwnd(), LoadText(number).c_str());
         return text;
     };
     if (m_labelText) {
@@ -84,9 +84,9 @@ void UICheckBoxMolecule::CreateControls(UIPageWindow& page)
         width -= width / 2;
     }
     const long checkWidth = m_secondTextNumber ? width / 2 : width;
-    m_check = std::make_unique<UICheckBoxControl>(
-        page.window, page.takeId(), GetSite().services, page.font, POINT{x, place.y},
-        SIZE{checkWidth, kHeight}, m_threeState);
+    m_check = std::make_unique<UICheckBoxControl>(page.window, page.takeId(), GetSite().services,
+                                                  page.font, POINT{x, place.y},
+                                                  SIZE{checkWidth, kHeight}, m_threeState);
     SetWindowTextW(m_check->getHwnd(), LoadText(m_checkText).c_str());
     if (m_secondTextNumber)
         m_secondText = createText(m_secondTextNumber, x + checkWidth, width - checkWidth);

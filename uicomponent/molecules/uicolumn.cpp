@@ -5,8 +5,7 @@
 #include "uimoleculestack.h"
 
 UIColumn::UIColumn(const UIColumnData& data, const UIMoleculeSite& site)
-    : m_data(data),
-      m_molecules(UIMoleculeFactory::createAll(data.getMolecules(), site))
+    : m_data(data), m_molecules(UIMoleculeFactory::createAll(data.getMolecules(), site))
 {
     for (const auto& molecule : m_molecules) {
         molecule->SetLabelWidth(data.getLabelWidth());

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "uicomboboxcontrol.h"
 #include "uicombocontroldata.h"
 #include "uicontroldata.h"
-#include "uicomboboxcontrol.h"
 #include "uimoleculedata.h"
 #include "uimoleculedump.h"
 #include "uitextcontrol.h"
@@ -15,10 +15,9 @@ namespace {
 constexpr long kListHeight = 12;       // closed, at least
 constexpr long kRaisedListHeight = 21; // with room for a button beside it
 constexpr long kBoxHeight = 14;        // closed, as drawn
-constexpr long kDroppedHeight = 120;   // with the list open
 constexpr long kTextHeight = 8;
-constexpr long kLabelGap = 1;   // between a label and the box under it
-constexpr long kLabelDrop = 3;  // of a label beside the box
+constexpr long kLabelGap = 1;  // between a label and the box under it
+constexpr long kLabelDrop = 3; // of a label beside the box
 
 } // namespace
 
@@ -60,11 +59,11 @@ void UIComboBoxMolecule::CreateLabel(UIPageWindow& page)
     const long labelWidth = GetLabelWidth();
     const POINT place = GetPosition();
     const SIZE size{labelWidth ? labelWidth : GetContentWidth(), kTextHeight};
-    m_label = std::make_unique<UITextControl>(
-        page.window, page.takeId(), GetSite().services, page.font,
-        POINT{place.x, place.y + (labelWidth ? kLabelDrop : 0)}, size, SS_NOTIFY, page.boldFont,
-        true);
-    m_label->setText(LoadText(m_labelText));
+    m_label =
+        std::make_unique<UITextControl>(page.window, page.takeId(), GetSite().services, page.font,
+                                        POINT{place.x, place.y + (labelWidth ? kLabelDrop : 0)},
+                                        size, SS_NOTIFY, true, page.boldFont);
+    SetWindowTextW(m_label->getHwnd(), LoadText(m_labelText).c_str());
 }
 
 void UIComboBoxMolecule::CreateControls(UIPageWindow& page)
@@ -77,7 +76,7 @@ void UIComboBoxMolecule::CreateControls(UIPageWindow& page)
     m_combo = std::make_unique<UIComboBoxControl>(
         page.window, page.takeId(), GetSite().services, page.font,
         POINT{place.x + labelWidth, place.y + GetMinimumHeight() - kBoxHeight},
-        SIZE{GetContentWidth() - labelWidth, kDroppedHeight});
+        SIZE{GetContentWidth() - labelWidth, kBoxHeight});
 }
 
 void UIComboBoxMolecule::SetPosition(POINT position)
@@ -93,6 +92,12 @@ void UIComboBoxMolecule::SetPosition(POINT position)
 IComboListControl* UIComboBoxMolecule::List() const
 {
     return m_combo.get();
+}
+
+void UIComboBoxMolecule::FillTogether(const std::function<void()>& fill)
+{
+    const UIComboBoxControl::Fill filling(*m_combo);
+    fill();
 }
 
 void UIComboBoxMolecule::EnableControls(bool enabled)
@@ -147,6 +152,5 @@ void UIComboBoxMolecule::DumpControls() const
 
 CXString UIComboBoxMolecule::GetObserverClassNameHeirarchy() const
 {
-    return CXString(
-        L"UIComboBoxMolecule:UIComboListBaseMolecule:UIFeatureMolecule:UIMolecule");
+    return CXString(L"UIComboBoxMolecule:UIComboListBaseMolecule:UIFeatureMolecule:UIMolecule");
 }

@@ -7,8 +7,8 @@
 class UIComboBoxControl;
 class UITextControl;
 
-/// A labelled drop-down list of the options of a feature. With a label width the label stands to the
-/// left of the list, otherwise above it.
+/// A labelled drop-down list of the options of a feature. With a label width the label stands to
+/// the left of the list, otherwise above it.
 class UIComboBoxMolecule : public UIComboListBaseMolecule
 {
 public:
@@ -27,6 +27,7 @@ public:
 protected:
     IComboListControl* List() const override;
     void EnableControls(bool enabled) override;
+    void FillTogether(const std::function<void()>& fill) override;
 
 private:
     void CreateLabel(UIPageWindow& page);

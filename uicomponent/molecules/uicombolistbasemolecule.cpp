@@ -42,7 +42,8 @@ bool UIComboListBaseMolecule::ReadOptions(std::deque<Entry>& entries) const
         if (state.IsHidden())
             continue;
         const bool unavailable = state.IsDisabled() || state.IsCleared();
-        entries.push_back({{value, unavailable}, option.GetOptionDisplayString(),
+        entries.push_back({{value, unavailable},
+                           option.GetOptionDisplayString(),
                            unavailable ? state.GetReason() : CXString()});
     }
     return true;
@@ -65,8 +66,10 @@ void UIComboListBaseMolecule::FillList(std::deque<Entry> entries)
         list.removeAllItems();
     m_entries = std::move(entries);
     m_shownIndex = -1;
-    for (Entry& entry : m_entries)
-        list.setItemData(list.addItem(entry.text), &entry.record);
+    FillTogether([&] {
+        for (Entry& entry : m_entries)
+            list.setItemData(list.addItem(entry.text), &entry.record);
+    });
 }
 
 void UIComboListBaseMolecule::MarkUnavailable(const std::deque<Entry>& entries)

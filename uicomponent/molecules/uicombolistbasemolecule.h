@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 
 #include "itemrecord.h"
 #include "optioncapability.h"
@@ -10,8 +11,8 @@ class IComboListControl;
 
 /// Base of the molecules that show the options of an option feature as entries of a list, in the
 /// order of the capability. Disabled options stay in the list, grey, and cannot be taken; hidden
-/// ones are left out. A choice is written in a transaction, and what is shown afterwards is what was
-/// read back, not what was clicked.
+/// ones are left out. A choice is written in a transaction, and what is shown afterwards is what
+/// was read back, not what was clicked.
 class UIComboListBaseMolecule : public UIFeatureMolecule
 {
 public:
@@ -27,6 +28,8 @@ protected:
     /// The list whose entries stand for the options; null before the controls exist.
     virtual IComboListControl* List() const = 0;
     virtual void EnableControls(bool enabled) = 0;
+    /// Runs the filling of the list; a subclass may make it cheaper.
+    virtual void FillTogether(const std::function<void()>& fill) { fill(); }
 
     /// The user chose an entry: writes it in a transaction and shows what was read back.
     void ChooseEntry(int index);

@@ -2,8 +2,7 @@
 
 #include "uicontainerdata.h"
 
-UIContainer::UIContainer(const UIContainerData& data, const UIMoleculeSite& site)
-    : m_data(data)
+UIContainer::UIContainer(const UIContainerData& data, const UIMoleculeSite& site) : m_data(data)
 {
     for (const auto& column : data.getColumns())
         m_columns.push_back(std::make_unique<UIColumn>(*column, site));

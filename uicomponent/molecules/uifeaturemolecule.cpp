@@ -27,9 +27,9 @@ void UIFeatureMolecule::DisconnectFromDataModel()
     if (!IsBound() || !m_connected)
         return;
     m_connected = false;
-    GetSite().featureServices.UnregisterObserver(
-        *this, SettingsInstanceId(DataModelIds::kSettingsCurrent), GetBoundFeature(),
-        DataModelIds::kObserverFeature);
+    GetSite().featureServices.UnregisterObserver(*this,
+                                                 SettingsInstanceId(DataModelIds::kSettingsCurrent),
+                                                 GetBoundFeature(), DataModelIds::kObserverFeature);
 }
 
 void UIFeatureMolecule::Refresh()

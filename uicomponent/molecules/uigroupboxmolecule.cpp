@@ -62,10 +62,9 @@ void UIGroupBoxMolecule::SetPosition(POINT position)
 void UIGroupBoxMolecule::CreateControls(UIPageWindow& page)
 {
     SetPage(page);
-    m_frame = std::make_unique<UIGroupBoxControl>(page.window, page.takeId(), GetSite().services,
-                                                  page.font, GetPosition(),
-                                                  SIZE{GetWidth(), GetMinimumHeight()});
-    SetWindowTextW(m_frame->getHwnd(), LoadText(GetData().getTitle()).c_str());
+    m_frame = std::make_unique<UIGroupBoxControl>(
+        page.window, page.takeId(), GetSite().services, page.font, GetPosition(),
+        SIZE{GetWidth(), GetMinimumHeight()}, LoadText(GetData().getTitle()));
 }
 
 void UIGroupBoxMolecule::Inner(std::vector<UIMolecule*>& molecules)

@@ -6,8 +6,7 @@
 #include "uimoleculestack.h"
 
 UILayoutManager::UILayoutManager(const UIContainer& container, long extraHeight)
-    : m_container(container),
-      m_extraHeight(extraHeight)
+    : m_container(container), m_extraHeight(extraHeight)
 {
 }
 

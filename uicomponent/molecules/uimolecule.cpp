@@ -1,11 +1,12 @@
 #include "uimolecule.h"
 
+#include "featureservices.h"
 #include "productstringloader.h"
 #include "setofsettingids.h"
+#include "uidump.h"
 #include "uiinfobuttoncontrol.h"
 #include "uimoleculedata.h"
 #include "uiservices.h"
-#include "uidump.h"
 #include "uitooltips.h"
 
 namespace {
@@ -16,16 +17,14 @@ constexpr long kOneLineBox = 14;
 
 // The messages that ProcessCommonMessage and the controls of a molecule may answer to.
 constexpr UINT kCommonMessages[] = {
-    WM_COMMAND,         WM_NOTIFY,         WM_DRAWITEM,       WM_MEASUREITEM,
-    WM_SYSCOLORCHANGE,  WM_CTLCOLORSTATIC, WM_QUERYNEWPALETTE, WM_PALETTECHANGED,
-    WM_THEMECHANGED,
+    WM_COMMAND,        WM_NOTIFY,          WM_DRAWITEM,       WM_MEASUREITEM,  WM_SYSCOLORCHANGE,
+    WM_CTLCOLORSTATIC, WM_QUERYNEWPALETTE, WM_PALETTECHANGED, WM_THEMECHANGED,
 };
 
 } // namespace
 
 UIMolecule::UIMolecule(const UIMoleculeData& data, const UIMoleculeSite& site)
-    : m_data(data),
-      m_site(site)
+    : m_data(data), m_site(site)
 {
 }
 
@@ -36,7 +35,9 @@ bool UIMolecule::HandleMessage(const _UIWindowsMessage&)
     return false;
 }
 
-void UIMolecule::Refresh() {}
+void UIMolecule::Refresh()
+{
+}
 
 bool UIMolecule::IsHiddenBySetting() const
 {
@@ -108,9 +109,15 @@ bool UIMolecule::Validate()
     return true;
 }
 
-void UIMolecule::LeavePage() {}
-void UIMolecule::ConnectToDataModel() {}
-void UIMolecule::DisconnectFromDataModel() {}
+void UIMolecule::LeavePage()
+{
+}
+void UIMolecule::ConnectToDataModel()
+{
+}
+void UIMolecule::DisconnectFromDataModel()
+{
+}
 
 int UIMolecule::GetFeatureState() const
 {
@@ -123,8 +130,12 @@ void UIMolecule::ShowInfoButton(bool shown)
         m_infoButton->setShow(shown);
 }
 
-void UIMolecule::LookChanged() {}
-void UIMolecule::CollectSettings(SetOfSettingIds&) const {}
+void UIMolecule::LookChanged()
+{
+}
+void UIMolecule::CollectSettings(SetOfSettingIds&) const
+{
+}
 
 UIMolecule::InfoStyle UIMolecule::WantedInfoStyle(const InterpretedState& state) const
 {
@@ -150,7 +161,9 @@ void UIMolecule::UpdateInfoButton(const FeatureIdWithContext&, const Interpreted
     if (!m_infoButton)
         CreateInfoButton();
     if (m_infoButton)
-        m_infoButton->setMessage(static_cast<std::uint32_t>(m_infoStyle), m_infoText);
+        m_infoButton->setMessage(
+            static_cast<std::uint32_t>(m_infoStyle), m_infoText,
+            m_site.strings.GetStringForFeature(m_feature.GetFeatureId().GetFeatureEnum()));
 }
 
 void UIMolecule::CreateInfoButton()
@@ -218,14 +231,20 @@ void UIMolecule::CollectWantedMessages(UIMessageMask& mask) const
         mask.add(message);
 }
 
-void UIMolecule::DumpControls() const {}
-void UIMolecule::Inner(std::vector<UIMolecule*>&) {}
+void UIMolecule::DumpControls() const
+{
+}
+void UIMolecule::Inner(std::vector<UIMolecule*>&)
+{
+}
 void UIMolecule::Show(bool shown)
 {
     ShowInfoButton(shown);
 }
 
-void UIMolecule::ProcessNotification(const INotification&, unsigned int) {}
+void UIMolecule::ProcessNotification(const INotification&, unsigned int)
+{
+}
 
 CXString UIMolecule::GetObserverClassNameHeirarchy() const
 {

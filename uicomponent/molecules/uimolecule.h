@@ -89,8 +89,8 @@ public:
     virtual SIZE GetExtraExtent() const;
     virtual bool HasInfoMessage() const;
     virtual bool HasConflictMessage() const;
-    /// Why the molecule is limited: the conflict text, else the information text, else the reason of
-    /// its state; empty when nothing limits it.
+    /// Why the molecule is limited: the conflict text, else the information text, else the reason
+    /// of its state; empty when nothing limits it.
     virtual CXString GetInfoText() const;
     /// Lets a subclass change a text before it is shown.
     virtual CXString DecorateText(const CXString& text) const;

@@ -8,8 +8,7 @@
 
 UIMoleculeContainer::UIMoleculeContainer(FeatureServices& featureServices,
                                          const ProductStringLoader& strings, UIServices& services)
-    : m_valueWriter(featureServices),
-      m_site{services, featureServices, strings, m_valueWriter}
+    : m_valueWriter(featureServices), m_site{services, featureServices, strings, m_valueWriter}
 {
 }
 

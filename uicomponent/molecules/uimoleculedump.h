@@ -2,8 +2,8 @@
 
 class CXString;
 
-/// The line formats of a dump, so that every molecule writes the same ones. Quotation marks and line
-/// breaks inside texts are escaped: one control is one line.
+/// The line formats of a dump, so that every molecule writes the same ones. Quotation marks and
+/// line breaks inside texts are escaped: one control is one line.
 namespace o7 {
 
 /// `check "Collate" = "checked" [disabled] because "..."`; empty parts are left out.

@@ -38,8 +38,8 @@ void UITextMolecule::CreateControls(UIPageWindow& page)
     SetPage(page);
     m_text = std::make_unique<UITextControl>(
         page.window, page.takeId(), GetSite().services, page.font, GetPosition(),
-        SIZE{GetContentWidth(), GetMinimumHeight()}, SS_NOPREFIX, page.boldFont, true);
-    m_text->setText(LoadText(m_number));
+        SIZE{GetContentWidth(), GetMinimumHeight()}, SS_NOPREFIX, true, page.boldFont);
+    SetWindowTextW(m_text->getHwnd(), LoadText(m_number).c_str());
     if (m_bold)
         m_text->boldText(true);
 }

@@ -13,10 +13,7 @@ class FeatureServices;
 class UIValueWriter
 {
 public:
-    explicit UIValueWriter(FeatureServices& featureServices)
-        : m_featureServices(featureServices)
-    {
-    }
+    explicit UIValueWriter(FeatureServices& featureServices) : m_featureServices(featureServices) {}
     UIValueWriter(const UIValueWriter&) = delete;
     UIValueWriter& operator=(const UIValueWriter&) = delete;
 
