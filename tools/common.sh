@@ -1,7 +1,7 @@
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2034
 # Shell functions shared by run, test, bench and the scripts beside this file. Sourced, not run.
-# The caller gets: O7_ROOT, the functions below, and a clean-up of the display and of Wine's server
-# when it ends.
+# The caller gets O7_ROOT and the functions below; after o7_wine_begin also WINEPREFIX, DISPLAY,
+# O7_WINE and O7_WINESERVER, exported for what it starts.
 
 O7_ROOT=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 export O7_ROOT
@@ -15,8 +15,8 @@ o7_die() {
 # --- packages -------------------------------------------------------------------------------
 
 O7_PACKAGES_BUILD=(cmake ninja-build g++ g++-mingw-w64-x86-64 googletest nlohmann-json3-dev)
-O7_PACKAGES_WINE=(wine64 wine xvfb xauth)
-O7_PACKAGES_TEST=(clang-format clang-tidy python3)
+O7_PACKAGES_WINE=(wine64 wine xvfb)
+O7_PACKAGES_TEST=(clang-format clang-tidy shellcheck python3 git)
 O7_PACKAGES_APP=(xdotool imagemagick)
 
 # o7_need PACKAGE...: installs those that are missing, and says so. Asks nothing.
@@ -87,15 +87,32 @@ o7_wine_env() {
     o7_wine_find
     export O7_WINE O7_WINESERVER
     export WINEPREFIX=${O7_WINEPREFIX:-$O7_ROOT/build/wineprefix}
-    export WINEARCH=win64 WINEDEBUG=${O7_WINEDEBUG:--all} WINEDLLOVERRIDES="mscoree=;mshtml="
+    export WINEARCH=win64 WINEDEBUG=${O7_WINEDEBUG:--all} 
+    # No .NET, no browser, and no entries in the start menu of whoever runs this.
+    export WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe=d"
     export WINESERVER=$O7_WINESERVER
     unset WINELOADER
 }
 
-o7_wine() { "$O7_WINE" "$@"; }
+# In the background and waited for: a signal to the script then ends the script, whose end stops the
+# program.
+o7_wine() {
+    "$O7_WINE" "$@" <&0 &
+    wait $!
+}
 
 # o7_reg KEY NAME TYPE DATA: sets one registry value in the prefix.
 o7_reg() { o7_wine reg add "$1" /v "$2" /t "$3" /d "$4" /f >/dev/null; }
+
+# o7_wine_lock: one at a time in this prefix, since the one that ends stops its server.
+o7_wine_lock() {
+    mkdir -p "$O7_ROOT/build"
+    exec {O7_LOCK_FD}>"$O7_ROOT/build/wine.lock"
+    export O7_LOCK_FD
+    flock -n "$O7_LOCK_FD" && return 0
+    o7_say "waiting for another command of this tree to end"
+    flock "$O7_LOCK_FD"
+}
 
 # Makes the prefix when it is not there yet (about ten seconds; needs the display).
 o7_wine_prefix() {
@@ -105,13 +122,42 @@ o7_wine_prefix() {
     mkdir -p "$WINEPREFIX"
     o7_say "making a Wine prefix in ${WINEPREFIX#"$O7_ROOT"/}"
     o7_wine wineboot -i >/dev/null 2>&1 || o7_die "wineboot failed in $WINEPREFIX"
-    # Without a window manager nobody would answer Wine's requests to show a window.
-    o7_reg 'HKCU\Software\Wine\X11 Driver' Managed REG_SZ N
     # A crash ends the program instead of waiting for someone to close a dialog.
     o7_reg 'HKCU\Software\Wine\WineDbg' ShowCrashDialog REG_DWORD 0
     # A stopped server has written the registry to disk.
     o7_wine_stop
     : >"$mark"
+}
+
+# o7_wine_managed Y|N: whether a window manager decides about Wine's windows. On a virtual display
+# there is none, and waiting for its answers makes every window late.
+o7_wine_managed() {
+    local mark=$WINEPREFIX/.o7-managed
+    [ "$(cat "$mark" 2>/dev/null)" = "$1" ] && return 0
+    o7_reg 'HKCU\Software\Wine\X11 Driver' Managed REG_SZ "$1"
+    printf '%s\n' "$1" >"$mark"
+}
+
+# o7_wine_begin virtual|real: lock, display, prefix, and a server that stays for the next program.
+# The caller's end undoes it all.
+o7_wine_begin() {
+    o7_wine_find
+    o7_wine_lock
+    trap o7_wine_end EXIT
+    trap 'exit 130' INT
+    trap 'exit 143' TERM HUP
+    [ "$1" = real ] || o7_display_start
+    o7_wine_prefix
+    # Wine's services start with the first program and keep its output open: let that be nobody's.
+    "$O7_WINESERVER" -p60 >/dev/null 2>&1
+    o7_wine cmd /c exit >/dev/null 2>&1 </dev/null
+    if [ "$1" = real ]; then o7_wine_managed Y; else o7_wine_managed N; fi
+}
+
+# What is left behind: nothing.
+o7_wine_end() {
+    o7_wine_stop
+    o7_display_stop
 }
 
 # o7_wine_stop: asks the prefix's server to end every program that is left, and waits for it.
@@ -136,7 +182,11 @@ O7_XVFB_PID=
 # o7_display_start: a virtual display of our own, on the first free number.
 o7_display_start() {
     local number
-    exec {O7_XVFB_FD}< <(exec Xvfb -displayfd 1 -screen 0 1600x1200x24 -nolisten tcp 2>/dev/null)
+    exec {O7_XVFB_FD}< <(
+        # An orphan must not keep the lock.
+        [ -z "${O7_LOCK_FD:-}" ] || exec {O7_LOCK_FD}>&-
+        exec Xvfb -displayfd 1 -screen 0 1600x1200x24 -nolisten tcp 2>/dev/null
+    )
     O7_XVFB_PID=$!
     read -r -t 30 -u "$O7_XVFB_FD" number || o7_die "the virtual display did not start"
     export DISPLAY=:$number
@@ -148,10 +198,4 @@ o7_display_stop() {
     kill "$O7_XVFB_PID" 2>/dev/null
     wait "$O7_XVFB_PID" 2>/dev/null
     O7_XVFB_PID=
-}
-
-# o7_at_end: what a script that called o7_display_start or o7_wine_prefix leaves behind: nothing.
-o7_at_end() {
-    o7_wine_stop
-    o7_display_stop
 }

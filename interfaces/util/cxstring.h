@@ -161,6 +161,7 @@ private:
 
     Header* header() const noexcept;
     void release() noexcept;
+    bool isUniqueWithRoom(int capacity) const noexcept;
     void reserveUnique(int capacity);
     void setLength(int length) noexcept;
 

@@ -23,5 +23,5 @@ public:
 
 private:
     const BasicExecutionContext& m_context;
-    const ExecutionContextLifetime* m_outer;
+    ExecutionContextLifetime* m_outer;
 };

@@ -28,7 +28,7 @@ struct ExpectedMessage
         Optional
     };
 
-    UINT message;
+    UINT message = 0;
     Presence presence = Required;
     std::optional<WPARAM> wParam{};
     std::optional<LPARAM> lParam{};

@@ -1,0 +1,45 @@
+#include "uimessagemanager.h"
+
+int UIMessageManager::handleMessage(const _UIWindowsMessage& message) const
+{
+    const auto index = static_cast<std::size_t>(message.kind);
+    return index < kKinds ? dispatch(message, m_handlers[index]) : 0;
+}
+
+int UIMessageManager::dispatch(const _UIWindowsMessage& message, const HandlerList& handlers)
+{
+    // By index, because a handler may change the list while it is being asked.
+    for (std::size_t i = 0; i < handlers.size(); ++i) {
+        if (handlers[i]->handleMessage(message)) {
+            return 1;
+        }
+    }
+    return 0;
+}
+
+void UIMessageManager::append(UIMessageKind kind, UIMessageHandler& handler)
+{
+    m_handlers.at(static_cast<std::size_t>(kind)).push_back(&handler);
+}
+
+void UIMessageManager::removeLast(UIMessageKind kind) noexcept
+{
+    const auto index = static_cast<std::size_t>(kind);
+    if (index < kKinds && !m_handlers[index].empty()) {
+        m_handlers[index].pop_back();
+    }
+}
+
+const UIMessageManager::HandlerList& UIMessageManager::handlers(UIMessageKind kind) const
+{
+    return m_handlers.at(static_cast<std::size_t>(kind));
+}
+
+void UIMessageManager::dump() const
+{
+    for (const HandlerList& list : m_handlers) {
+        for (const UIMessageHandler* handler : list) {
+            handler->dump();
+        }
+    }
+}
