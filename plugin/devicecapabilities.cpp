@@ -72,9 +72,8 @@ DWORD names(const Choices& choices, void* output, int length)
 DWORD sizes(const Choices& choices, void* output)
 {
     if (output != nullptr) {
-        std::ranges::transform(choices, static_cast<POINT*>(output), [](const FieldChoice& choice) {
-            return paperSize(choice.number);
-        });
+        std::ranges::transform(choices, static_cast<POINT*>(output),
+                               [](const FieldChoice& choice) { return paperSize(choice.number); });
     }
     return count(choices);
 }

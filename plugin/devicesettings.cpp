@@ -23,8 +23,8 @@ void loadDeviceSettings(HANDLE printer, IDataModel& model)
     std::vector<std::uint8_t> block(kSettingsBlockLimit);
     DWORD type = 0;
     DWORD size = 0;
-    if (GetPrinterDataW(printer, g_valueName, &type, block.data(),
-                        static_cast<DWORD>(block.size()), &size) == ERROR_SUCCESS &&
+    if (GetPrinterDataW(printer, g_valueName, &type, block.data(), static_cast<DWORD>(block.size()),
+                        &size) == ERROR_SUCCESS &&
         type == REG_BINARY && size <= block.size()) {
         model.ImportSettings(block.data(), size);
     }

@@ -103,7 +103,7 @@ std::unique_ptr<DriverSheet> documentSheet(LPARAM parameter)
         throw std::length_error("The buffer for the settings is too small.");
     }
     return std::make_unique<DriverSheet>(
-        openDocument(*header), kDocumentMode, header->pszPrinterName,
+        openDocument(*header), UIMode::PrintingPreferences, header->pszPrinterName,
         [header](IDataModel& model) { writeDocument(model, *header); });
 }
 
@@ -111,7 +111,7 @@ std::unique_ptr<DriverSheet> deviceSheet(LPARAM parameter)
 {
     auto* const header = reinterpret_cast<DevicePropertyHeader*>(parameter);
     return std::make_unique<DriverSheet>(
-        openProductOf(header->hPrinter), kDeviceMode, header->pszPrinterName,
+        openProductOf(header->hPrinter), UIMode::DeviceSettings, header->pszPrinterName,
         [header](IDataModel& model) {
             if ((header->Flags & kNoPermission) == 0 &&
                 !storeDeviceSettings(header->hPrinter, model)) {

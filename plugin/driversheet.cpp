@@ -34,7 +34,7 @@ DriverSheet::DriverSheet(std::unique_ptr<ProductSession> session, UIMode mode, c
       m_accepted(std::move(accepted)),
       m_title(title != nullptr ? title : m_session->productData().GetModelName().c_str()),
       m_manager(std::make_unique<UIManager>(m_session->productData(), nullptr, mode, 0,
-                                            Workflow{}))
+                                            Workflow::Standard))
 {
     for (const auto event : kAcceptingEvents) {
         m_session->model().RegisterForEvent(*this, EventId(event), DataModelIds::kObserverEvent);

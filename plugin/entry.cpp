@@ -25,9 +25,9 @@ Result forward(o7::DllDelayLoader& module, const char* name, Result failure,
 
 using SheetFunction = LONG(WINAPI*)(PPROPSHEETUI_INFO, LPARAM);
 
-/// Between "init" and "destroy" the pages need the working module although no call is running: one
-/// more hold on it goes with the sheet. The sheet is known by the user data that the working module
-/// sets.
+/// Between "init" and "destroy" the pages need the working module although no call is running: the
+/// hold of the first call goes on with the sheet, and that of the last call ends both. The working
+/// module keeps its sheet in the user data, which so tells when there is one.
 LONG forwardSheet(const char* name, PPROPSHEETUI_INFO info, LPARAM parameter) noexcept
 {
     auto module = workingModule();
@@ -35,9 +35,8 @@ LONG forwardSheet(const char* name, PPROPSHEETUI_INFO info, LPARAM parameter) no
     const LONG result = forward<LONG>(module, name, -1, info, parameter);
     const bool after = info != nullptr && info->UserData != 0;
     if (!before && after) {
-        o7::DllDelayLoader(o7::kPluginModule).keep();
+        module.keep();
     } else if (before && !after) {
-        module.load();
         FreeLibrary(module.load());
     }
     return result;

@@ -142,9 +142,8 @@ void readOptionFields(const ListOfFeaturesRef& features, const DEVMODEW& devMode
     }
     for (std::size_t before = 0; before != open.size();) {
         before = open.size();
-        std::erase_if(open, [&](const FieldRow* field) {
-            return followField(*field, features, devMode);
-        });
+        std::erase_if(
+            open, [&](const FieldRow* field) { return followField(*field, features, devMode); });
     }
 }
 
@@ -206,8 +205,7 @@ std::vector<FieldChoice> fieldChoices(const ListOfFeaturesRef& features, DWORD f
 
 int mostCopies(const ListOfFeaturesRef& features)
 {
-    const IntegerFeatureRef copies =
-        features.GetIntegerFeature(FeatureId(kCopies));
+    const IntegerFeatureRef copies = features.GetIntegerFeature(FeatureId(kCopies));
     return copies.IsSupported()
                ? copies.GetRangeCapabilities()->GetLargestAndSmallestRangeValues().GetUpperBound()
                : 1;

@@ -47,6 +47,9 @@ public:
         return reinterpret_cast<Function>(address(name));
     }
 
+    /// Lets go of the module without giving it back: from now on the caller owes a `FreeLibrary`.
+    void keep() noexcept { m_module = nullptr; }
+
     /// Gives the module back; it can be loaded again.
     void release() noexcept;
 
