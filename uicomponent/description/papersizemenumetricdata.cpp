@@ -1,0 +1,7 @@
+#include "papersizemenumetricdata.h"
+
+#include "tables/papersizemenus.h"
+
+PaperSizeMenuMetricData::PaperSizeMenuMetricData() : PaperSizeMenuData(o7::paperSizeMenuMetric())
+{
+}
