@@ -8,6 +8,7 @@ class RangeOfDimensionCapability : public CapabilitiesNode
 {
 public:
     RangeOfDimensionCapability() = default;
+    explicit RangeOfDimensionCapability(const CapabilitiesNode& base) : CapabilitiesNode(base) {}
     RangeOfDimensionCapability(const CapabilitiesNode& base, const Dimension& low,
                                const Dimension& high)
         : CapabilitiesNode(base), m_low(low), m_high(high), m_limited(true)

@@ -1,0 +1,74 @@
+#include "changelog.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace o7 {
+
+ChangeLog::ChangeLog()
+{
+    m_levels.emplace_back();
+    m_levels.back().id = m_nextId++;
+}
+
+void ChangeLog::Note(FeatureNode& feature, unsigned bits)
+{
+    Level& level = m_levels.back();
+    if (feature.dirtyLevel == level.id) {
+        level.changes[feature.dirtyIndex].bits |= bits;
+        return;
+    }
+    feature.dirtyLevel = level.id;
+    feature.dirtyIndex = level.changes.size();
+    level.changes.push_back({feature.shared_from_this(), bits});
+}
+
+void ChangeLog::Record(Undo undo)
+{
+    if (IsAnyOpen())
+        m_levels.back().undo.push_back(std::move(undo));
+}
+
+std::uint64_t ChangeLog::Open()
+{
+    m_levels.emplace_back();
+    m_levels.back().id = m_nextId++;
+    return m_levels.back().id;
+}
+
+bool ChangeLog::IsOpen(std::uint64_t id) const
+{
+    return std::any_of(std::next(m_levels.begin()), m_levels.end(),
+                       [&](const Level& level) { return level.id == id; });
+}
+
+std::vector<Change> ChangeLog::Pop(bool keep)
+{
+    Level level = std::move(m_levels.back());
+    m_levels.pop_back();
+    if (keep && IsAnyOpen()) {
+        auto& below = m_levels.back().undo;
+        below.insert(below.end(), std::make_move_iterator(level.undo.begin()),
+                     std::make_move_iterator(level.undo.end()));
+    }
+    return std::move(level.changes);
+}
+
+std::vector<Change> ChangeLog::TakeBase()
+{
+    Level& base = m_levels.front();
+    // A new id makes the marks in the features void.
+    base.id = m_nextId++;
+    return std::exchange(base.changes, {});
+}
+
+void ChangeLog::ReturnToBase(std::vector<Change> changes)
+{
+    Level& base = m_levels.front();
+    base.id = m_nextId++;
+    changes.insert(changes.end(), base.changes.begin(), base.changes.end());
+    base.changes = std::move(changes);
+}
+
+} // namespace o7

@@ -1,0 +1,105 @@
+#pragma once
+
+#include "changelog.h"
+#include "constraintengine.h"
+#include "idatamodel.h"
+#include "notifier.h"
+#include "settingssnapshot.h"
+#include "stateinterpreter.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace o7 {
+
+/// The in-memory data model: ties the features, the constraints, the transactions and the
+/// observers together. Every change of a feature goes through here.
+class DataModel final : public IDataModel, private INotificationSink, private IConstraintsIntegrator
+{
+public:
+    DataModel(std::shared_ptr<const ProductDescription> product, IStringSource& strings);
+    ~DataModel() override;
+
+    // FeatureServices
+    void RegisterObserver(IObserver& observer, SettingsInstanceId instance,
+                          const FeatureIdWithContext& feature, unsigned int kind) override;
+    void UnregisterObserver(IObserver& observer, SettingsInstanceId instance,
+                            const FeatureIdWithContext& feature, unsigned int kind) override;
+    bool TestFeature(const FeatureIdWithContext& feature) override;
+    ListOfFeaturesRef GetListOfFeaturesFor(const FeatureIdWithContext& context) override;
+    std::unique_ptr<FeatureRef> GetFeatureRef(const FeatureIdWithContext& feature) override;
+    OptionFeatureRef GetOptionFeatureRef(const FeatureIdWithContext& feature) override;
+    std::unique_ptr<TransactionRef> OpenTransaction(const CXString& purpose) override;
+    void SettleBeforeDisplay() override;
+    ListOfFeaturesRef GetFullListOfFeatures() override;
+    ListOfFeaturesRef GetListOfFeaturesByGroup(FeatureEnum group) override;
+    INotificationSink& GetNotificationSink() override { return *this; }
+    bool IsModified() const override;
+    void CommitAccepted() override;
+    void RevertToAccepted() override;
+    void RegisterForEvent(IObserver& observer, EventId event, unsigned int kind) override;
+    void UnregisterForEvent(IObserver& observer, EventId event, unsigned int kind) override;
+    IConstraintsIntegrator& GetConstraintsIntegrator() override { return *this; }
+
+    // IDataModel
+    bool SaveJobTicket(const std::filesystem::path& file, std::string& message) override;
+    JobTicketResult LoadJobTicket(const std::filesystem::path& file) override;
+    bool ExportSettings(std::vector<std::uint8_t>& block, std::size_t limit) const override;
+    bool ImportSettings(const std::uint8_t* bytes, std::size_t size) override;
+    std::uint64_t GetEvaluationCount() const override { return m_engine.Evaluations(); }
+
+    // For the nodes and the transactions.
+    FeatureNode* FindNode(const FeatureIdWithContext& feature) const;
+    StateInterpreter& Interpreter() { return m_interpreter; }
+    bool SetValue(FeatureNode& feature, const FeatureValue& value);
+    bool SetSpecified(FeatureNode& feature, bool specified);
+    std::shared_ptr<FeatureNode> CreateItem(FeatureNode& list);
+    bool DeleteItems(FeatureNode& list, std::vector<std::size_t> indices);
+    bool CopyFrom(FeatureNode& feature, const IFeatureNode& source);
+    bool RestoreToDefault(FeatureNode& feature);
+    bool IsOpen(std::uint64_t transaction) const { return m_log.IsOpen(transaction); }
+    bool CloseTransaction(std::uint64_t transaction, bool commit);
+
+private:
+    void SendNotification(const INotification& notification) override;
+    bool AddConstraint(const ConstraintMkII& constraint) override;
+    bool AddConstraint(const std::vector<Condition>& when, const Condition& mustNotHold,
+                       const ConstraintMkIIOptions& options) override;
+
+    /// Runs a change; the outermost one delivers what it changed, unless a transaction is open.
+    template <typename Action> bool Operate(const Action& action);
+    void Write(FeatureNode& feature, FeatureValue value, bool specified);
+    void Insert(FeatureNode& list, const std::shared_ptr<FeatureNode>& item, std::size_t index);
+    void Erase(FeatureNode& list, std::size_t index);
+    void Apply(FeatureNode& feature, const SettingsSnapshot& snapshot);
+    void ApplyItems(FeatureNode& list, const SettingsSnapshot& snapshot);
+    void Undo(const ChangeLog::Undo& undo);
+    void Deliver(std::vector<Change> changes);
+    void DeliverPending();
+    void HandleEvent(const EventNotification& event);
+    void ActOn(DataModelIds::EventEnum event);
+    /// The defaults, except that what is no setting of the job stays as it is.
+    SettingsSnapshot DefaultsOf() const { return ResettableDefaults(*m_root); }
+    static SettingsSnapshot ResettableDefaults(const FeatureNode& feature);
+    /// Makes a complete set of settings the current and the accepted one.
+    void Adopt(const SettingsSnapshot& settings);
+
+    std::shared_ptr<const ProductDescription> m_product;
+    FeatureDescription m_rootDescription;
+    ChangeLog m_log;
+    ConstraintEngine m_engine;
+    Notifier m_notifier;
+    StateInterpreter m_interpreter;
+    std::shared_ptr<FeatureNode> m_root;
+    SettingsSnapshot m_accepted;
+    /// What the job ticket held besides our settings, as JSON text.
+    std::string m_foreignTicketEntries;
+    int m_operations = 0;
+    int m_deliveryDepth = 0;
+    int m_deliveryRounds = 0;
+    /// Lets transactions that outlive the model notice.
+    std::shared_ptr<DataModel*> m_self;
+};
+
+} // namespace o7

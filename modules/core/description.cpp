@@ -1,0 +1,94 @@
+#include "description.h"
+
+#include "utf16length.h"
+
+#include <algorithm>
+
+namespace o7 {
+
+bool FeatureDescription::IsPrivate() const
+{
+    constexpr std::wstring_view kPrefix = L"odrv-priv-ui-";
+    return name.View().substr(0, kPrefix.size()) == kPrefix;
+}
+
+bool FeatureDescription::AcceptsOption(ValueId& value) const
+{
+    const bool byName = value.GetValueEnum() == DataModelIds::kValueByName;
+    for (const OptionDescription& option : options) {
+        if (byName ? option.name == value.GetValueName() : option.number == value.GetValueEnum()) {
+            value = ValueId(option.number, Id(), option.name, CXString());
+            return true;
+        }
+    }
+    const bool userText = byName || value.GetValueEnum() == DataModelIds::kValueFirstUserText;
+    if (!userDefinedValues || !userText || value.GetValueName().IsEmpty() ||
+        Utf16Length(value.GetValueName()) > maxLength)
+        return false;
+    value = ValueId(DataModelIds::kValueFirstUserText, Id(), value.GetValueName(),
+                    value.GetValueName());
+    return true;
+}
+
+bool FeatureDescription::AcceptsInteger(int value) const
+{
+    return ranges.empty() || std::any_of(ranges.begin(), ranges.end(), [&](RangeOfInteger range) {
+               return range.Contains(value);
+           });
+}
+
+bool FeatureDescription::Accepts(FeatureValue& value) const
+{
+    switch (kind) {
+    case FeatureKind::Option: {
+        auto* option = std::get_if<ValueId>(&value);
+        return option != nullptr && AcceptsOption(*option);
+    }
+    case FeatureKind::Integer: {
+        const auto* number = std::get_if<int>(&value);
+        return number != nullptr && AcceptsInteger(*number);
+    }
+    case FeatureKind::String: {
+        const auto* text = std::get_if<CXString>(&value);
+        return text != nullptr && Utf16Length(*text) <= maxLength;
+    }
+    case FeatureKind::Boolean:
+        return std::holds_alternative<bool>(value);
+    case FeatureKind::Range: {
+        const auto* range = std::get_if<RangeOfInteger>(&value);
+        return range != nullptr && range->GetLowerBound() <= range->GetUpperBound() &&
+               AcceptsInteger(range->GetLowerBound()) && AcceptsInteger(range->GetUpperBound());
+    }
+    case FeatureKind::Dimension: {
+        const auto* length = std::get_if<Dimension>(&value);
+        return length != nullptr &&
+               (!limits || (*length >= limits->first && *length <= limits->second));
+    }
+    case FeatureKind::Resolution: {
+        const auto* resolution = std::get_if<Resolution>(&value);
+        return resolution != nullptr && resolution->horizontal > 0 && resolution->vertical > 0 &&
+               resolution->bitsPerDot > 0;
+    }
+    case FeatureKind::ListOfFeatures:
+    case FeatureKind::ListOfValues:
+    case FeatureKind::Unsupported:
+        break;
+    }
+    return false;
+}
+
+const FeatureDescription* ListDescription::Find(FeatureEnum number) const
+{
+    const auto found = std::find_if(features.begin(), features.end(),
+                                    [&](const auto& feature) { return feature.number == number; });
+    return found == features.end() ? nullptr : &*found;
+}
+
+const FeatureDescription* ListDescription::Find(const CXString& name) const
+{
+    const auto found = std::find_if(features.begin(), features.end(),
+                                    [&](const auto& feature) { return feature.name == name; });
+    return found == features.end() ? nullptr : &*found;
+}
+
+} // namespace o7

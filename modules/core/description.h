@@ -1,0 +1,109 @@
+// What a product is made of: plain data, filled by the package reader and never changed afterwards.
+#pragma once
+
+#include "capabilitiesnode.h"
+#include "dimension.h"
+#include "featurevalue.h"
+#include "productinfo.h"
+
+#include <cstddef>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace o7 {
+
+using FeatureEnum = DataModelIds::tagFeatureEnum;
+using ValueEnum = DataModelIds::tagValueEnum;
+using Comparison = DataModelIds::tagComparisonEnum;
+
+struct OptionDescription
+{
+    ValueEnum number = DataModelIds::kNoValue;
+    CXString name;
+};
+
+struct ConditionDescription
+{
+    FeatureEnum feature = DataModelIds::kNoFeature;
+    Comparison comparison = DataModelIds::kEqual;
+    std::vector<FeatureValue> values;
+    bool holdsWithoutValue = false;
+};
+
+enum class EffectKind
+{
+    Disable,
+    Clear, ///< Disabled and shown as having no value.
+    Hide,
+    Info,
+    Conflict,
+};
+
+struct ConstraintDescription
+{
+    std::string id;
+    std::vector<ConditionDescription> when; ///< All must hold; the first is the cause.
+    FeatureEnum target = DataModelIds::kNoFeature;
+    std::vector<FeatureValue> values; ///< The values affected; empty for the whole feature.
+    EffectKind kind = EffectKind::Disable;
+    unsigned reason = 0;
+    unsigned line = 0;
+};
+
+struct ListDescription;
+
+struct FeatureDescription
+{
+    FeatureEnum number = DataModelIds::kNoFeature;
+    CXString name;
+    FeatureKind kind = FeatureKind::Unsupported;
+    std::vector<OptionDescription> options;
+    std::vector<RangeOfInteger> ranges; ///< Rising; none: no limits.
+    std::optional<Dimension::UnitsEnum> units;
+    std::optional<std::pair<Dimension, Dimension>> limits;
+    std::size_t maxLength = 4096; ///< In UTF-16 units.
+    FeatureValue defaultValue;    ///< monostate: starts unspecified.
+    CapabilityFlags flags;
+    bool userDefinedValues = false;
+    bool savedInTicket = true;
+    bool loadedFromTicket = true;
+    std::shared_ptr<const ListDescription> list;    ///< ListOfFeatures: its members.
+    std::shared_ptr<const FeatureDescription> item; ///< ListOfValues: what its items are.
+    std::size_t maxItems = 1000;
+
+    bool IsPrivate() const;
+    /// Whether the feature is a setting of the job that can be kept outside the process.
+    bool IsKept() const { return !flags.readOnly && !flags.stateOnly; }
+    FeatureId Id() const { return FeatureId(number, name); }
+
+    /// Whether the value fits the feature, apart from constraints. A value of an option feature is
+    /// completed: number and name are both filled in (the display string is not).
+    bool Accepts(FeatureValue& value) const;
+
+private:
+    bool AcceptsOption(ValueId& value) const;
+    bool AcceptsInteger(int value) const;
+};
+
+struct ListDescription
+{
+    std::vector<FeatureDescription> features;
+    std::vector<ConstraintDescription> constraints;
+
+    /// Null when the list has no such member.
+    const FeatureDescription* Find(FeatureEnum number) const;
+    const FeatureDescription* Find(const CXString& name) const;
+};
+
+struct ProductDescription
+{
+    ProductInfo info;
+    std::filesystem::path folder;
+    ListDescription root;
+};
+
+} // namespace o7

@@ -1,0 +1,234 @@
+#include "featurenode.h"
+
+#include "datamodel.h"
+#include "unsupportednode.h"
+
+#include <utility>
+
+namespace o7 {
+namespace {
+
+/// What a feature holds before it was ever specified.
+FeatureValue InitialValue(const FeatureDescription& description)
+{
+    if (description.defaultValue.index() != 0)
+        return description.defaultValue;
+    const int lowest = description.ranges.empty() ? 0 : description.ranges.front().GetLowerBound();
+    switch (description.kind) {
+    case FeatureKind::Option:
+        for (const OptionDescription& option : description.options) {
+            if (option.number != DataModelIds::kValueUnspecified)
+                return ValueId(option.number, description.Id(), option.name, CXString());
+        }
+        break;
+    case FeatureKind::Integer:
+        return lowest;
+    case FeatureKind::String:
+        return CXString();
+    case FeatureKind::Boolean:
+        return false;
+    case FeatureKind::Range:
+        return RangeOfInteger(lowest, lowest);
+    case FeatureKind::Dimension:
+        return description.limits ? description.limits->first
+                                  : Dimension(0, *description.units);
+    case FeatureKind::Resolution:
+    case FeatureKind::ListOfFeatures:
+    case FeatureKind::ListOfValues:
+    case FeatureKind::Unsupported:
+        break;
+    }
+    return {};
+}
+
+bool IsList(FeatureKind kind)
+{
+    return kind == FeatureKind::ListOfFeatures || kind == FeatureKind::ListOfValues;
+}
+
+const FeatureValue& UnspecifiedOption()
+{
+    static const FeatureValue kValue = ValueId(DataModelIds::kValueUnspecified);
+    return kValue;
+}
+
+} // namespace
+
+FeatureNode::FeatureNode(DataModel& model, FeatureNode* parent,
+                         const FeatureDescription& description, FeatureIdWithContext id)
+    : m_model(&model), m_parent(parent), m_description(&description), m_id(std::move(id)),
+      m_value(InitialValue(description)),
+      m_specified(IsList(description.kind) || description.defaultValue.index() != 0)
+{
+}
+
+FeatureKind FeatureNode::GetKind() const
+{
+    return IsAlive() ? m_description->kind : FeatureKind::Unsupported;
+}
+
+bool FeatureNode::IsSpecified() const { return IsAlive() && m_specified; }
+
+bool FeatureNode::SetIsSpecified(bool specified)
+{
+    return IsAlive() && m_model->SetSpecified(*this, specified);
+}
+
+bool FeatureNode::GetValue(FeatureValue& value) const
+{
+    if (!IsAlive() || IsList(m_description->kind))
+        return false;
+    const bool option = m_description->kind == FeatureKind::Option;
+    if (!m_specified && !option)
+        return false;
+    value = option ? m_model->Interpreter().Complete(
+                         *this, std::get<ValueId>(m_specified ? m_value : UnspecifiedOption()))
+                   : m_value;
+    return value.index() != 0;
+}
+
+bool FeatureNode::GetDefaultValue(FeatureValue& value) const
+{
+    if (!IsAlive() || IsList(m_description->kind))
+        return false;
+    value = m_description->defaultValue;
+    if (m_description->kind == FeatureKind::Option) {
+        const auto& found = value.index() != 0 ? value : UnspecifiedOption();
+        value = m_model->Interpreter().Complete(*this, std::get<ValueId>(found));
+    }
+    return value.index() != 0;
+}
+
+bool FeatureNode::SetValue(const FeatureValue& value)
+{
+    return IsAlive() && m_model->SetValue(*this, value);
+}
+
+std::unique_ptr<CapabilitiesNode> FeatureNode::GetCapabilities() const
+{
+    return IsAlive() ? m_model->Interpreter().Capabilities(*this) : nullptr;
+}
+
+IFeatureNode::Ptr FeatureNode::FindFeature(const FeatureId& feature) const
+{
+    auto* child = IsAlive() ? FindChild(feature) : nullptr;
+    if (child != nullptr)
+        return child->shared_from_this();
+    return std::make_shared<UnsupportedNode>(m_parent != nullptr
+                                                 ? FeatureIdWithContext(m_id, feature)
+                                                 : FeatureIdWithContext(feature));
+}
+
+IFeatureNode::Ptr FeatureNode::FindFromTop(const FeatureIdWithContext& feature) const
+{
+    auto* found = IsAlive() ? m_model->FindNode(feature) : nullptr;
+    if (found != nullptr)
+        return found->shared_from_this();
+    return std::make_shared<UnsupportedNode>(feature);
+}
+
+std::size_t FeatureNode::GetNumChildren() const { return IsAlive() ? m_children.size() : 0; }
+
+IFeatureNode::Ptr FeatureNode::GetChild(std::size_t index) const
+{
+    return index < GetNumChildren() ? m_children[index] : nullptr;
+}
+
+FeatureKind FeatureNode::GetItemKind() const
+{
+    return IsAlive() && m_description->item ? m_description->item->kind : FeatureKind::Unsupported;
+}
+
+IFeatureNode::Ptr FeatureNode::CreateItem()
+{
+    return IsAlive() ? m_model->CreateItem(*this) : nullptr;
+}
+
+bool FeatureNode::DeleteItems(const std::vector<std::size_t>& indices)
+{
+    return IsAlive() && m_model->DeleteItems(*this, indices);
+}
+
+bool FeatureNode::CopyFrom(const IFeatureNode& source)
+{
+    return IsAlive() && m_model->CopyFrom(*this, source);
+}
+
+bool FeatureNode::RestoreToDefaultValue()
+{
+    return IsAlive() && m_model->RestoreToDefault(*this);
+}
+
+FeatureNode* FeatureNode::FindChild(const FeatureId& feature) const
+{
+    // An item is named by its list's id and a key; elsewhere the key must agree (there is none).
+    if (m_description->kind == FeatureKind::ListOfValues) {
+        for (const auto& child : m_children) {
+            if (child->m_id.GetFeatureId().GetItem() == feature.GetItem())
+                return child.get();
+        }
+        return nullptr;
+    }
+    for (const auto& child : m_children) {
+        if (child->m_id.GetFeatureId() == feature)
+            return child.get();
+    }
+    return nullptr;
+}
+
+void FeatureNode::Store(FeatureValue value, bool specified)
+{
+    m_value = std::move(value);
+    m_specified = specified;
+}
+
+const FeatureValue* FeatureNode::EffectiveValue() const
+{
+    for (const Constraint* constraint : effects) {
+        if (constraint->active && constraint->kind == EffectKind::Clear &&
+            (constraint->AffectsWhole() || constraint->Affects(m_value)))
+            return nullptr;
+    }
+    if (m_specified)
+        return &m_value;
+    return m_description->kind == FeatureKind::Option ? &UnspecifiedOption() : nullptr;
+}
+
+void FeatureNode::BuildMembers()
+{
+    if (!m_description->list)
+        return;
+    m_children.reserve(m_description->list->features.size());
+    for (const FeatureDescription& member : m_description->list->features) {
+        auto id = m_parent != nullptr ? FeatureIdWithContext(m_id, member.Id())
+                                      : FeatureIdWithContext(member.Id());
+        m_children.push_back(std::make_shared<FeatureNode>(*m_model, this, member, std::move(id)));
+        m_children.back()->BuildMembers();
+    }
+}
+
+std::shared_ptr<FeatureNode> FeatureNode::MakeItem()
+{
+    const FeatureId key(m_description->number, m_description->name, m_nextItem++);
+    FeatureIdWithContext id = m_id;
+    id.SetFeatureId(key);
+    auto item = std::make_shared<FeatureNode>(*m_model, this, *m_description->item, std::move(id));
+    item->BuildMembers();
+    return item;
+}
+
+void FeatureNode::SetAttached(bool attached)
+{
+    m_attached = attached;
+    for (const auto& child : m_children)
+        child->SetAttached(attached);
+}
+
+void FeatureNode::Abandon()
+{
+    m_model = nullptr;
+    for (const auto& child : m_children)
+        child->Abandon();
+}
+
+} // namespace o7

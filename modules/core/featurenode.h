@@ -1,0 +1,94 @@
+#pragma once
+
+#include "constraint.h"
+#include "description.h"
+#include "ifeaturenode.h"
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace o7 {
+
+class DataModel;
+struct Registration;
+
+/// One feature of the in-memory model. Owns its members or items; everything that changes it goes
+/// through the model, which keeps transactions, constraints and observers in step.
+class FeatureNode final : public IFeatureNode, public std::enable_shared_from_this<FeatureNode>
+{
+public:
+    /// Model, parent and description are borrowed; the model calls Abandon() before it goes.
+    FeatureNode(DataModel& model, FeatureNode* parent, const FeatureDescription& description,
+                FeatureIdWithContext id);
+
+    FeatureKind GetKind() const override;
+    const FeatureIdWithContext& GetId() const override { return m_id; }
+    bool IsSpecified() const override;
+    bool SetIsSpecified(bool specified) override;
+    bool GetValue(FeatureValue& value) const override;
+    bool GetDefaultValue(FeatureValue& value) const override;
+    bool SetValue(const FeatureValue& value) override;
+    std::unique_ptr<CapabilitiesNode> GetCapabilities() const override;
+    Ptr FindFeature(const FeatureId& feature) const override;
+    Ptr FindFromTop(const FeatureIdWithContext& feature) const override;
+    std::size_t GetNumChildren() const override;
+    Ptr GetChild(std::size_t index) const override;
+    FeatureKind GetItemKind() const override;
+    Ptr CreateItem() override;
+    bool DeleteItems(const std::vector<std::size_t>& indices) override;
+    bool CopyFrom(const IFeatureNode& source) override;
+    bool RestoreToDefaultValue() override;
+    void ReportUnsupported() const override {}
+
+    // For the rest of the module.
+    const FeatureDescription& Description() const { return *m_description; }
+    FeatureNode* Parent() const { return m_parent; }
+    std::vector<std::shared_ptr<FeatureNode>>& Children() { return m_children; }
+    const std::vector<std::shared_ptr<FeatureNode>>& Children() const { return m_children; }
+
+    /// The member of this list with this number or name, or the item with this key; null otherwise.
+    FeatureNode* FindChild(const FeatureId& feature) const;
+
+    /// What is stored, whether specified or not.
+    const FeatureValue& StoredValue() const { return m_value; }
+    bool StoredSpecified() const { return m_specified; }
+    void Store(FeatureValue value, bool specified);
+
+    /// What constraints read: null without a value (unspecified or cleared); an unspecified option
+    /// feature counts as having value 5001.
+    const FeatureValue* EffectiveValue() const;
+
+    /// Builds the members below a list; for a list of values builds nothing.
+    void BuildMembers();
+    /// A new item for this list of values, not yet in it.
+    std::shared_ptr<FeatureNode> MakeItem();
+
+    /// Detached nodes (deleted items) answer as unsupported until they are attached again.
+    void SetAttached(bool attached);
+    /// The model is going: from now on the node is unsupported for good.
+    void Abandon();
+
+    // Links kept by the constraint engine and the notifier.
+    std::vector<Constraint*> readers; ///< Constraints with this feature among their causes.
+    std::vector<Constraint*> effects; ///< Constraints with this feature as target.
+    std::vector<std::unique_ptr<Constraint>> constraints; ///< Those declared in this list.
+    std::vector<std::shared_ptr<Registration>> registrations;
+    std::uint64_t dirtyLevel = 0; ///< Transaction level that has this node noted as changed ...
+    std::size_t dirtyIndex = 0;   ///< ... and where in its list.
+
+private:
+    bool IsAlive() const { return m_model != nullptr && m_attached; }
+
+    DataModel* m_model;
+    FeatureNode* m_parent;
+    const FeatureDescription* m_description;
+    FeatureIdWithContext m_id;
+    std::vector<std::shared_ptr<FeatureNode>> m_children;
+    FeatureValue m_value;
+    bool m_specified = true;
+    bool m_attached = true;
+    int m_nextItem = 0;
+};
+
+} // namespace o7

@@ -1,0 +1,253 @@
+#include "stateinterpreter.h"
+
+#include "listoffeaturescapability.h"
+#include "rangecapability.h"
+#include "rangeofdimensioncapability.h"
+
+#include <array>
+#include <string>
+#include <utility>
+
+namespace o7 {
+namespace {
+
+/// Puts texts in place of {0} to {3}; what was put in is not looked at again.
+CXString FillIn(const CXString& pattern, const std::array<CXString, 4>& texts)
+{
+    std::wstring filled;
+    const std::wstring_view from = pattern.View();
+    for (std::size_t i = 0; i < from.size(); ++i) {
+        const bool placeholder = from[i] == L'{' && i + 2 < from.size() && from[i + 2] == L'}' &&
+                                 from[i + 1] >= L'0' && from[i + 1] <= L'3';
+        if (placeholder) {
+            filled += texts[static_cast<std::size_t>(from[i + 1] - L'0')].View();
+            i += 2;
+        } else {
+            filled += from[i];
+        }
+    }
+    return CXString(std::wstring_view(filled));
+}
+
+/// What a constraint does to the item it affects as a whole: a feature, or one option.
+void AddEffect(EffectKind kind, const CXString& reason, InterpretedState& state)
+{
+    switch (kind) {
+    case EffectKind::Disable:
+        state.Disable(reason);
+        state.AddInfo(reason);
+        break;
+    case EffectKind::Clear:
+        state.Disable(reason);
+        state.Clear(reason);
+        state.AddInfo(reason);
+        break;
+    case EffectKind::Hide:
+        state.Hide(reason);
+        break;
+    case EffectKind::Info:
+        state.AddInfo(reason);
+        break;
+    case EffectKind::Conflict:
+        state.AddConflict(reason);
+        break;
+    }
+}
+
+} // namespace
+
+const CXString& StateInterpreter::Text(unsigned number)
+{
+    const auto [entry, added] = m_texts.try_emplace(number);
+    if (added)
+        entry->second = m_strings.LoadStringW(number);
+    return entry->second;
+}
+
+CXString StateInterpreter::FeatureName(const FeatureNode& feature)
+{
+    return Text(kFeatureStringBase + static_cast<unsigned>(feature.Description().number));
+}
+
+ValueId StateInterpreter::Complete(const FeatureNode& feature, const ValueId& value)
+{
+    const FeatureId& id = feature.GetId().GetFeatureId();
+    if (value.GetValueEnum() == DataModelIds::kValueFirstUserText && !value.GetValueName().IsEmpty()) {
+        bool listed = false;
+        for (const OptionDescription& option : feature.Description().options)
+            listed = listed || option.number == value.GetValueEnum();
+        if (!listed)
+            return ValueId(value.GetValueEnum(), id, value.GetValueName(), value.GetValueName());
+    }
+    CXString name = value.GetValueName();
+    for (const OptionDescription& option : feature.Description().options) {
+        if (option.number == value.GetValueEnum())
+            name = option.name;
+    }
+    return ValueId(value.GetValueEnum(), id, name,
+                   Text(kValueStringBase + static_cast<unsigned>(value.GetValueEnum())));
+}
+
+CXString StateInterpreter::ValueText(const FeatureNode& feature, const FeatureValue& value)
+{
+    if (const auto* option = std::get_if<ValueId>(&value))
+        return Complete(feature, *option).GetDisplayString();
+    if (const auto* number = std::get_if<int>(&value))
+        return Number(*number).GetStringValue();
+    if (const auto* text = std::get_if<CXString>(&value))
+        return *text;
+    if (const auto* length = std::get_if<Dimension>(&value))
+        return length->GetStringValue(length->GetUnits(), 2, L'.', true);
+    return {};
+}
+
+CXString StateInterpreter::AffectedText(const Constraint& constraint)
+{
+    CXString all;
+    for (const FeatureValue& value : constraint.values) {
+        const CXString text = ValueText(*constraint.target, value);
+        if (!all.IsEmpty() && !text.IsEmpty())
+            all += L", ";
+        all += text;
+    }
+    return all;
+}
+
+CXString StateInterpreter::Reason(const Constraint& constraint, const ValueId* option)
+{
+    const FeatureNode& cause = *constraint.when.front().feature;
+    const CXString reason =
+        FillIn(Text(constraint.reason),
+               {FeatureName(cause), FeatureName(*constraint.target),
+                ValueText(cause, cause.StoredSpecified()
+                                     ? cause.StoredValue()
+                                     : FeatureValue(ValueId(DataModelIds::kValueUnspecified))),
+                option != nullptr ? Complete(*constraint.target, *option).GetDisplayString()
+                                  : AffectedText(constraint)});
+    // A translation may hold an empty text; a reason is never empty.
+    return reason.IsBlank() ? CXString::Formatted(L"#%u", constraint.reason) : reason;
+}
+
+void StateInterpreter::AddValueEffect(const FeatureNode& feature, const Constraint& constraint,
+                                      InterpretedState& state)
+{
+    const FeatureValue& value = feature.StoredValue();
+    const bool hit = feature.StoredSpecified() && constraint.Affects(value);
+    const auto* option = std::get_if<ValueId>(&value);
+    if (hit && constraint.kind == EffectKind::Info) {
+        state.AddInfo(Reason(constraint, option));
+    } else if (hit) {
+        // The user's own choice is one that another choice rules out.
+        state.AddConflict(Reason(constraint, option));
+        if (constraint.kind == EffectKind::Clear)
+            state.Clear(Reason(constraint, option));
+    } else if (constraint.kind == EffectKind::Disable || constraint.kind == EffectKind::Clear) {
+        state.AddInfo(Reason(constraint));
+        // Of two values one is left: there is nothing to choose.
+        if (feature.Description().kind == FeatureKind::Boolean)
+            state.Disable(Reason(constraint));
+    }
+}
+
+InterpretedState StateInterpreter::FeatureState(const FeatureNode& feature)
+{
+    InterpretedState state;
+    for (const Constraint* constraint : feature.effects) {
+        if (constraint->active && constraint->AffectsWhole())
+            AddEffect(constraint->kind, Reason(*constraint), state);
+        else if (constraint->active)
+            AddValueEffect(feature, *constraint, state);
+    }
+    for (const FeatureNode* list = feature.Parent(); list != nullptr; list = list->Parent()) {
+        for (const Constraint* constraint : list->effects) {
+            if (constraint->active && constraint->AffectsWhole())
+                AddEffect(constraint->kind, Reason(*constraint), state);
+        }
+    }
+    return state;
+}
+
+InterpretedState StateInterpreter::OptionState(const FeatureNode& feature, const ValueId& option)
+{
+    InterpretedState state;
+    for (const Constraint* constraint : feature.effects) {
+        if (constraint->active && !constraint->AffectsWhole() && constraint->Affects(option)) {
+            AddEffect(constraint->kind, Reason(*constraint, &option), state);
+        }
+    }
+    return state;
+}
+
+InterpretedState StateInterpreter::UnspecifiedState(const FeatureNode& feature,
+                                                    const InterpretedState& state)
+{
+    InterpretedState unspecified;
+    if (state.IsDisabled())
+        unspecified.Disable(state.GetReason());
+    if (feature.Description().flags.required)
+        unspecified.Disable(FeatureName(feature));
+    const ValueId entry(DataModelIds::kValueUnspecified);
+    const InterpretedState own = OptionState(feature, entry);
+    if (own.IsDisabled())
+        unspecified.Disable(own.GetReason());
+    return unspecified;
+}
+
+std::unique_ptr<CapabilitiesNode> StateInterpreter::Capabilities(const FeatureNode& feature)
+{
+    const FeatureDescription& description = feature.Description();
+    const InterpretedState state = FeatureState(feature);
+    auto base = std::make_unique<CapabilitiesNode>(description.flags, state,
+                                                   UnspecifiedState(feature, state));
+    switch (description.kind) {
+    case FeatureKind::Option:
+        return OptionCapabilities(feature, *base);
+    case FeatureKind::Integer:
+    case FeatureKind::Range:
+        return std::make_unique<RangeCapability>(*base, description.ranges, description.units);
+    case FeatureKind::Dimension:
+        return description.limits
+                   ? std::make_unique<RangeOfDimensionCapability>(*base, description.limits->first,
+                                                                  description.limits->second)
+                   : std::make_unique<RangeOfDimensionCapability>(*base);
+    case FeatureKind::ListOfFeatures: {
+        std::vector<JobTicketTravel> travel;
+        for (const FeatureDescription& member : description.list->features)
+            travel.push_back({member.Id(), member.IsKept() && member.savedInTicket,
+                              member.IsKept() && member.loadedFromTicket});
+        return std::make_unique<ListOfFeaturesCapability>(*base, std::move(travel));
+    }
+    case FeatureKind::String:
+    case FeatureKind::Boolean:
+    case FeatureKind::Resolution:
+    case FeatureKind::ListOfValues:
+    case FeatureKind::Unsupported:
+        break;
+    }
+    return base;
+}
+
+std::unique_ptr<CapabilitiesNode>
+StateInterpreter::OptionCapabilities(const FeatureNode& feature, const CapabilitiesNode& base)
+{
+    const FeatureDescription& description = feature.Description();
+    std::vector<OptionWithState> options;
+    options.reserve(description.options.size() + 1);
+    bool currentListed = false;
+    for (const OptionDescription& option : description.options) {
+        const ValueId value = Complete(feature, ValueId(option.number));
+        options.emplace_back(value, OptionState(feature, value));
+        currentListed = currentListed || FeatureValue(value) == feature.StoredValue();
+    }
+    // The user's own value has to be in the list that shows it as chosen.
+    const auto* current = std::get_if<ValueId>(&feature.StoredValue());
+    if (!currentListed && description.userDefinedValues && feature.StoredSpecified() &&
+        current != nullptr) {
+        const ValueId value = Complete(feature, *current);
+        options.emplace_back(value, OptionState(feature, value));
+    }
+    return std::make_unique<OptionCapability>(base, std::move(options),
+                                              description.userDefinedValues);
+}
+
+} // namespace o7

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "featurenode.h"
+#include "istringsource.h"
+#include "optioncapability.h"
+
+#include <memory>
+#include <unordered_map>
+
+namespace o7 {
+
+/// Puts the active constraints of a feature into words: states, messages and capability snapshots.
+/// Texts come from the string source, each once.
+class StateInterpreter
+{
+public:
+    /// Borrowed for the life of the interpreter.
+    explicit StateInterpreter(IStringSource& strings) : m_strings(strings) {}
+
+    std::unique_ptr<CapabilitiesNode> Capabilities(const FeatureNode& feature);
+
+    /// A value of an option feature with its name and display string filled in.
+    ValueId Complete(const FeatureNode& feature, const ValueId& value);
+
+    InterpretedState FeatureState(const FeatureNode& feature);
+    InterpretedState OptionState(const FeatureNode& feature, const ValueId& option);
+
+private:
+    void AddValueEffect(const FeatureNode& feature, const Constraint& constraint,
+                        InterpretedState& state);
+    InterpretedState UnspecifiedState(const FeatureNode& feature, const InterpretedState& state);
+    std::unique_ptr<CapabilitiesNode> OptionCapabilities(const FeatureNode& feature,
+                                                         const CapabilitiesNode& base);
+
+    /// The reason, with names filled in; for one value of the target, or for all it affects.
+    CXString Reason(const Constraint& constraint, const ValueId* option = nullptr);
+    CXString FeatureName(const FeatureNode& feature);
+    CXString ValueText(const FeatureNode& feature, const FeatureValue& value);
+    CXString AffectedText(const Constraint& constraint);
+    const CXString& Text(unsigned number);
+
+    IStringSource& m_strings;
+    std::unordered_map<unsigned, CXString> m_texts;
+};
+
+} // namespace o7

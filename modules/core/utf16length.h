@@ -1,0 +1,18 @@
+#pragma once
+
+#include "cxstring.h"
+
+#include <cstddef>
+
+namespace o7 {
+
+/// The length of a text in UTF-16 units, the same on every platform.
+inline std::size_t Utf16Length(const CXString& text)
+{
+    std::size_t length = 0;
+    for (const wchar_t character : text.View())
+        length += static_cast<unsigned long>(character) > 0xFFFFUL ? 2U : 1U;
+    return length;
+}
+
+} // namespace o7
