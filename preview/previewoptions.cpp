@@ -1,0 +1,163 @@
+#include "previewoptions.h"
+
+#include <algorithm>
+#include <array>
+
+namespace o7 {
+namespace {
+
+struct EntryName
+{
+    std::wstring_view name;
+    PreviewEntry entry;
+};
+
+constexpr std::array<EntryName, 4> kEntries{{
+    {L"sheet", PreviewEntry::Sheet},
+    {L"cpsui", PreviewEntry::Cpsui},
+    {L"dialog", PreviewEntry::Dialog},
+    {L"child", PreviewEntry::Child},
+}};
+
+constexpr std::wstring_view kUsage =
+    L"Usage: o7preview [options]\n"
+    L"Opens the pages of a product without installing a driver.\n"
+    L"\n"
+    L"  --product P      folder name of the product package (default: the first there is)\n"
+    L"  --products DIR   where the packages are (default: products beside the program)\n"
+    L"  --mode N         1 printing preferences, 2 device settings, 3 compact dialog,\n"
+    L"                   4 printing defaults (default: 1, with --entry dialog 3)\n"
+    L"  --entry E        sheet, cpsui, dialog or child (default: sheet)\n"
+    L"  --lang xx        language of the texts (default: the system's)\n"
+    L"  --shots DIR      visit every page, save one picture each, cancel\n"
+    L"  --snapshot FILE  visit every page, write what is on them as text, cancel\n"
+    L"  --user-dir DIR   where accepted settings are kept\n"
+    L"  --family N       run with another device family (feature 285), keep nothing\n"
+    L"  --help           this text\n"
+    L"\n"
+    L"Ends with 0 when everything asked for was done, 1 when something failed,\n"
+    L"2 when the options, the product or its package are at fault.\n";
+
+/// Whole decimal numbers without a sign only; anything longer than nine digits is no family value.
+std::optional<int> parseNumber(std::wstring_view text)
+{
+    if (text.empty() || text.size() > 9 ||
+        !std::ranges::all_of(text, [](wchar_t c) { return c >= L'0' && c <= L'9'; })) {
+        return std::nullopt;
+    }
+    int number = 0;
+    for (const wchar_t c : text) {
+        number = number * 10 + static_cast<int>(c - L'0');
+    }
+    return number;
+}
+
+/// Each setter answers with what it expected instead, or with nothing when it took the value.
+using Setter = std::wstring_view (*)(PreviewOptions&, const std::wstring&);
+
+std::wstring_view setText(std::wstring& field, const std::wstring& value)
+{
+    field = value;
+    return value.empty() ? L"a text that is not empty" : L"";
+}
+
+std::wstring_view setMode(PreviewOptions& options, const std::wstring& value)
+{
+    options.mode = parseNumber(value);
+    return options.mode >= 1 && options.mode <= 4 ? L"" : L"a number from 1 to 4";
+}
+
+std::wstring_view setEntry(PreviewOptions& options, const std::wstring& value)
+{
+    const auto* const found = std::ranges::find(kEntries, value, &EntryName::name);
+    if (found == kEntries.end()) {
+        return L"sheet, cpsui, dialog or child";
+    }
+    options.entry = found->entry;
+    return L"";
+}
+
+/// The language becomes part of a file name, so nothing but a language tag passes.
+std::wstring_view setLanguage(PreviewOptions& options, const std::wstring& value)
+{
+    const auto allowed = [](wchar_t c) {
+        return (c >= L'a' && c <= L'z') || (c >= L'A' && c <= L'Z') || c == L'-';
+    };
+    options.language = value;
+    return value.size() >= 2 && std::ranges::all_of(value, allowed)
+               ? L""
+               : L"a language such as en or de";
+}
+
+std::wstring_view setFamily(PreviewOptions& options, const std::wstring& value)
+{
+    options.family = parseNumber(value);
+    return options.family ? L"" : L"a number such as 8430";
+}
+
+struct OptionRow
+{
+    std::wstring_view name;
+    Setter set;
+};
+
+constexpr std::array<OptionRow, 9> kOptions{{
+    {L"--product", [](PreviewOptions& o, const std::wstring& v) { return setText(o.product, v); }},
+    {L"--products",
+     [](PreviewOptions& o, const std::wstring& v) { return setText(o.productsDirectory, v); }},
+    {L"--mode", setMode},
+    {L"--entry", setEntry},
+    {L"--lang", setLanguage},
+    {L"--shots",
+     [](PreviewOptions& o, const std::wstring& v) { return setText(o.shotsDirectory, v); }},
+    {L"--snapshot",
+     [](PreviewOptions& o, const std::wstring& v) { return setText(o.snapshotFile, v); }},
+    {L"--user-dir",
+     [](PreviewOptions& o, const std::wstring& v) { return setText(o.userDirectory, v); }},
+    {L"--family", setFamily},
+}};
+
+} // namespace
+
+ParsedOptions parsePreviewOptions(std::span<const std::wstring> words)
+{
+    ParsedOptions result;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        const std::wstring& word = words[i];
+        if (word == L"--help" || word == L"-h") {
+            result.options.help = true;
+            continue;
+        }
+        const std::size_t equals = word.find(L'=');
+        const std::wstring name = word.substr(0, equals);
+        const auto* const row = std::ranges::find(kOptions, name, &OptionRow::name);
+        if (row == kOptions.end()) {
+            result.error = L"Unknown option \"" + name + L"\".";
+            return result;
+        }
+        if (equals == std::wstring::npos && i + 1 == words.size()) {
+            result.error = L"Option " + name + L" needs a value.";
+            return result;
+        }
+        const std::wstring value =
+            equals == std::wstring::npos ? words[++i] : word.substr(equals + 1);
+        if (const std::wstring_view expected = row->set(result.options, value); !expected.empty()) {
+            result.error = L"Option " + name + L": expected ";
+            result.error.append(expected).append(L", found \"").append(value).append(L"\".");
+            return result;
+        }
+    }
+    return result;
+}
+
+std::wstring_view entryName(PreviewEntry entry)
+{
+    return std::ranges::find(kEntries, entry, &EntryName::entry)->name;
+}
+
+std::wstring_view previewUsage()
+{
+    return kUsage;
+}
+
+} // namespace o7

@@ -1,0 +1,53 @@
+#include "windowrecorder.h"
+
+#include <fstream>
+#include <stdexcept>
+#include <utility>
+
+#include "cxstring.h"
+#include "picturefilename.h"
+#include "windowpicture.h"
+
+namespace o7 {
+
+WindowRecorder::WindowRecorder(std::filesystem::path shotsDirectory,
+                               std::filesystem::path snapshotFile)
+    : m_shotsDirectory(std::move(shotsDirectory)), m_snapshotFile(std::move(snapshotFile))
+{
+    if (!m_shotsDirectory.empty()) {
+        std::filesystem::create_directories(m_shotsDirectory);
+    }
+    if (m_snapshotFile.has_parent_path()) {
+        std::filesystem::create_directories(m_snapshotFile.parent_path());
+    }
+}
+
+void WindowRecorder::savePicture(const ShownWindow& window, int number,
+                                 const std::wstring& title) const
+{
+    if (m_shotsDirectory.empty()) {
+        return;
+    }
+    const WindowPicture picture(window.handle());
+    if (picture.isBlank()) {
+        throw std::runtime_error("Nothing was painted on page " + std::to_string(number) + ".");
+    }
+    picture.savePng(m_shotsDirectory / pictureFileName(number, title));
+}
+
+void WindowRecorder::saveSnapshot(std::wstring text) const
+{
+    if (m_snapshotFile.empty()) {
+        return;
+    }
+    std::erase(text, L'\r');
+    std::ofstream file(m_snapshotFile, std::ios::binary | std::ios::trunc);
+    file << CXString(text).ToUtf8();
+    file.close();
+    if (!file) {
+        throw std::runtime_error("The snapshot could not be written to " +
+                                 CXString(m_snapshotFile.wstring()).ToUtf8() + ".");
+    }
+}
+
+} // namespace o7

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "uicontrol.h"
+
+/// A check box that changes its own state when it is clicked ("BUTTON").
+class O7UI_API UICheckBoxControl : public UIControl
+{
+public:
+    /// @param threeState  also knows the indeterminate state
+    UICheckBoxControl(HWND parent, int id, UIServices& services, HFONT font, POINT location,
+                      SIZE size, bool threeState);
+    ~UICheckBoxControl() override;
+
+    void dump() const override;
+
+    /// BST_UNCHECKED, BST_CHECKED or BST_INDETERMINATE.
+    int getCheck() const;
+    /// Shows the state without a notification; nothing happens when it is shown already.
+    void setCheck(int state);
+};

@@ -1,0 +1,116 @@
+#include "uicontrol.h"
+
+#include "dialogconversion.h"
+#include "isolationaware.h"
+#include "uidump.h"
+#include "uiservices.h"
+#include "windowtext.h"
+
+#include <cstdlib>
+
+namespace {
+
+int withSignOf(int sign, int magnitude)
+{
+    return sign < 0 ? -magnitude : magnitude;
+}
+
+} // namespace
+
+UIControl::UIControl(HWND parent, int id, UIServices& services, HFONT font, POINT location,
+                     SIZE size, bool inPixels)
+    : m_parent(parent), m_conversion(services.getDialogConversion()), m_parentFont(font), m_id(id)
+{
+    const RECT place =
+        toPixels({location.x, location.y, location.x + size.cx, location.y + size.cy}, inPixels);
+    m_x = place.left;
+    m_y = place.top;
+    m_width = place.right - place.left;
+    m_height = place.bottom - place.top;
+}
+
+UIControl::~UIControl()
+{
+    // A window that went with its parent is not ours any more, nor is one that got its number.
+    if (m_window && ::GetParent(m_window.get()) != m_parent) {
+        m_window.release();
+    }
+}
+
+bool UIControl::handleMessage(const _UIWindowsMessage& /*message*/)
+{
+    return false;
+}
+
+void UIControl::dump() const
+{
+}
+
+void UIControl::setEnable(bool enable)
+{
+    if ((::IsWindowEnabled(getHwnd()) != FALSE) != enable) {
+        ::EnableWindow(getHwnd(), enable ? TRUE : FALSE);
+    }
+}
+
+void UIControl::setShow(bool show)
+{
+    const bool isShown = (::GetWindowLongPtrW(getHwnd(), GWL_STYLE) & WS_VISIBLE) != 0;
+    if (isShown != show) {
+        ::ShowWindow(getHwnd(), show ? SW_SHOW : SW_HIDE);
+    }
+    m_visible = show;
+}
+
+void UIControl::move(POINT delta, bool inPixels)
+{
+    const RECT distance = toPixels({0, 0, std::abs(delta.x), std::abs(delta.y)}, inPixels);
+    m_x += withSignOf(delta.x, distance.right);
+    m_y += withSignOf(delta.y, distance.bottom);
+    placeWindow();
+}
+
+void UIControl::setLocation(POINT location, bool inPixels)
+{
+    const RECT place = toPixels({location.x, location.y, location.x, location.y}, inPixels);
+    m_x = place.left;
+    m_y = place.top;
+    placeWindow();
+}
+
+void UIControl::setSize(SIZE size, bool inPixels)
+{
+    const RECT place = toPixels({0, 0, size.cx, size.cy}, inPixels);
+    m_width = place.right;
+    m_height = place.bottom;
+    placeWindow();
+}
+
+void UIControl::createControlWindow(const wchar_t* className, DWORD style)
+{
+    m_window.reset(IsolationAware::createWindow(0, className, style, {m_x, m_y, m_width, m_height},
+                                                m_parent, m_id));
+    ::SendMessageW(getHwnd(), WM_SETFONT, reinterpret_cast<WPARAM>(m_parentFont), FALSE);
+}
+
+void UIControl::dumpWindow(const wchar_t* kind, const CXString& addition) const
+{
+    if (!UIDump::isCollecting()) {
+        return;
+    }
+    CXString line;
+    line.Format(L"%s %d \"%s\"%s%s%s%s", kind, m_id, o7::oneLine(o7::windowText(getHwnd())).c_str(),
+                ::IsWindowEnabled(getHwnd()) != FALSE ? L"" : L" disabled",
+                m_visible ? L"" : L" hidden", addition.IsEmpty() ? L"" : L" ", addition.c_str());
+    UIDump::line(line.View());
+}
+
+void UIControl::placeWindow()
+{
+    ::MoveWindow(getHwnd(), m_x, m_y, m_width, m_height, TRUE);
+}
+
+RECT UIControl::toPixels(const RECT& place, bool inPixels) const
+{
+    return inPixels ? place : m_conversion.dialogUnitsToPixels(place);
+}

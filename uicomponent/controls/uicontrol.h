@@ -1,0 +1,86 @@
+#pragma once
+
+#include "uiapi.h"
+#include "uihandles.h"
+#include "uimessagehandler.h"
+
+#include <windows.h>
+
+class CXString;
+class DialogConversion;
+class UIServices;
+
+/// One child window of a page or dialog: remembers where it stands, in pixels, and owns the window.
+/// The base creates none; each concrete control creates its own in its constructor, at its final
+/// place. Used on the page's UI thread only.
+///
+/// When the window could not be created the handle is null and every operation has no effect on
+/// screen. The parent may be destroyed first: the control then lets its dead handle go.
+class O7UI_API UIControl : public UIMessageHandler
+{
+public:
+    /// @param parent    the page or dialog (borrowed)
+    /// @param id        child-window id
+    /// @param services  gives the conversion of dialog units; must outlive the control
+    /// @param font      font of the parent (borrowed, must outlive the control)
+    /// @param location,size  in dialog units, or in pixels when inPixels is true
+    UIControl(HWND parent, int id, UIServices& services, HFONT font, POINT location, SIZE size,
+              bool inPixels);
+    UIControl(const UIControl&) = delete;
+    UIControl& operator=(const UIControl&) = delete;
+    ~UIControl() override;
+
+    /// Not handled, unless a control overrides it.
+    bool handleMessage(const _UIWindowsMessage& message) override;
+    void dump() const override;
+
+    POINT getLocationInPixels() const noexcept { return {m_x, m_y}; }
+    SIZE getDimensionInPixels() const noexcept { return {m_width, m_height}; }
+    HWND getHwnd() const noexcept { return m_window.get(); }
+    HWND getParentHwnd() const noexcept { return m_parent; }
+    int getId() const noexcept { return m_id; }
+    HFONT getParentFont() const noexcept { return m_parentFont; }
+    /// The owning molecule empties the control when it disables it.
+    bool getClearOnDisable() const noexcept { return m_clearOnDisable; }
+    bool getIsVisable() const noexcept { return m_visible; }
+
+    /// EnableWindow; nothing happens when the window is in that state already.
+    void setEnable(bool enable);
+    /// ShowWindow; nothing happens on screen when the window is in that state already.
+    void setShow(bool show);
+    void setClearOnDisable(bool clear) noexcept { m_clearOnDisable = clear; }
+
+    /// Moves by a difference, in dialog units or in pixels, and repaints. Negative differences
+    /// convert like positive ones.
+    void move(POINT delta, bool inPixels = false);
+    /// Moves to a place and repaints; the size stays.
+    void setLocation(POINT location, bool inPixels = false);
+    /// Changes the size and repaints; the place stays.
+    void setSize(SIZE size, bool inPixels = false);
+
+protected:
+    /// Creates the window inside the module's activation context and gives it the parent's font.
+    void createControlWindow(const wchar_t* className, DWORD style);
+    void setVisibleFlag(bool visible) noexcept { m_visible = visible; }
+    DialogConversion& getConversion() const noexcept { return m_conversion; }
+    /// For WM_NCDESTROY: the handle is about to become invalid.
+    void forgetWindow() noexcept { m_window.release(); }
+    /// One line for dump(): kind, id, text and state of the window, then what the control adds.
+    void dumpWindow(const wchar_t* kind, const CXString& addition) const;
+
+private:
+    void placeWindow();
+    RECT toPixels(const RECT& place, bool inPixels) const;
+
+    HWND m_parent;
+    o7::UniqueWindow m_window;
+    DialogConversion& m_conversion;
+    HFONT m_parentFont;
+    int m_id;
+    int m_x;
+    int m_y;
+    int m_width;
+    int m_height;
+    bool m_clearOnDisable = false;
+    bool m_visible = false;
+};

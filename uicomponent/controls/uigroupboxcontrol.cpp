@@ -1,0 +1,26 @@
+#include "uigroupboxcontrol.h"
+
+#include "cxstring.h"
+
+namespace {
+
+constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | BS_GROUPBOX;
+static_assert(kStyle == 0x50000007);
+
+} // namespace
+
+UIGroupBoxControl::UIGroupBoxControl(HWND parent, int id, UIServices& services, HFONT font,
+                                     POINT location, SIZE size, const CXString& caption)
+    : UIControl(parent, id, services, font, location, size, false)
+{
+    setVisibleFlag(true);
+    createControlWindow(L"BUTTON", kStyle);
+    caption.SetWindowTextW(getHwnd());
+}
+
+UIGroupBoxControl::~UIGroupBoxControl() = default;
+
+void UIGroupBoxControl::dump() const
+{
+    dumpWindow(L"group", {});
+}

@@ -1,0 +1,182 @@
+#include "uitooltips.h"
+
+#include "cxstring.h"
+#include "isolationaware.h"
+#include "textmeasure.h"
+#include "uiwindowsmessage.h"
+#include "windowtext.h"
+
+#include <commctrl.h>
+
+namespace {
+
+constexpr DWORD kStyle = WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX;
+static_assert(kStyle == 0x80000003);
+
+constexpr int kMaximumWidth = 800; ///< pixels; longer texts go on in the next line
+constexpr int kTrackingOffset = 16;
+
+/// A tool without its text. The size is the one that every version of the library knows.
+TTTOOLINFOW toolInfo(HWND owner, HWND tool, UINT flags)
+{
+    TTTOOLINFOW info{};
+    info.cbSize = TTTOOLINFOW_V2_SIZE;
+    info.uFlags = flags;
+    info.hwnd = owner;
+    info.uId = reinterpret_cast<UINT_PTR>(tool);
+    return info;
+}
+
+TTTOOLINFOW windowTool(HWND owner, HWND tool, HINSTANCE instance, INT_PTR text)
+{
+    TTTOOLINFOW info = toolInfo(owner, tool, TTF_IDISHWND | TTF_SUBCLASS);
+    info.hinst = instance;
+    info.lpszText = reinterpret_cast<wchar_t*>(text);
+    return info;
+}
+
+LRESULT send(HWND window, UINT message, WPARAM wParam, TTTOOLINFOW& info)
+{
+    return ::SendMessageW(window, message, wParam, reinterpret_cast<LPARAM>(&info));
+}
+
+/// A string of this module by its number, or the string that the value points to.
+CXString resolveText(INT_PTR text)
+{
+    if (!IS_INTRESOURCE(text)) {
+        return reinterpret_cast<const wchar_t*>(text);
+    }
+    // With a size of 0 the answer is a pointer to the text in the resource itself.
+    const wchar_t* resource = nullptr;
+    const int length = ::LoadStringW(IsolationAware::moduleInstance(), static_cast<UINT>(text),
+                                     reinterpret_cast<LPWSTR>(&resource), 0);
+    return {resource, length};
+}
+
+/// A centred static text with one line ignores the mouse; this one has a tip to show.
+void letStaticNoticeMouse(HWND control)
+{
+    const LONG_PTR style = ::GetWindowLongPtrW(control, GWL_STYLE);
+    ::SetWindowLongPtrW(control, GWL_STYLE,
+                        (style & ~LONG_PTR{SS_CENTERIMAGE}) | LONG_PTR{SS_NOTIFY});
+}
+
+INT_PTR asText(const CXString& text)
+{
+    return reinterpret_cast<INT_PTR>(text.c_str());
+}
+
+} // namespace
+
+UIToolTips::UIToolTips(HWND owner)
+    : m_owner(owner),
+      m_window(IsolationAware::createWindow(
+          WS_EX_TOPMOST, TOOLTIPS_CLASSW, kStyle,
+          {CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT}, owner, 0))
+{
+    ::SendMessageW(getHwnd(), TTM_SETMAXTIPWIDTH, 0, kMaximumWidth);
+    subclassWindow(getHwnd());
+}
+
+UIToolTips::~UIToolTips()
+{
+    restoreProcedure();
+}
+
+LRESULT UIToolTips::AddToolAndTipMessage(HWND tool, HINSTANCE instance, INT_PTR text)
+{
+    TTTOOLINFOW info = windowTool(m_owner, tool, instance, text);
+    return send(getHwnd(), TTM_ADDTOOLW, 0, info);
+}
+
+LRESULT UIToolTips::AddToolAndTrackingTipMessage(HWND tool, HINSTANCE instance, INT_PTR text)
+{
+    TTTOOLINFOW info = windowTool(m_owner, tool, instance, text);
+    const LRESULT added = send(getHwnd(), TTM_ADDTOOLW, 0, info);
+    // Only a tool that is marked so stays where it is put, instead of beside the mouse.
+    info.uFlags |= TTF_TRACK | TTF_ABSOLUTE;
+    send(getHwnd(), TTM_SETTOOLINFOW, 0, info);
+    send(getHwnd(), TTM_TRACKACTIVATE, TRUE, info);
+    WINDOWINFO place{};
+    place.cbSize = sizeof place;
+    if (::GetWindowInfo(tool, &place) == FALSE) {
+        return 0;
+    }
+    ::SendMessageW(getHwnd(), TTM_TRACKPOSITION, 0,
+                   MAKELPARAM(place.rcWindow.left, place.rcWindow.top + kTrackingOffset));
+    return added;
+}
+
+void UIToolTips::UpdateTipMessage(HWND tool, HINSTANCE instance, INT_PTR text)
+{
+    TTTOOLINFOW info = windowTool(m_owner, tool, instance, text);
+    send(getHwnd(), TTM_UPDATETIPTEXTW, 0, info);
+}
+
+void UIToolTips::DeleteToolFromToolTip(HWND tool)
+{
+    TTTOOLINFOW info = toolInfo(m_owner, tool, TTF_IDISHWND | TTF_SUBCLASS);
+    send(getHwnd(), TTM_TRACKACTIVATE, FALSE, info);
+    send(getHwnd(), TTM_DELTOOLW, 0, info);
+}
+
+void UIToolTips::SetInitialTime(DWORD which, long milliseconds)
+{
+    ::SendMessageW(getHwnd(), TTM_SETDELAYTIME, which, MAKELPARAM(milliseconds, 0));
+}
+
+LRESULT UIToolTips::ToolExists()
+{
+    return ::SendMessageW(getHwnd(), TTM_GETCURRENTTOOLW, 0, 0);
+}
+
+void UIToolTips::AddToolTipAndTruncatedLabel(ControlType type, HWND control, INT_PTR extraText,
+                                             SIZE area, const CXString& label, HFONT font)
+{
+    CXString tip = o7::withoutMnemonics(label);
+    if (o7::TextMeasure(font).measure(tip.View()).cx <= area.cx) {
+        if (extraText != 0) {
+            AddToolAndTipMessage(control, IsolationAware::moduleInstance(), extraText);
+        }
+        return;
+    }
+    if (extraText != 0) {
+        tip += L" ";
+        tip += resolveText(extraText);
+    }
+    AddToolAndTipMessage(control, nullptr, asText(tip));
+    if (type == ControlType::StaticText) {
+        letStaticNoticeMouse(control);
+    }
+}
+
+void UIToolTips::setAreaTip(HWND control, const CXString& text)
+{
+    TTTOOLINFOW info = toolInfo(m_owner, control, 0);
+    send(getHwnd(), TTM_DELTOOLW, 0, info);
+    if (text.IsEmpty()) {
+        return;
+    }
+    ::GetWindowRect(control, &info.rect);
+    ::MapWindowPoints(nullptr, m_owner, reinterpret_cast<POINT*>(&info.rect), 2);
+    info.lpszText = const_cast<wchar_t*>(text.c_str());
+    send(getHwnd(), TTM_ADDTOOLW, 0, info);
+}
+
+void UIToolTips::relayMouse(const _UIWindowsMessage& message)
+{
+    if (message.message < WM_MOUSEFIRST || message.message > WM_MOUSELAST) {
+        return;
+    }
+    MSG event{};
+    event.hwnd = message.window;
+    event.message = message.message;
+    event.wParam = message.wParam;
+    event.lParam = message.lParam;
+    ::SendMessageW(getHwnd(), TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&event));
+}
+
+LRESULT UIToolTips::subclassWindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return callSavedProcedure(window, message, wParam, lParam);
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "cxstring.h"
+
+#include <windows.h>
+
+namespace o7 {
+
+/// The whole text of a window, however long.
+CXString windowText(HWND window);
+
+/// Sets the text unless the window shows it already: a repeated text would be painted again.
+/// Characters such as "&" keep their meaning. Returns true when it was set.
+bool setWindowTextIfDifferent(HWND window, const CXString& text);
+
+/// The text as it is displayed: "&&" is an ampersand, a single "&" before a letter marks the
+/// mnemonic and is not shown.
+CXString withoutMnemonics(const CXString& text);
+
+/// Line breaks and quotation marks written as escapes, for texts that have to stay on one line.
+CXString oneLine(const CXString& text);
+
+} // namespace o7

@@ -1,0 +1,131 @@
+// The words in which the tables of this folder are written: one call makes one row.
+#pragma once
+
+#include "productids.h"
+#include "uirecords.h"
+#include "uistringnumbers.h"
+
+namespace o7 {
+
+// The usual large page: two columns of 116 with a gap of 6 between margins of 7, or one of 238.
+inline constexpr std::int32_t kPageWidth = 252;
+inline constexpr std::int32_t kPageHeight = 218;
+inline constexpr std::int32_t kMargin = 7;
+inline constexpr std::int32_t kColumnWidth = 116;
+inline constexpr std::int32_t kSecondColumnX = 129;
+inline constexpr std::int32_t kWideColumnWidth = 238;
+
+namespace rows {
+
+template <tagFeatureEnum Feature, std::uint32_t Label>
+inline constexpr UIControlRecord kComboControls[] = {
+    {.kind = UIControlKind::Text, .feature = Feature, .label = Label},
+    {.kind = UIControlKind::Combo, .feature = Feature},
+};
+
+template <tagFeatureEnum Feature, std::uint32_t Label>
+inline constexpr UIControlRecord kCheckControls[] = {
+    {.kind = UIControlKind::Check, .feature = Feature, .label = Label},
+};
+
+template <tagValueEnum Checked, tagValueEnum Unchecked>
+inline constexpr UICheckRecord kOptionCheck{.checkedValue = Checked, .uncheckedValue = Unchecked};
+
+template <tagFeatureEnum Feature, std::uint32_t Label, tagValueEnum Checked, tagValueEnum Unchecked>
+inline constexpr UIControlRecord kOptionCheckControls[] = {
+    {.kind = UIControlKind::Check,
+     .feature = Feature,
+     .label = Label,
+     .extra = &kOptionCheck<Checked, Unchecked>},
+};
+
+template <std::uint32_t Lines> inline constexpr UITextRecord kTextLines{.lines = Lines};
+
+template <std::uint32_t Text, std::uint32_t Lines>
+inline constexpr UIControlRecord kTextControls[] = {
+    {.kind = UIControlKind::Text, .label = Text, .extra = &kTextLines<Lines>},
+};
+
+} // namespace rows
+
+/// A closed list with its label.
+template <tagFeatureEnum Feature, std::uint32_t Label> constexpr UIMoleculeRecord combo()
+{
+    return {.kind = UIMoleculeKind::ComboBox,
+            .controls = rows::kComboControls<Feature, Label>,
+            .featureState = 1};
+}
+
+/// A check box for a boolean feature.
+template <tagFeatureEnum Feature, std::uint32_t Label> constexpr UIMoleculeRecord check()
+{
+    return {.kind = UIMoleculeKind::CheckBox,
+            .controls = rows::kCheckControls<Feature, Label>,
+            .featureState = 1};
+}
+
+/// A check box for two values of an option feature.
+template <tagFeatureEnum Feature, std::uint32_t Label, tagValueEnum Checked, tagValueEnum Unchecked>
+constexpr UIMoleculeRecord check()
+{
+    return {.kind = UIMoleculeKind::CheckBox,
+            .controls = rows::kOptionCheckControls<Feature, Label, Checked, Unchecked>,
+            .featureState = 1};
+}
+
+/// A paragraph of explanation with room for that many lines.
+template <std::uint32_t Text, std::uint32_t Lines> constexpr UIMoleculeRecord text()
+{
+    return {.kind = UIMoleculeKind::Text, .controls = rows::kTextControls<Text, Lines>};
+}
+
+/// A frame around molecules.
+constexpr UIMoleculeRecord group(std::uint32_t title, UIRecords<UIMoleculeRecord> children)
+{
+    return {.kind = UIMoleculeKind::GroupBox, .children = children, .title = title};
+}
+
+constexpr UIColumnRecord left(UIRecords<UIMoleculeRecord> molecules)
+{
+    return {.x = kMargin, .width = kColumnWidth, .molecules = molecules};
+}
+
+constexpr UIColumnRecord right(UIRecords<UIMoleculeRecord> molecules)
+{
+    return {.x = kSecondColumnX, .width = kColumnWidth, .molecules = molecules};
+}
+
+/// One column over the whole width, with labels beside their boxes.
+constexpr UIColumnRecord wide(UIRecords<UIMoleculeRecord> molecules)
+{
+    return {.x = kMargin, .width = kWideColumnWidth, .labelWidth = 70, .molecules = molecules};
+}
+
+constexpr UIContainerRecord page(std::uint32_t id, std::uint32_t title,
+                                 UIRecords<UIColumnRecord> columns)
+{
+    return {
+        .id = id, .title = title, .width = kPageWidth, .height = kPageHeight, .columns = columns};
+}
+
+constexpr UIContainerRecord dialog(DialogId id, std::uint32_t title, std::int32_t height,
+                                   UIRecords<UIColumnRecord> columns,
+                                   UIRecords<UIDialogActionRecord> actions)
+{
+    return {.id = static_cast<std::uint32_t>(id),
+            .title = title,
+            .width = kPageWidth,
+            .height = height,
+            .columns = columns,
+            .dialogActions = actions};
+}
+
+inline constexpr UIDialogActionRecord kOkCancel[] = {
+    {.kind = UIDialogActionKind::Accept, .label = O7STR_OK, .isDefault = true},
+    {.kind = UIDialogActionKind::Cancel, .label = O7STR_CANCEL},
+};
+inline constexpr UIDialogActionRecord kOkOnly[] = {
+    {.kind = UIDialogActionKind::Accept, .label = O7STR_OK, .isDefault = true},
+};
+
+} // namespace o7

@@ -1,0 +1,153 @@
+#include "uipopupdialog.h"
+
+#include <algorithm>
+
+#include "dialogconversion.h"
+#include "productstringloader.h"
+#include "uibuttoncontrol.h"
+#include "uicontainerdata.h"
+#include "uicontext.h"
+#include "uidump.h"
+#include "uilayoutmanager.h"
+#include "uiservices.h"
+
+namespace {
+
+// Dialog units.
+constexpr long kButtonWidth = 50;
+constexpr long kButtonHeight = 14;
+constexpr long kButtonGap = 4;
+constexpr long kButtonRow = kButtonHeight + UILayoutManager::kMargin;
+
+RECT workAreaOf(HWND window)
+{
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
+    return monitor.rcWork;
+}
+
+} // namespace
+
+UIPopupDialog::UIPopupDialog(FeatureServices& featureServices, UIContext& context,
+                             UIServices& services, const ListOfFeaturesRef& features,
+                             const UIContainerData& data, bool wholeUi, void* param)
+    : UIMoleculeContainer(featureServices, context.strings, services),
+      m_data(data),
+      m_features(features),
+      m_wholeUi(wholeUi),
+      m_param(param)
+{
+    buildFrom(data);
+    const UILayoutManager layout(*getContainer(), data.getDialogActions().empty() ? 0 : kButtonRow);
+    layout.layOut();
+}
+
+UIPopupDialog::~UIPopupDialog() = default;
+
+bool UIPopupDialog::createOn(HWND window)
+{
+    getServices().getDialogConversion().initDialogConversions(window);
+    return true;
+}
+
+bool UIPopupDialog::handleMessage(const _UIWindowsMessage& message)
+{
+    if (message.message == WM_INITDIALOG && !getWindow())
+        return open(message);
+    if (message.window != getWindow())
+        return false;
+    switch (message.message) {
+    case WM_COMMAND:
+        return processCommand(message) || offerToMolecules(message);
+    case WM_CLOSE:
+        EndDialog(getWindow(), 0);
+        return true;
+    case WM_DESTROY: // the controls go while their windows still exist
+        releaseMolecules();
+        m_buttons.clear();
+        return false;
+    default:
+        return offerToMolecules(message);
+    }
+}
+
+bool UIPopupDialog::open(const _UIWindowsMessage& message)
+{
+    const HWND window = message.window;
+    SetWindowTextW(window, getStrings().LoadStringW(m_data.getTitle()).c_str());
+    if (!initialize(window))
+        return false;
+    createButtons();
+    placeOnScreen();
+    focusFirst();
+    // What the procedure answers for a claimed message would give the focus back to a window that
+    // the template does not have; the focus is set, so the message is left to the default.
+    return false;
+}
+
+void UIPopupDialog::createButtons()
+{
+    const auto& actions = m_data.getDialogActions();
+    const auto count = static_cast<long>(actions.size());
+    long x = m_data.getWidth() - UILayoutManager::kMargin - count * kButtonWidth -
+             (count - 1) * kButtonGap;
+    const long y = m_data.getHeight() - UILayoutManager::kMargin - kButtonHeight;
+    for (const auto& action : actions) {
+        auto button = std::make_unique<UIButtonControl>(
+            getWindow(), static_cast<int>(action->getControlId()), getServices(), getPage().font,
+            POINT{x, y}, SIZE{kButtonWidth, kButtonHeight}, action->isDefault());
+        SetWindowTextW(button->getHwnd(), getStrings().LoadStringW(action->getLabel()).c_str());
+        m_buttons.push_back(std::move(button));
+        x += kButtonWidth + kButtonGap;
+    }
+}
+
+void UIPopupDialog::focusFirst() const
+{
+    if (const HWND first = GetNextDlgTabItem(getWindow(), nullptr, FALSE))
+        PostMessageW(getWindow(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(first), TRUE);
+}
+
+void UIPopupDialog::placeOnScreen() const
+{
+    const HWND window = getWindow();
+    const HWND owner = m_wholeUi ? nullptr : GetWindow(window, GW_OWNER);
+    RECT place{};
+    GetWindowRect(window, &place);
+    const RECT area = workAreaOf(owner ? owner : window);
+    RECT around = area;
+    if (owner)
+        GetWindowRect(owner, &around);
+    const long width = place.right - place.left;
+    const long height = place.bottom - place.top;
+    const long x = std::clamp((around.left + around.right - width) / 2, area.left,
+                              std::max(area.left, area.right - width));
+    const long y = std::clamp((around.top + around.bottom - height) / 2, area.top,
+                              std::max(area.top, area.bottom - height));
+    SetWindowPos(window, nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+bool UIPopupDialog::processCommand(const _UIWindowsMessage& message) const
+{
+    if (HIWORD(message.wParam) != BN_CLICKED)
+        return false;
+    switch (LOWORD(message.wParam)) {
+    case IDOK:
+        EndDialog(getWindow(), 1);
+        return true;
+    case IDCANCEL:
+        EndDialog(getWindow(), 0);
+        return true;
+    default:
+        return false;
+    }
+}
+
+void UIPopupDialog::dump() const
+{
+    UIDump::line(std::wstring(L"dialog \"") + getStrings().LoadStringW(m_data.getTitle()).c_str() +
+                 L"\"");
+    const UIDump::Level inner;
+    dumpMolecules();
+}

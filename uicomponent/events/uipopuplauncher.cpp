@@ -1,0 +1,97 @@
+#include "uipopuplauncher.h"
+
+#include "cxstring.h"
+#include "featureservices.h"
+#include "isolationaware.h"
+#include "uicontext.h"
+#include "uidata.h"
+#include "uidialogprocedure.h"
+#include "uidialogtemplate.h"
+#include "uimessagemanager.h"
+#include "uipopupdialog.h"
+
+namespace {
+
+/// Keeps a handler in the dialog list for as long as the dialog can receive messages.
+class DialogRegistration
+{
+public:
+    DialogRegistration(UIMessageManager& manager, UIMessageHandler& handler) : m_manager(manager)
+    {
+        m_manager.append(UIMessageKind::Dialog, handler);
+    }
+    ~DialogRegistration() { m_manager.removeLast(UIMessageKind::Dialog); }
+    DialogRegistration(const DialogRegistration&) = delete;
+    DialogRegistration& operator=(const DialogRegistration&) = delete;
+
+private:
+    UIMessageManager& m_manager;
+};
+
+INT_PTR runModal(HINSTANCE instance, UIDialogTemplate& dialogTemplate, HWND parent,
+                 UIDialogRecord& record)
+{
+    IsolationAware::ActivationScope scope;
+    if (!scope.isActive())
+        return -1;
+    const INT_PTR result = DialogBoxIndirectParamW(instance, dialogTemplate.get(), parent,
+                                                   &UIDialogProcedure::dialogProcedure,
+                                                   reinterpret_cast<LPARAM>(&record));
+    if (result == -1)
+        scope.keepLastError();
+    return result;
+}
+
+} // namespace
+
+UIPopupLauncher::UIPopupLauncher(UIMessageManager& messageManager, HINSTANCE moduleInstance,
+                                 FeatureServices& featureServices, UIContext& context,
+                                 ProductData& productData, const UIData& uiData,
+                                 UIEventProcessor* eventProcessor, UIServices& services,
+                                 HANDLE activationContext, UIMode mode)
+    : m_messageManager(messageManager),
+      m_moduleInstance(moduleInstance),
+      m_featureServices(featureServices),
+      m_context(context),
+      m_productData(productData),
+      m_uiData(uiData),
+      m_eventProcessor(eventProcessor),
+      m_services(services),
+      m_activationContext(activationContext),
+      m_mode(mode)
+{
+}
+
+UIPopupLauncher::~UIPopupLauncher() = default;
+
+bool UIPopupLauncher::displayDialog(DialogId id, const ListOfFeaturesRef& features, HWND parent,
+                                    bool wholeUi)
+{
+    m_wholeUi = wholeUi;
+    return launch(id, features, parent, nullptr);
+}
+
+bool UIPopupLauncher::launch(DialogId id, const ListOfFeaturesRef& features, HWND parent,
+                             void* param)
+{
+    const UIContainerData* data = m_uiData.findDialog(id);
+    if (!data)
+        return false;
+    UIDialogTemplate dialogTemplate(m_moduleInstance);
+    if (!dialogTemplate.get())
+        return false;
+    dialogTemplate.setSize(data->getWidth(), data->getHeight());
+    dialogTemplate.makePopup(parent != nullptr);
+
+    const IsolationAware::CallerContext callerContext(m_activationContext);
+    UIPopupDialog dialog(m_featureServices, m_context, m_services, features, *data, m_wholeUi,
+                         param);
+    const DialogRegistration registration(m_messageManager, dialog);
+    UIDialogRecord record{&m_messageManager};
+    const auto transaction = m_featureServices.OpenTransaction(CXString(L"popup dialog"));
+    const INT_PTR result = runModal(m_moduleInstance, dialogTemplate, parent, record);
+    // A dialog that could not be shown (-1) has accepted nothing.
+    const bool accepted = result != 0 && result != -1;
+    transaction->Close(accepted);
+    return accepted;
+}

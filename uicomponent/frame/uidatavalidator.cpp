@@ -1,0 +1,25 @@
+#include "uidatavalidator.h"
+
+#include "featureservices.h"
+
+UIDataValidator::UIDataValidator(FeatureServices& featureServices, UIEventProcessor&)
+    : m_featureServices(featureServices)
+{
+}
+
+bool UIDataValidator::validate(const NMHDR&) const
+{
+    const auto list = m_featureServices.GetFullListOfFeatures();
+    const auto& node = list.GetNode();
+    const std::size_t count = node ? node->GetNumChildren() : 0;
+    for (std::size_t index = 0; index < count; ++index) {
+        const auto feature = node->GetChild(index);
+        if (!feature || feature->IsSpecified())
+            continue;
+        const auto capabilities = feature->GetCapabilities();
+        if (capabilities && capabilities->IsRequired() &&
+            !capabilities->GetInterpretedState().IsCleared())
+            return false;
+    }
+    return true;
+}

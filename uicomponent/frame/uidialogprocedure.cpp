@@ -1,0 +1,92 @@
+#include "uidialogprocedure.h"
+
+#include <prsht.h>
+
+#include "uiguard.h"
+#include "uimessagemanager.h"
+
+namespace {
+
+constexpr wchar_t kSource[] = L"uidialogprocedure";
+// In place of a template's address this stands for a page that has none, and so no record either.
+constexpr ULONG_PTR kNoResource = 0xFFFF;
+
+void storePointer(HWND window, void* pointer)
+{
+    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(pointer));
+}
+
+UIMessageManager* managerOfPage(LPARAM pageStructure)
+{
+    const auto& page = *reinterpret_cast<const PROPSHEETPAGEW*>(pageStructure);
+    if (reinterpret_cast<ULONG_PTR>(page.pResource) == kNoResource)
+        return nullptr;
+    return reinterpret_cast<const UIPageRecord*>(page.lParam)->messageManager;
+}
+
+_UIWindowsMessage pack(UIMessageKind kind, HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return {kind, window, message, wParam, lParam, 0};
+}
+
+INT_PTR routePage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_INITDIALOG)
+        storePointer(window, managerOfPage(lParam));
+    const auto* manager =
+        reinterpret_cast<UIMessageManager*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (!manager)
+        return 0;
+    const auto packed = pack(UIMessageKind::TabPage, window, message, wParam, lParam);
+    return manager->handleMessage(packed) ? packed.result : 0;
+}
+
+INT_PTR routeDialog(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_INITDIALOG)
+        storePointer(window, reinterpret_cast<void*>(lParam));
+    const auto* record =
+        reinterpret_cast<const UIDialogRecord*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (!record || !record->messageManager)
+        return 0;
+    const auto packed = pack(UIMessageKind::Dialog, window, message, wParam, lParam);
+    if (!record->messageManager->handleMessage(packed))
+        return 0;
+    if (message == WM_CTLCOLORSTATIC)
+        return packed.result; // a brush goes back directly
+    SetWindowLongPtrW(window, DWLP_MSGRESULT, packed.result);
+    return 1;
+}
+
+LRESULT routeOffTab(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const auto* manager =
+        static_cast<const UIMessageManager*>(GetPropW(window, UIDialogProcedure::kManagerProperty));
+    if (!manager)
+        return 0;
+    const auto packed = pack(UIMessageKind::OffTab, window, message, wParam, lParam);
+    return manager->handleMessage(packed) ? packed.result : 0;
+}
+
+} // namespace
+
+INT_PTR CALLBACK UIDialogProcedure::cpsuiDialogProcedure(HWND window, UINT message, WPARAM wParam,
+                                                         LPARAM lParam) noexcept
+{
+    return o7::guarded<INT_PTR>(L"CPSUIDialogProcedure", kSource,
+                                [=] { return routePage(window, message, wParam, lParam); });
+}
+
+INT_PTR CALLBACK UIDialogProcedure::dialogProcedure(HWND window, UINT message, WPARAM wParam,
+                                                    LPARAM lParam) noexcept
+{
+    return o7::guarded<INT_PTR>(L"DialogProcedure", kSource,
+                                [=] { return routeDialog(window, message, wParam, lParam); });
+}
+
+LRESULT CALLBACK UIDialogProcedure::offTabDialogProcedure(HWND window, UINT message, WPARAM wParam,
+                                                          LPARAM lParam) noexcept
+{
+    return o7::guarded<LRESULT>(L"OffTabDialogProcedure", kSource,
+                                [=] { return routeOffTab(window, message, wParam, lParam); });
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <windows.h>
+
+class UIMessageManager;
+
+/// What a page hands to its procedure as creation parameter.
+struct UIPageRecord
+{
+    UIMessageManager* messageManager = nullptr;
+    void* reserved = nullptr;
+    UINT_PTR tabId = 0; ///< decides which tab a new page window belongs to
+};
+
+/// What a popup dialog hands to its procedure as creation parameter.
+struct UIDialogRecord
+{
+    UIMessageManager* messageManager = nullptr;
+};
+
+/// The window procedures through which the system calls into the pages: the only places that pack
+/// messages. Each shows whatever is thrown behind it and answers 0; a window for which no message
+/// manager is known gets 0 without routing.
+class UIDialogProcedure
+{
+public:
+    /// Pages of a property sheet, under every entry.
+    static INT_PTR CALLBACK cpsuiDialogProcedure(HWND window, UINT message, WPARAM wParam,
+                                                 LPARAM lParam) noexcept;
+    /// Popup dialogs.
+    static INT_PTR CALLBACK dialogProcedure(HWND window, UINT message, WPARAM wParam,
+                                            LPARAM lParam) noexcept;
+    /// The property-sheet window itself, while it is subclassed for off-tab areas.
+    static LRESULT CALLBACK offTabDialogProcedure(HWND window, UINT message, WPARAM wParam,
+                                                  LPARAM lParam) noexcept;
+
+    /// Name of the window property that holds the message manager of a subclassed sheet.
+    static constexpr wchar_t kManagerProperty[] = L"O7UIMessageManager";
+};

@@ -1,0 +1,178 @@
+#include "uitab.h"
+
+#include <prsht.h>
+
+#include "featureservices.h"
+#include "uicontainerdata.h"
+#include "uicontext.h"
+#include "uidump.h"
+#include "uieventprocessor.h"
+#include "uilayoutmanager.h"
+
+namespace {
+
+// After these the model may have changed any setting at once, so the whole page is read again.
+constexpr DataModelIds::EventEnum kRefreshEvents[] = {
+    DataModelIds::kEventTab21017,
+    DataModelIds::kEventTab21005,
+    DataModelIds::kEventTab21056,
+};
+
+} // namespace
+
+UITab::UITab(FeatureServices& featureServices, UIContext& context, UIEventProcessor& eventProcessor,
+             UIServices& services, const ListOfFeaturesRef& features, ProductData& productData,
+             bool notifySuppressed)
+    : UIMoleculeContainer(featureServices, context.strings, services),
+      m_eventProcessor(eventProcessor),
+      m_features(features),
+      m_productData(productData),
+      m_notifySuppressed(notifySuppressed)
+{
+}
+
+UITab::~UITab()
+{
+    unregisterForEvents();
+}
+
+bool UITab::build(const UIContainerData& data, UINT_PTR tabId)
+{
+    m_data = &data;
+    m_pageRecord.tabId = tabId;
+    m_width = data.getWidth();
+    m_height = data.getHeight();
+    buildFrom(data);
+    const UILayoutManager layout(*getContainer());
+    m_misfit = layout.findMisfit();
+    if (!m_misfit.IsEmpty())
+        return false;
+    layout.layOut();
+    registerForEvents();
+    return true;
+}
+
+void UITab::registerForEvents()
+{
+    for (const auto event : kRefreshEvents)
+        getFeatureServices().RegisterForEvent(*this, EventId(event), DataModelIds::kObserverEvent);
+    m_registered = true;
+}
+
+void UITab::unregisterForEvents()
+{
+    if (!m_registered)
+        return;
+    for (const auto event : kRefreshEvents)
+        getFeatureServices().UnregisterForEvent(*this, EventId(event),
+                                                DataModelIds::kObserverEvent);
+    m_registered = false;
+}
+
+void UITab::ProcessNotification(const INotification&, unsigned int kind)
+{
+    if (kind == DataModelIds::kObserverEvent && getWindow())
+        refreshAll();
+}
+
+void UITab::settled()
+{
+    if (getWindow())
+        refreshAll();
+}
+
+bool UITab::handleMessage(const _UIWindowsMessage& message)
+{
+    if (message.message == WM_INITDIALOG)
+        return !getWindow() && takeWindow(message);
+    if (!getWindow() || message.window != getWindow())
+        return false;
+    switch (message.message) {
+    case WM_NOTIFY:
+        return handleNotification(message);
+    case WM_DESTROY: // the controls go while their windows still exist
+        releaseMolecules();
+        return false;
+    default:
+        return offerToMolecules(message);
+    }
+}
+
+bool UITab::takeWindow(const _UIWindowsMessage& message)
+{
+    const auto& page = *reinterpret_cast<const PROPSHEETPAGEW*>(message.lParam);
+    const auto& record = *reinterpret_cast<const UIPageRecord*>(page.lParam);
+    if (record.tabId != m_pageRecord.tabId)
+        return false;
+    return initialize(message.window);
+}
+
+bool UITab::handleNotification(const _UIWindowsMessage& message)
+{
+    switch (reinterpret_cast<const NMHDR*>(message.lParam)->code) {
+    case PSN_QUERYCANCEL:
+        return queryCancel(message);
+    case PSN_APPLY:
+        return apply(message);
+    case PSN_KILLACTIVE:
+        return killActive(message);
+    case PSN_SETACTIVE:
+        return setActive(message);
+    default:
+        return offerToMolecules(message);
+    }
+}
+
+void UITab::setResult(const _UIWindowsMessage& message, LONG_PTR result) const
+{
+    SetWindowLongPtrW(message.window, DWLP_MSGRESULT, result);
+    message.result = TRUE; // DWLP_MSGRESULT counts
+}
+
+bool UITab::queryCancel(const _UIWindowsMessage& message)
+{
+    setResult(message, FALSE);
+    if (!m_notifySuppressed)
+        m_eventProcessor.notifyDataModel(DataModelIds::kEventCancelQueried, getWindow());
+    return true;
+}
+
+bool UITab::apply(const _UIWindowsMessage& message)
+{
+    setResult(message, validateAll() ? PSNRET_NOERROR : PSNRET_INVALID);
+    return true;
+}
+
+bool UITab::killActive(const _UIWindowsMessage& message)
+{
+    if (m_data->validatesOnLeave() && !validateAll()) {
+        setResult(message, TRUE);
+        return true;
+    }
+    leavePageAll();
+    refreshAll();
+    setResult(message, FALSE);
+    return true;
+}
+
+bool UITab::setActive(const _UIWindowsMessage& message)
+{
+    connectAll();
+    m_eventProcessor.notifyDataModel(DataModelIds::kEventPageActivated, getWindow());
+    return offerToMolecules(message);
+}
+
+void UITab::dump() const
+{
+    UIDump::line(
+        CXString::Formatted(L"tab \"%s\" %ld x %ld", m_title.c_str(), m_width, m_height).View());
+    const UIDump::Level inner;
+    if (!getWindow())
+        UIDump::line(L"not visited");
+    dumpMolecules();
+}
+
+CXString UITab::GetObserverClassNameHeirarchy() const
+{
+    return CXString(L"UITab : UIMoleculeContainer : UIMessageHandler : IObserver");
+}

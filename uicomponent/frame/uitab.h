@@ -1,0 +1,75 @@
+#pragma once
+
+#include <windows.h>
+
+#include "cxstring.h"
+#include "iobserver.h"
+#include "listoffeaturesref.h"
+#include "uidialogprocedure.h"
+#include "uidialogtemplate.h"
+#include "uimessagehandler.h"
+#include "uimoleculecontainer.h"
+
+class ProductData;
+class UIEventProcessor;
+struct UIContext;
+
+/// One page of a property sheet: the molecules of its description, and the notifications of the
+/// sheet turned into validation and data-model events. Exists from the creation of the page handle;
+/// its window comes only when the user first visits it.
+class UITab : public UIMoleculeContainer, public UIMessageHandler, public IObserver
+{
+public:
+    /// @param features           the full feature list; the tab keeps its own reference.
+    /// @param notifySuppressed   the tab sends no event when Cancel is queried.
+    UITab(FeatureServices& featureServices, UIContext& context, UIEventProcessor& eventProcessor,
+          UIServices& services, const ListOfFeaturesRef& features, ProductData& productData,
+          bool notifySuppressed);
+    ~UITab() override;
+
+    bool handleMessage(const _UIWindowsMessage& message) override;
+    void dump() const override;
+    void ProcessNotification(const INotification& notification, unsigned int kind) override;
+    CXString GetObserverClassNameHeirarchy() const override;
+
+    /// Called once the data model has settled: what is on screen already is brought up to date.
+    void settled();
+
+    const CXString& getTitle() const { return m_title; }
+    void setTitle(const CXString& title) { m_title = title; }
+    long getWidth() const { return m_width; }   ///< dialog units
+    long getHeight() const { return m_height; } ///< dialog units
+    UIPageRecord& getPageRecord() { return m_pageRecord; }
+    /// Why the tab is not shown; empty when it is.
+    const CXString& getMisfit() const { return m_misfit; }
+    /// The template of the page, which has to live as long as the page can be created.
+    void adoptTemplate(UIDialogTemplate dialogTemplate) { m_template = std::move(dialogTemplate); }
+
+    /// Builds columns and molecules and lays them out.
+    /// @return whether the tab is to be shown: false when its content does not fit the page.
+    virtual bool build(const UIContainerData& data, UINT_PTR tabId);
+
+private:
+    bool takeWindow(const _UIWindowsMessage& message);
+    bool handleNotification(const _UIWindowsMessage& message);
+    bool queryCancel(const _UIWindowsMessage& message);
+    bool apply(const _UIWindowsMessage& message);
+    bool killActive(const _UIWindowsMessage& message);
+    bool setActive(const _UIWindowsMessage& message);
+    void setResult(const _UIWindowsMessage& message, LONG_PTR result) const;
+    void registerForEvents();
+    void unregisterForEvents();
+
+    UIEventProcessor& m_eventProcessor;
+    ListOfFeaturesRef m_features;
+    ProductData& m_productData;
+    const UIContainerData* m_data = nullptr;
+    CXString m_title;
+    CXString m_misfit;
+    long m_width = 0;
+    long m_height = 0;
+    UIPageRecord m_pageRecord;
+    UIDialogTemplate m_template;
+    bool m_notifySuppressed;
+    bool m_registered = false;
+};

@@ -1,0 +1,110 @@
+#pragma once
+
+#include <windows.h>
+
+#include <prsht.h>
+
+#include <memory>
+#include <vector>
+
+#include "uidatalist.h"
+#include "uimessagehandler.h"
+#include "uimessagemask.h"
+#include "uimode.h"
+
+class FeatureServices;
+class ProductData;
+class UIContainerData;
+class UIEventProcessor;
+class UIMessageManager;
+class UIServices;
+class UITab;
+struct UIContext;
+
+using UIComPropSheetCallback = LONG_PTR(CALLBACK*)(HANDLE, UINT, LPARAM, LPARAM);
+
+/// Turns tab descriptions into property-sheet pages, receives the messages of those pages, and
+/// turns the Apply of a whole sheet into one event for the data model. Virtual operations keep
+/// their order.
+class UITabManager : public UIMessageHandler
+{
+public:
+    using Descriptions = std::vector<const UIContainerData*>;
+
+    /// Everything is borrowed and must outlive the manager.
+    UITabManager(UIServices& services, UIMessageManager& messageManager, HINSTANCE moduleInstance,
+                 FeatureServices& featureServices, UIContext& context, ProductData& productData,
+                 UIEventProcessor& eventProcessor, UIMode mode, unsigned long option);
+    UITabManager(const UITabManager&) = delete;
+    UITabManager& operator=(const UITabManager&) = delete;
+    ~UITabManager() override;
+
+    bool handleMessage(const _UIWindowsMessage& message) override;
+    /// Dumps every tab, in creation order.
+    void dump() const override;
+
+    /// Pages for PropertySheetW. @return how many; their handles are written to `pages`, and belong
+    /// to whoever passes them to a sheet.
+    /// @param room  length of `pages`; descriptions beyond it get no page.
+    /// @throws ExceptionTabCreationFailure
+    virtual std::size_t createPagesForPropertySheet(const Descriptions& descriptions,
+                                                    HPROPSHEETPAGE* pages, std::size_t room,
+                                                    HANDLE activationContext);
+    /// Pages for a sheet that exists already (PSM_ADDPAGE).
+    /// @throws ExceptionTabCreationFailure
+    virtual void createPagesForSheetWindow(const Descriptions& descriptions, HWND sheet,
+                                           HANDLE activationContext);
+    /// Pages for the print system's sheet, through its callback.
+    /// @throws ExceptionTabCreationFailure
+    virtual void createPagesForCPSUI(const Descriptions& descriptions, HANDLE sheet,
+                                     UIComPropSheetCallback callback, HANDLE activationContext);
+    /// Called when the data model has settled: what is on screen already is brought up to date.
+    virtual void buildTabs(const Descriptions& descriptions);
+
+    long getLargestWidth() const { return m_largestWidth; }   ///< dialog units
+    long getLargestHeight() const { return m_largestHeight; } ///< dialog units
+    const std::vector<std::unique_ptr<UITab>>& getTabs() const { return m_tabs; }
+
+protected:
+    /// Messages of the pages.
+    virtual bool handlePageMessage(const _UIWindowsMessage& message);
+    /// Messages of the sheet window. Without off-tab areas the sheet is not subclassed and none
+    /// arrive.
+    virtual bool handleOffTabMessage(const _UIWindowsMessage& message);
+
+    /// Offers a message to the tabs in creation order, up to the first that claims it.
+    bool offerToTabs(const _UIWindowsMessage& message) const;
+
+private:
+    struct Page;
+
+    UITab* buildTab(const UIContainerData& description, HANDLE activationContext, Page& page);
+    void keepPage(HPROPSHEETPAGE page, UITab& tab);
+    bool initializePage(const _UIWindowsMessage& message);
+    void postFirstPaint(const _UIWindowsMessage& message);
+    bool applyPage(const _UIWindowsMessage& message);
+    void rejectApply();
+    void completeApply(const _UIWindowsMessage& message);
+    bool showApplyWarning(HWND page) const;
+    void updateApplyButton(HWND page);
+
+    std::vector<HPROPSHEETPAGE> m_pages;
+    HANDLE m_cpsuiSheet = nullptr;
+    UIComPropSheetCallback m_cpsuiCallback = nullptr;
+    std::vector<std::unique_ptr<UITab>> m_tabs;
+    HINSTANCE m_moduleInstance;
+    UIMessageManager& m_messageManager;
+    FeatureServices& m_featureServices;
+    UIContext& m_context;
+    ProductData& m_productData;
+    UIEventProcessor& m_eventProcessor;
+    UIServices& m_services;
+    UIMode m_mode;
+    unsigned long m_option;
+    bool m_tabFlag = false;
+    bool m_firstPaintPending = true;
+    bool m_modifiedShown = false;
+    long m_largestWidth = 0;
+    long m_largestHeight = 0;
+    UIMessageMask m_wanted;
+};

@@ -1,0 +1,156 @@
+#include "uicomboboxmolecule.h"
+
+#include <algorithm>
+
+#include "uicomboboxcontrol.h"
+#include "uicombocontroldata.h"
+#include "uicontroldata.h"
+#include "uimoleculedata.h"
+#include "uimoleculedump.h"
+#include "uitextcontrol.h"
+
+namespace {
+
+// Dialog units.
+constexpr long kListHeight = 12;       // closed, at least
+constexpr long kRaisedListHeight = 21; // with room for a button beside it
+constexpr long kBoxHeight = 14;        // closed, as drawn
+constexpr long kTextHeight = 8;
+constexpr long kLabelGap = 1;  // between a label and the box under it
+constexpr long kLabelDrop = 3; // of a label beside the box
+
+} // namespace
+
+UIComboBoxMolecule::UIComboBoxMolecule(const UIMoleculeData& data, const UIMoleculeSite& site)
+    : UIComboListBaseMolecule(data, site)
+{
+}
+
+UIComboBoxMolecule::~UIComboBoxMolecule() = default;
+
+void UIComboBoxMolecule::InitializeFromDescription()
+{
+    long least = 0;
+    bool raised = GetData().hasRaisedHeight();
+    for (const auto& control : GetData().getControls()) {
+        switch (control->getKind()) {
+        case UIControlKind::Combo:
+            SetBoundFeature(FeatureIdWithContext(FeatureId(control->getFeature())));
+            least = static_cast<long>(
+                static_cast<const UIComboControlData&>(*control).getMinimumHeight());
+            break;
+        case UIControlKind::BitmapButton:
+            raised = true;
+            break;
+        case UIControlKind::Text:
+            m_labelText = control->getLabel();
+            break;
+        default:
+            break;
+        }
+    }
+    const long box = std::max({raised ? kRaisedListHeight : kListHeight, least, kBoxHeight});
+    const bool labelAbove = m_labelText && !GetLabelWidth();
+    SetMinimumExtent({0, box + (labelAbove ? kTextHeight + kLabelGap : 0)});
+}
+
+void UIComboBoxMolecule::CreateLabel(UIPageWindow& page)
+{
+    const long labelWidth = GetLabelWidth();
+    const POINT place = GetPosition();
+    const SIZE size{labelWidth ? labelWidth : GetContentWidth(), kTextHeight};
+    m_label =
+        std::make_unique<UITextControl>(page.window, page.takeId(), GetSite().services, page.font,
+                                        POINT{place.x, place.y + (labelWidth ? kLabelDrop : 0)},
+                                        size, SS_NOTIFY, true, page.boldFont);
+    SetWindowTextW(m_label->getHwnd(), LoadText(m_labelText).c_str());
+}
+
+void UIComboBoxMolecule::CreateControls(UIPageWindow& page)
+{
+    SetPage(page);
+    if (m_labelText)
+        CreateLabel(page);
+    const POINT place = GetPosition();
+    const long labelWidth = m_labelText ? GetLabelWidth() : 0;
+    m_combo = std::make_unique<UIComboBoxControl>(
+        page.window, page.takeId(), GetSite().services, page.font,
+        POINT{place.x + labelWidth, place.y + GetMinimumHeight() - kBoxHeight},
+        SIZE{GetContentWidth() - labelWidth, kBoxHeight});
+}
+
+void UIComboBoxMolecule::SetPosition(POINT position)
+{
+    const POINT delta{position.x - GetPosition().x, position.y - GetPosition().y};
+    UIComboListBaseMolecule::SetPosition(position);
+    if (m_label)
+        m_label->move(delta, false);
+    if (m_combo)
+        m_combo->move(delta, false);
+}
+
+IComboListControl* UIComboBoxMolecule::List() const
+{
+    return m_combo.get();
+}
+
+void UIComboBoxMolecule::FillTogether(const std::function<void()>& fill)
+{
+    const UIComboBoxControl::Fill filling(*m_combo);
+    fill();
+}
+
+void UIComboBoxMolecule::EnableControls(bool enabled)
+{
+    if (m_label)
+        m_label->setEnable(enabled);
+    if (m_combo)
+        m_combo->setEnable(enabled);
+}
+
+bool UIComboBoxMolecule::HandleMessage(const _UIWindowsMessage& message)
+{
+    if (!m_combo)
+        return false;
+    const HWND combo = m_combo->getHwnd();
+    if (message.message == WM_COMMAND && reinterpret_cast<HWND>(message.lParam) == combo &&
+        HIWORD(message.wParam) == CBN_SELCHANGE) {
+        ChooseEntry(m_combo->getSelection(true));
+        return true;
+    }
+    if (message.message == WM_DRAWITEM) {
+        const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(message.lParam);
+        if (item.hwndItem == combo) {
+            m_combo->draw(item);
+            message.result = TRUE;
+            return true;
+        }
+    }
+    return ProcessCommonMessage(message);
+}
+
+void UIComboBoxMolecule::LookChanged()
+{
+    if (m_combo)
+        InvalidateRect(m_combo->getHwnd(), nullptr, TRUE);
+}
+
+void UIComboBoxMolecule::Show(bool shown)
+{
+    UIComboListBaseMolecule::Show(shown);
+    if (m_label)
+        m_label->setShow(shown);
+    if (m_combo)
+        m_combo->setShow(shown);
+}
+
+void UIComboBoxMolecule::DumpControls() const
+{
+    o7::dumpControl(L"list", LoadText(m_labelText), ShownText(), StateText(), GetInfoText());
+    DumpOptions();
+}
+
+CXString UIComboBoxMolecule::GetObserverClassNameHeirarchy() const
+{
+    return CXString(L"UIComboBoxMolecule:UIComboListBaseMolecule:UIFeatureMolecule:UIMolecule");
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <memory>
+
+#include "uicombolistbasemolecule.h"
+
+class UIComboBoxControl;
+class UITextControl;
+
+/// A labelled drop-down list of the options of a feature. With a label width the label stands to
+/// the left of the list, otherwise above it.
+class UIComboBoxMolecule : public UIComboListBaseMolecule
+{
+public:
+    UIComboBoxMolecule(const UIMoleculeData& data, const UIMoleculeSite& site);
+    ~UIComboBoxMolecule() override;
+
+    bool HandleMessage(const _UIWindowsMessage& message) override;
+    void SetPosition(POINT position) override;
+    void CreateControls(UIPageWindow& page) override;
+    void InitializeFromDescription() override;
+    void LookChanged() override;
+    void DumpControls() const override;
+    void Show(bool shown) override;
+    CXString GetObserverClassNameHeirarchy() const override;
+
+protected:
+    IComboListControl* List() const override;
+    void EnableControls(bool enabled) override;
+    void FillTogether(const std::function<void()>& fill) override;
+
+private:
+    void CreateLabel(UIPageWindow& page);
+
+    std::unique_ptr<UITextControl> m_label;
+    std::unique_ptr<UIComboBoxControl> m_combo;
+    unsigned m_labelText = 0;
+};

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "uimolecule.h"
+
+/// A molecule that is bound to one feature: the protocol that all of them follow alike.
+/// Connecting registers for the feature (settings instance 23001, kind 26010) and loads value and
+/// state; notifications reload the one or the other; disconnecting is the exact inverse.
+/// A subclass adds reading, showing and writing.
+class UIFeatureMolecule : public UIMolecule
+{
+public:
+    using UIMolecule::UIMolecule;
+    ~UIFeatureMolecule() override;
+
+    void ConnectToDataModel() override;
+    void DisconnectFromDataModel() override;
+    void Refresh() override;
+    void CollectSettings(SetOfSettingIds& settings) const override;
+    void ProcessNotification(const INotification& notification, unsigned int kind) override;
+    CXString GetObserverClassNameHeirarchy() const override;
+
+protected:
+    /// Reads the value and shows it. Safe to repeat; never writes.
+    virtual void LoadValue() = 0;
+    /// Enables, clears and fills the controls from the state. Safe to repeat; never writes.
+    virtual void ShowState(const InterpretedState& state, bool enabled) = 0;
+
+    /// Reads the state of the feature and shows it.
+    void LoadState();
+    /// The state last shown, for descriptions.
+    const InterpretedState& GetState() const { return m_state; }
+    bool IsEnabled() const { return m_enabled; }
+    /// "enabled", "disabled", "disabled, cleared" or "hidden".
+    CXString StateText() const;
+
+private:
+    void ProcessChange(const INotification& notification);
+
+    InterpretedState m_state;
+    bool m_connected = false;
+    bool m_enabled = true;
+    bool m_shown = true;
+};

@@ -1,0 +1,93 @@
+#include "uigroupboxmolecule.h"
+
+#include "uigroupboxcontrol.h"
+#include "uimoleculedata.h"
+#include "uimoleculedump.h"
+#include "uimoleculefactory.h"
+#include "uimoleculestack.h"
+
+namespace {
+
+// Dialog units.
+constexpr long kFirstControlTop = 11;
+constexpr long kBelowLastControl = 7;
+constexpr long kInset = 9;
+// The lane of the info buttons reaches this far into the right margin, so that the boxes inside
+// stay as wide as they can be.
+constexpr long kInsetRight = 4;
+
+} // namespace
+
+UIGroupBoxMolecule::UIGroupBoxMolecule(const UIMoleculeData& data, const UIMoleculeSite& site)
+    : UIMolecule(data, site)
+{
+    m_inner = UIMoleculeFactory::createAll(data.getChildren(), site);
+}
+
+UIGroupBoxMolecule::~UIGroupBoxMolecule() = default;
+
+bool UIGroupBoxMolecule::HandleMessage(const _UIWindowsMessage& message)
+{
+    return ProcessCommonMessage(message);
+}
+
+void UIGroupBoxMolecule::InitializeFromDescription()
+{
+    for (const auto& molecule : m_inner) {
+        molecule->SetLabelWidth(GetLabelWidth());
+        molecule->InitializeFromDescription();
+    }
+    SetMinimumExtent({0, kFirstControlTop + UIMoleculeStack::height(m_inner) + kBelowLastControl});
+}
+
+void UIGroupBoxMolecule::SetPositionAndWidth(POINT position, long width)
+{
+    UIMolecule::SetPositionAndWidth(position, width);
+    UIMoleculeStack::place(m_inner, {position.x + kInset, position.y + kFirstControlTop},
+                           width - kInset - kInsetRight);
+}
+
+void UIGroupBoxMolecule::SetPosition(POINT position)
+{
+    const POINT delta{position.x - GetPosition().x, position.y - GetPosition().y};
+    UIMolecule::SetPosition(position);
+    if (m_frame)
+        m_frame->move(delta, false);
+    for (const auto& molecule : m_inner) {
+        const POINT old = molecule->GetPosition();
+        molecule->SetPosition({old.x + delta.x, old.y + delta.y});
+    }
+}
+
+void UIGroupBoxMolecule::CreateControls(UIPageWindow& page)
+{
+    SetPage(page);
+    m_frame = std::make_unique<UIGroupBoxControl>(
+        page.window, page.takeId(), GetSite().services, page.font, GetPosition(),
+        SIZE{GetWidth(), GetMinimumHeight()}, LoadText(GetData().getTitle()));
+}
+
+void UIGroupBoxMolecule::Inner(std::vector<UIMolecule*>& molecules)
+{
+    for (const auto& molecule : m_inner) {
+        molecules.push_back(molecule.get());
+        molecule->Inner(molecules);
+    }
+}
+
+void UIGroupBoxMolecule::Show(bool shown)
+{
+    UIMolecule::Show(shown);
+    if (m_frame)
+        m_frame->setShow(shown);
+}
+
+void UIGroupBoxMolecule::DumpControls() const
+{
+    o7::dumpControl(L"group", LoadText(GetData().getTitle()), CXString(), CXString(), CXString());
+}
+
+CXString UIGroupBoxMolecule::GetObserverClassNameHeirarchy() const
+{
+    return CXString(L"UIGroupBoxMolecule:UIMolecule");
+}

@@ -1,0 +1,39 @@
+#include "uilayoutmanager.h"
+
+#include "uicolumndata.h"
+#include "uicontainer.h"
+#include "uicontainerdata.h"
+#include "uimoleculestack.h"
+
+UILayoutManager::UILayoutManager(const UIContainer& container, long extraHeight)
+    : m_container(container), m_extraHeight(extraHeight)
+{
+}
+
+CXString UILayoutManager::findMisfit() const
+{
+    const UIContainerData& page = m_container.getData();
+    const long room = page.getHeight() - 2 * kMargin - m_extraHeight;
+    unsigned number = 0;
+    for (const auto& column : m_container.getColumns()) {
+        ++number;
+        const UIColumnData& data = column->getData();
+        if (data.getX() < 0 || data.getX() + data.getWidth() > page.getWidth())
+            return CXString::Formatted(L"page %u: column %u reaches beyond the page's width",
+                                       page.getId(), number);
+        if (column->getHeight() > room)
+            return CXString::Formatted(
+                L"page %u: column %u is %ld high, %ld more than there is room for; its last "
+                L"molecule is %s",
+                page.getId(), number, column->getHeight(), column->getHeight() - room,
+                column->getMolecules().back()->GetDumpDisplayString(false).c_str());
+    }
+    return {};
+}
+
+void UILayoutManager::layOut() const
+{
+    for (const auto& column : m_container.getColumns())
+        UIMoleculeStack::place(column->getMolecules(), {column->getData().getX(), kMargin},
+                               column->getData().getWidth());
+}

@@ -1,0 +1,270 @@
+#include "uimolecule.h"
+
+#include "featureservices.h"
+#include "productstringloader.h"
+#include "setofsettingids.h"
+#include "uidump.h"
+#include "uiinfobuttoncontrol.h"
+#include "uimoleculedata.h"
+#include "uiservices.h"
+#include "uitooltips.h"
+
+namespace {
+
+// Dialog units.
+constexpr long kInfoButtonSize = 10;
+constexpr long kOneLineBox = 14;
+
+// The messages that ProcessCommonMessage and the controls of a molecule may answer to.
+constexpr UINT kCommonMessages[] = {
+    WM_COMMAND,        WM_NOTIFY,          WM_DRAWITEM,       WM_MEASUREITEM,  WM_SYSCOLORCHANGE,
+    WM_CTLCOLORSTATIC, WM_QUERYNEWPALETTE, WM_PALETTECHANGED, WM_THEMECHANGED,
+};
+
+} // namespace
+
+UIMolecule::UIMolecule(const UIMoleculeData& data, const UIMoleculeSite& site)
+    : m_data(data), m_site(site)
+{
+}
+
+UIMolecule::~UIMolecule() = default;
+
+bool UIMolecule::HandleMessage(const _UIWindowsMessage&)
+{
+    return false;
+}
+
+void UIMolecule::Refresh()
+{
+}
+
+bool UIMolecule::IsHiddenBySetting() const
+{
+    return false;
+}
+
+void UIMolecule::SetPosition(POINT position)
+{
+    const POINT delta{position.x - m_position.x, position.y - m_position.y};
+    m_position = position;
+    if (m_infoButton)
+        m_infoButton->move(delta, false);
+}
+
+void UIMolecule::SetMinimumExtent(SIZE extent)
+{
+    m_minimumExtent = extent;
+}
+
+void UIMolecule::SetPositionAndWidth(POINT position, long width)
+{
+    m_position = position;
+    m_width = width;
+}
+
+void UIMolecule::SetShownOnPage(bool shown)
+{
+    m_shownOnPage = shown;
+}
+
+void UIMolecule::SetToolTips(UIToolTips* toolTips)
+{
+    m_toolTips = toolTips;
+}
+
+void UIMolecule::SetForceDisabled(bool disabled)
+{
+    m_forceDisabled = disabled;
+}
+
+bool UIMolecule::ProcessCommonMessage(const _UIWindowsMessage& message)
+{
+    switch (message.message) {
+    case WM_COMMAND:
+        return m_infoButton && m_infoButton->handleMessage(message);
+    case WM_DRAWITEM:
+        return m_infoButton && m_infoButton->handleMessage(message);
+    case WM_QUERYNEWPALETTE:
+        InvalidateRect(message.window, nullptr, TRUE);
+        message.result = 1;
+        return true;
+    case WM_PALETTECHANGED: {
+        const HWND changer = reinterpret_cast<HWND>(message.wParam);
+        if (changer != message.window && !IsChild(message.window, changer))
+            InvalidateRect(message.window, nullptr, TRUE);
+        return false;
+    }
+    case WM_SYSCOLORCHANGE:
+    case WM_THEMECHANGED:
+        LookChanged();
+        return false; // the other molecules have to know as well
+    default:
+        return false;
+    }
+}
+
+bool UIMolecule::Validate()
+{
+    return true;
+}
+
+void UIMolecule::LeavePage()
+{
+}
+void UIMolecule::ConnectToDataModel()
+{
+}
+void UIMolecule::DisconnectFromDataModel()
+{
+}
+
+int UIMolecule::GetFeatureState() const
+{
+    return m_data.hasFeatureState() ? 1 : 2;
+}
+
+void UIMolecule::ShowInfoButton(bool shown)
+{
+    if (m_infoButton)
+        m_infoButton->setShow(shown);
+}
+
+void UIMolecule::LookChanged()
+{
+}
+void UIMolecule::CollectSettings(SetOfSettingIds&) const
+{
+}
+
+UIMolecule::InfoStyle UIMolecule::WantedInfoStyle(const InterpretedState& state) const
+{
+    if (state.HasCbrBtnMsg())
+        return InfoStyle::Conflict;
+    const bool limited = state.IsDisabled() || state.IsCleared();
+    return state.HasInfoBtnMsg() || limited ? InfoStyle::Information : InfoStyle::None;
+}
+
+void UIMolecule::UpdateInfoButton(const FeatureIdWithContext&, const InterpretedState& state)
+{
+    m_infoStyle = WantedInfoStyle(state);
+    m_infoText = CXString();
+    if (m_infoStyle == InfoStyle::Conflict)
+        m_infoText = state.GetCbrBtnMsg();
+    else if (m_infoStyle == InfoStyle::Information)
+        m_infoText = state.HasInfoBtnMsg() ? state.GetInfoBtnMsg() : state.GetReason();
+
+    if (m_infoStyle == InfoStyle::None) {
+        m_infoButton.reset(); // takes its tip with it
+        return;
+    }
+    if (!m_infoButton)
+        CreateInfoButton();
+    if (m_infoButton)
+        m_infoButton->setMessage(
+            static_cast<std::uint32_t>(m_infoStyle), m_infoText,
+            m_site.strings.GetStringForFeature(m_feature.GetFeatureId().GetFeatureEnum()));
+}
+
+void UIMolecule::CreateInfoButton()
+{
+    if (!m_page)
+        return;
+    const long height = m_minimumExtent.cy;
+    const long fromBottom = (kOneLineBox - kInfoButtonSize) / 2;
+    const long top = height > kInfoButtonSize ? height - kInfoButtonSize - fromBottom : 0;
+    m_infoButton = std::make_unique<UIInfoButtonControl>(
+        m_page, m_infoButtonId, m_site.services,
+        POINT{m_position.x + m_width - kInfoButtonSize, m_position.y + top},
+        SIZE{kInfoButtonSize, kInfoButtonSize}, m_toolTips);
+}
+
+void UIMolecule::SetPage(UIPageWindow& page)
+{
+    m_page = page.window;
+    m_infoButtonId = page.takeId();
+}
+
+CXString UIMolecule::LoadText(unsigned number) const
+{
+    return number ? DecorateText(m_site.strings.LoadStringW(number)) : CXString();
+}
+
+ListOfFeaturesRef UIMolecule::GetMoleculeFeatures()
+{
+    return m_site.featureServices.GetListOfFeaturesFor(m_feature);
+}
+
+long UIMolecule::GetIndent() const
+{
+    return 0;
+}
+
+SIZE UIMolecule::GetExtraExtent() const
+{
+    return {};
+}
+
+bool UIMolecule::HasInfoMessage() const
+{
+    return m_infoStyle == InfoStyle::Information;
+}
+
+bool UIMolecule::HasConflictMessage() const
+{
+    return m_infoStyle == InfoStyle::Conflict;
+}
+
+CXString UIMolecule::GetInfoText() const
+{
+    return m_infoText;
+}
+
+CXString UIMolecule::DecorateText(const CXString& text) const
+{
+    return text;
+}
+
+void UIMolecule::CollectWantedMessages(UIMessageMask& mask) const
+{
+    for (const UINT message : kCommonMessages)
+        mask.add(message);
+}
+
+void UIMolecule::DumpControls() const
+{
+}
+void UIMolecule::Inner(std::vector<UIMolecule*>&)
+{
+}
+void UIMolecule::Show(bool shown)
+{
+    ShowInfoButton(shown);
+}
+
+void UIMolecule::ProcessNotification(const INotification&, unsigned int)
+{
+}
+
+CXString UIMolecule::GetObserverClassNameHeirarchy() const
+{
+    return CXString(L"UIMolecule : IObserver");
+}
+
+CXString UIMolecule::GetDumpDisplayString(bool detailed) const
+{
+    if (!detailed)
+        return GetObserverClassNameHeirarchy() + L" of " +
+               m_feature.GetFeatureId().GetFeatureLeafName();
+    std::wstring text;
+    {
+        const UIDump collector(text);
+        DumpControls();
+    }
+    return CXString(std::wstring_view(text));
+}
+
+bool UIMolecule::IsBound() const
+{
+    return m_feature.GetFeatureId().GetFeatureEnum() != DataModelIds::kNoFeature;
+}

@@ -1,0 +1,162 @@
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "cxstring.h"
+#include "featureidwithcontext.h"
+#include "interpretedstate.h"
+#include "iobserver.h"
+#include "listoffeaturesref.h"
+#include "uimessagemask.h"
+#include "uimoleculeroot.h"
+#include "uimoleculesite.h"
+#include "uipagewindow.h"
+#include "uiwindowsmessage.h"
+
+class SetOfSettingIds;
+class UIInfoButtonControl;
+class UIMoleculeData;
+class UIToolTips;
+
+/// The unit that binds a few controls to one feature of the data model. A page holds its molecules
+/// in a UIMoleculeContainer, which drives them in this order: InitializeFromDescription,
+/// SetPosition, CreateControls, ConnectToDataModel, then messages and notifications in any order,
+/// DisconnectFromDataModel, destructor. Positions and sizes are dialog units until the controls are
+/// created. The virtual operations keep their order; additions go last.
+class UIMolecule : public UIMoleculeRoot, public IObserver
+{
+public:
+    /// Which of the two marks the info button carries.
+    enum class InfoStyle : std::uint32_t
+    {
+        None = 0,
+        Information = 1,
+        Conflict = 2
+    };
+
+    UIMolecule(const UIMoleculeData& data, const UIMoleculeSite& site);
+    UIMolecule(const UIMolecule&) = delete;
+    UIMolecule& operator=(const UIMolecule&) = delete;
+    ~UIMolecule() override;
+
+    /// @return true when the message was meant for this molecule and is dealt with.
+    virtual bool HandleMessage(const _UIWindowsMessage& message);
+    /// Brings the controls up to date after the page has been built or left.
+    virtual void Refresh();
+    /// True when a setting of the molecule itself, not the data model, keeps it off the page.
+    virtual bool IsHiddenBySetting() const;
+    /// Moves the molecule to a place on the page, its controls with it.
+    virtual void SetPosition(POINT position);
+    /// The smallest size that the molecule may be given; the second member is the height.
+    virtual void SetMinimumExtent(SIZE extent);
+    virtual void SetPositionAndWidth(POINT position, long width);
+    /// Keeps the molecule off the page (false) whatever the data model says.
+    virtual void SetShownOnPage(bool shown);
+    virtual void SetToolTips(UIToolTips* toolTips);
+    /// Keeps the molecule disabled whatever the data model says.
+    virtual void SetForceDisabled(bool disabled);
+    /// Creates the child windows on the page, at the molecule's position.
+    virtual void CreateControls(UIPageWindow& page) = 0;
+    /// What all molecules do alike with a message that their own handling left over.
+    virtual bool ProcessCommonMessage(const _UIWindowsMessage& message);
+    /// Asked when the page is applied or left: false keeps the page open.
+    virtual bool Validate();
+    /// Called when the page is left.
+    virtual void LeavePage();
+    virtual void ConnectToDataModel();
+    virtual void DisconnectFromDataModel();
+    /// 1 when the description marks the molecule as one whose state counts for its page, else 2.
+    virtual int GetFeatureState() const;
+    virtual void ShowInfoButton(bool shown);
+    /// Called after the page's resolution or theme changed.
+    virtual void LookChanged();
+    /// Adds the settings that the molecule shows.
+    virtual void CollectSettings(SetOfSettingIds& settings) const;
+    /// Shows, restyles or removes the info button according to the feature's messages.
+    virtual void UpdateInfoButton(const FeatureIdWithContext& feature,
+                                  const InterpretedState& state);
+    /// Reads the control records: bound feature, options, heights.
+    virtual void InitializeFromDescription() = 0;
+    /// The list in which the molecule resolves its features.
+    virtual ListOfFeaturesRef GetMoleculeFeatures();
+    /// Distance in dialog units by which the molecule stands in from its column's left edge.
+    virtual long GetIndent() const;
+    /// Further space in dialog units that the molecule asks for.
+    virtual SIZE GetExtraExtent() const;
+    virtual bool HasInfoMessage() const;
+    virtual bool HasConflictMessage() const;
+    /// Why the molecule is limited: the conflict text, else the information text, else the reason
+    /// of its state; empty when nothing limits it.
+    virtual CXString GetInfoText() const;
+    /// Lets a subclass change a text before it is shown.
+    virtual CXString DecorateText(const CXString& text) const;
+
+    // Additions of this module, after the fixed order.
+
+    /// Adds the messages that the molecule may claim.
+    virtual void CollectWantedMessages(UIMessageMask& mask) const;
+    /// Writes one line per control to the collector of UIDump: kind, text, value, state, reason.
+    virtual void DumpControls() const;
+    /// The molecules that stand inside this one (a group's), in Tab order.
+    virtual void Inner(std::vector<UIMolecule*>& molecules);
+    /// Shows or hides all controls.
+    virtual void Show(bool shown);
+
+    /// Room in dialog units for a label beside its box; 0 puts labels above. Set by the column
+    /// before InitializeFromDescription.
+    void SetLabelWidth(long width) { m_labelWidth = width; }
+    long GetLabelWidth() const { return m_labelWidth; }
+
+    // IObserver
+    void ProcessNotification(const INotification& notification, unsigned int kind) override;
+    CXString GetObserverClassNameHeirarchy() const override;
+    CXString GetDumpDisplayString(bool detailed) const override;
+
+    /// @return height in dialog units, gap to the next molecule not included.
+    long GetMinimumHeight() const { return m_minimumExtent.cy; }
+    POINT GetPosition() const { return m_position; }
+    long GetWidth() const { return m_width; }
+    const UIMoleculeData& GetData() const { return m_data; }
+    const FeatureIdWithContext& GetBoundFeature() const { return m_feature; }
+
+    /// Width in dialog units that every molecule keeps free at its right for the info button.
+    static constexpr long kInfoLane = 12;
+
+protected:
+    const UIMoleculeSite& GetSite() const { return m_site; }
+    UIToolTips* GetToolTips() const { return m_toolTips; }
+    bool IsForceDisabled() const { return m_forceDisabled; }
+    bool IsShownOnPage() const { return m_shownOnPage; }
+    bool IsBound() const;
+    /// Remembers the page for the controls that come later (the info button).
+    void SetPage(UIPageWindow& page);
+    /// Width in dialog units of what the molecule shows, the lane of the info button left free.
+    long GetContentWidth() const { return m_width - kInfoLane; }
+    /// The text of a string resource, decorated; empty for number 0.
+    CXString LoadText(unsigned number) const;
+    void SetBoundFeature(const FeatureIdWithContext& feature) { m_feature = feature; }
+
+private:
+    InfoStyle WantedInfoStyle(const InterpretedState& state) const;
+    void CreateInfoButton();
+
+    const UIMoleculeData& m_data;
+    UIMoleculeSite m_site;
+    POINT m_position{};
+    long m_width = 0;
+    long m_labelWidth = 0;
+    SIZE m_minimumExtent{};
+    bool m_shownOnPage = true;
+    bool m_forceDisabled = false;
+    std::unique_ptr<UIInfoButtonControl> m_infoButton;
+    FeatureIdWithContext m_feature;
+    UIToolTips* m_toolTips = nullptr;
+    HWND m_page = nullptr;
+    int m_infoButtonId = 0;
+    InfoStyle m_infoStyle = InfoStyle::None;
+    CXString m_infoText;
+};

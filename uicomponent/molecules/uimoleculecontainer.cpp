@@ -1,0 +1,140 @@
+#include "uimoleculecontainer.h"
+
+#include "iuicontainercompanion.h"
+#include "operatingsystem.h"
+#include "uicontainer.h"
+#include "uimolecule.h"
+#include "uitooltips.h"
+
+UIMoleculeContainer::UIMoleculeContainer(FeatureServices& featureServices,
+                                         const ProductStringLoader& strings, UIServices& services)
+    : m_valueWriter(featureServices), m_site{services, featureServices, strings, m_valueWriter}
+{
+}
+
+UIMoleculeContainer::~UIMoleculeContainer()
+{
+    releaseMolecules();
+}
+
+void UIMoleculeContainer::buildFrom(const UIContainerData& data)
+{
+    m_container = std::make_unique<UIContainer>(data, m_site);
+    m_molecules = m_container->getMolecules();
+    m_wanted.clear();
+    for (const UIMolecule* molecule : m_molecules)
+        molecule->CollectWantedMessages(m_wanted);
+}
+
+void UIMoleculeContainer::releaseMolecules()
+{
+    disconnectAll();
+    m_molecules.clear();
+    m_container.reset(); // the controls' tips go with them, so the tip window goes after them
+    m_toolTips.reset();
+}
+
+bool UIMoleculeContainer::createOn(HWND)
+{
+    return true;
+}
+
+bool UIMoleculeContainer::initialize(HWND window)
+{
+    if (!createOn(window))
+        return false;
+    m_page.window = window;
+    m_toolTips = std::make_unique<UIToolTips>(window);
+    m_themed = OperatingSystem::IsUiThemeEnabled();
+    createControls();
+    connectAll();
+    return true;
+}
+
+void UIMoleculeContainer::makeBoldFont()
+{
+    LOGFONTW font{};
+    if (!GetObjectW(m_page.font, sizeof font, &font))
+        return;
+    font.lfWeight = FW_BOLD;
+    m_boldFont.reset(CreateFontIndirectW(&font));
+    m_page.boldFont = m_boldFont.get();
+}
+
+void UIMoleculeContainer::createControls()
+{
+    m_page.font = reinterpret_cast<HFONT>(SendMessageW(m_page.window, WM_GETFONT, 0, 0));
+    makeBoldFont();
+    for (UIMolecule* molecule : m_molecules) {
+        molecule->SetToolTips(m_toolTips.get());
+        molecule->CreateControls(m_page);
+    }
+}
+
+void UIMoleculeContainer::connectAll()
+{
+    m_connected = true;
+    for (UIMolecule* molecule : m_molecules)
+        molecule->ConnectToDataModel();
+    if (m_companion)
+        m_companion->moleculesConnected(*this);
+}
+
+void UIMoleculeContainer::disconnectAll()
+{
+    if (!m_connected)
+        return;
+    m_connected = false;
+    for (UIMolecule* molecule : m_molecules)
+        molecule->DisconnectFromDataModel();
+}
+
+void UIMoleculeContainer::collectSettings(SetOfSettingIds& settings) const
+{
+    for (const UIMolecule* molecule : m_molecules)
+        molecule->CollectSettings(settings);
+}
+
+bool UIMoleculeContainer::anyFeatureState() const
+{
+    for (const UIMolecule* molecule : m_molecules)
+        if (molecule->GetFeatureState() == 1)
+            return true;
+    return false;
+}
+
+void UIMoleculeContainer::refreshAll()
+{
+    for (UIMolecule* molecule : m_molecules)
+        molecule->Refresh();
+}
+
+void UIMoleculeContainer::leavePageAll()
+{
+    for (UIMolecule* molecule : m_molecules)
+        molecule->LeavePage();
+}
+
+bool UIMoleculeContainer::validateAll()
+{
+    for (UIMolecule* molecule : m_molecules)
+        if (!molecule->Validate())
+            return false;
+    return true;
+}
+
+bool UIMoleculeContainer::offerToMolecules(const _UIWindowsMessage& message) const
+{
+    if (!m_wanted.wants(message.message))
+        return false;
+    for (UIMolecule* molecule : m_molecules)
+        if (molecule->HandleMessage(message))
+            return true;
+    return false;
+}
+
+void UIMoleculeContainer::dumpMolecules() const
+{
+    for (const UIMolecule* molecule : m_molecules)
+        molecule->DumpControls();
+}

@@ -1,0 +1,90 @@
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+#include <vector>
+
+#include "uihandles.h"
+#include "uimessagemask.h"
+#include "uimoleculesite.h"
+#include "uipagewindow.h"
+#include "uivaluewriter.h"
+#include "uiwindowsmessage.h"
+
+class IUIContainerCompanion;
+class SetOfSettingIds;
+class UIContainer;
+class UIContainerData;
+class UIMolecule;
+class UIToolTips;
+
+/// What a page and a popup dialog have in common: it holds the molecules of one window in creation
+/// order and drives them all, one operation after the other.
+class UIMoleculeContainer
+{
+public:
+    UIMoleculeContainer(FeatureServices& featureServices, const ProductStringLoader& strings,
+                        UIServices& services);
+    UIMoleculeContainer(const UIMoleculeContainer&) = delete;
+    UIMoleculeContainer& operator=(const UIMoleculeContainer&) = delete;
+    virtual ~UIMoleculeContainer();
+
+    /// Takes the window over, creates the controls, connects them and brings them up to date.
+    /// @return false when the container refuses the window.
+    virtual bool initialize(HWND window);
+    virtual void connectAll();
+    virtual void disconnectAll();
+    virtual void collectSettings(SetOfSettingIds& settings) const;
+    /// True as soon as one molecule's GetFeatureState answers 1.
+    virtual bool anyFeatureState() const;
+    virtual void refreshAll();
+    /// The molecules' per-page hook: the page is being left.
+    virtual void leavePageAll();
+
+    /// Asks the molecules in order, up to the first refusal.
+    bool validateAll();
+    /// Offers a message to the molecules in order, up to the first that claims it.
+    bool offerToMolecules(const _UIWindowsMessage& message) const;
+    /// One line per control, in Tab order.
+    void dumpMolecules() const;
+
+    HWND getWindow() const { return m_page.window; }
+    const std::vector<UIMolecule*>& getMolecules() const { return m_molecules; }
+    /// The messages that the molecules may claim.
+    const UIMessageMask& getWantedMessages() const { return m_wanted; }
+    void setCompanion(IUIContainerCompanion* companion) { m_companion = companion; }
+
+protected:
+    /// Lets a subclass refuse a window, or add to it, before any control is created.
+    virtual bool createOn(HWND window);
+
+    /// Builds columns and molecules from a description; no window is touched.
+    void buildFrom(const UIContainerData& data);
+    /// Disconnects and destroys the molecules' controls; the window may be gone already.
+    void releaseMolecules();
+
+    const UIContainer* getContainer() const { return m_container.get(); }
+    UIPageWindow& getPage() { return m_page; }
+    UIServices& getServices() const { return m_site.services; }
+    FeatureServices& getFeatureServices() const { return m_site.featureServices; }
+    const ProductStringLoader& getStrings() const { return m_site.strings; }
+    UIToolTips* getToolTips() const { return m_toolTips.get(); }
+    bool isThemed() const { return m_themed; }
+
+private:
+    void createControls();
+    void makeBoldFont();
+
+    UIValueWriter m_valueWriter;
+    UIMoleculeSite m_site;
+    std::unique_ptr<UIContainer> m_container;
+    std::vector<UIMolecule*> m_molecules;
+    UIPageWindow m_page;
+    o7::UniqueFont m_boldFont;
+    std::unique_ptr<UIToolTips> m_toolTips;
+    bool m_themed = false;
+    bool m_connected = false;
+    IUIContainerCompanion* m_companion = nullptr;
+    UIMessageMask m_wanted;
+};

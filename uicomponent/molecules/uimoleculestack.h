@@ -1,0 +1,23 @@
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+#include <vector>
+
+#include "uimolecule.h"
+
+/// Molecules below each other: the one rule by which columns and group boxes place what they hold.
+/// All values are dialog units.
+class UIMoleculeStack
+{
+public:
+    using Molecules = std::vector<std::unique_ptr<UIMolecule>>;
+
+    /// Distance between two neighbours: lines of check boxes stand closer than boxes.
+    static long gapBetween(const UIMolecule& upper, const UIMolecule& lower);
+    /// Height of all, without a gap after the last.
+    static long height(const Molecules& molecules);
+    /// Places all from the given corner downwards.
+    static void place(const Molecules& molecules, POINT corner, long width);
+};

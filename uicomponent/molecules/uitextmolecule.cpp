@@ -1,0 +1,75 @@
+#include "uitextmolecule.h"
+
+#include "uicontroldata.h"
+#include "uimoleculedata.h"
+#include "uimoleculedump.h"
+#include "uitextcontrol.h"
+#include "uitextcontroldata.h"
+
+namespace {
+
+constexpr long kLineHeight = 8; // dialog units
+
+} // namespace
+
+UITextMolecule::UITextMolecule(const UIMoleculeData& data, const UIMoleculeSite& site)
+    : UIMolecule(data, site)
+{
+}
+
+UITextMolecule::~UITextMolecule() = default;
+
+void UITextMolecule::InitializeFromDescription()
+{
+    long lines = 1;
+    for (const auto& control : GetData().getControls()) {
+        if (control->getKind() != UIControlKind::Text)
+            continue;
+        const auto& text = static_cast<const UITextControlData&>(*control);
+        m_number = text.getLabel();
+        m_bold = text.isBold();
+        lines = static_cast<long>(text.getLines());
+    }
+    SetMinimumExtent({0, lines * kLineHeight});
+}
+
+void UITextMolecule::CreateControls(UIPageWindow& page)
+{
+    SetPage(page);
+    m_text = std::make_unique<UITextControl>(
+        page.window, page.takeId(), GetSite().services, page.font, GetPosition(),
+        SIZE{GetContentWidth(), GetMinimumHeight()}, SS_NOPREFIX, true, page.boldFont);
+    SetWindowTextW(m_text->getHwnd(), LoadText(m_number).c_str());
+    if (m_bold)
+        m_text->boldText(true);
+}
+
+void UITextMolecule::SetPosition(POINT position)
+{
+    const POINT delta{position.x - GetPosition().x, position.y - GetPosition().y};
+    UIMolecule::SetPosition(position);
+    if (m_text)
+        m_text->move(delta, false);
+}
+
+bool UITextMolecule::HandleMessage(const _UIWindowsMessage& message)
+{
+    return ProcessCommonMessage(message);
+}
+
+void UITextMolecule::Show(bool shown)
+{
+    UIMolecule::Show(shown);
+    if (m_text)
+        m_text->setShow(shown);
+}
+
+void UITextMolecule::DumpControls() const
+{
+    o7::dumpControl(L"text", LoadText(m_number), CXString(), CXString(), CXString());
+}
+
+CXString UITextMolecule::GetObserverClassNameHeirarchy() const
+{
+    return CXString(L"UITextMolecule:UIMolecule");
+}

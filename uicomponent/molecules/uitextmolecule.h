@@ -1,0 +1,28 @@
+#pragma once
+
+#include <memory>
+
+#include "uimolecule.h"
+
+class UITextControl;
+
+/// A line or a short paragraph of explanation, bound to no feature.
+class UITextMolecule : public UIMolecule
+{
+public:
+    UITextMolecule(const UIMoleculeData& data, const UIMoleculeSite& site);
+    ~UITextMolecule() override;
+
+    bool HandleMessage(const _UIWindowsMessage& message) override;
+    void SetPosition(POINT position) override;
+    void CreateControls(UIPageWindow& page) override;
+    void InitializeFromDescription() override;
+    void DumpControls() const override;
+    void Show(bool shown) override;
+    CXString GetObserverClassNameHeirarchy() const override;
+
+private:
+    std::unique_ptr<UITextControl> m_text;
+    unsigned m_number = 0;
+    bool m_bold = false;
+};

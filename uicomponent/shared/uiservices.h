@@ -1,0 +1,32 @@
+#pragma once
+
+#include "cxstring.h"
+#include "uiapi.h"
+
+class DialogConversion;
+class FeatureServices;
+class ProductData;
+
+/// The services that every control and molecule is given by reference. UIManager creates the one
+/// object and destroys it last; nobody else owns one.
+///
+/// Copying is shallow on purpose: copy and original share one converter, which the destructor of
+/// either deletes. So a copy must never be destroyed beside the original; hold a reference instead.
+class O7UI_API UIServices
+{
+public:
+    UIServices();
+    UIServices(const UIServices& other) noexcept;
+    UIServices& operator=(const UIServices& other) noexcept;
+    ~UIServices();
+
+    /// Converts dialog units to pixels; set up for a page when that page's dialog is initialised.
+    DialogConversion& getDialogConversion() const noexcept { return *m_dialogConversion; }
+
+    /// The help file of the product: the value of string feature 696; empty when the product has
+    /// no such feature.
+    static CXString GetHelpFile(FeatureServices& featureServices, ProductData& productData);
+
+private:
+    DialogConversion* m_dialogConversion;
+};
