@@ -47,8 +47,8 @@ protected:
     {
         const fs::path errors = m_folder / "errors.txt";
         SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
-        HANDLE stream = CreateFileW(errors.c_str(), GENERIC_WRITE, FILE_SHARE_READ,
-                                          &inherited, CREATE_ALWAYS, 0, nullptr);
+        HANDLE stream = CreateFileW(errors.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited,
+                                    CREATE_ALWAYS, 0, nullptr);
         STARTUPINFOW startup{};
         startup.cb = sizeof startup;
         startup.dwFlags = STARTF_USESTDHANDLES;
@@ -143,6 +143,20 @@ TEST_F(PreviewProgram, UnknownLanguageFallsBackAndSaysSo)
     EXPECT_EQ(readFile(m_folder / "xx.txt"), readFile(m_folder / "en.txt"));
     EXPECT_EQ(run(L"--lang de" + snapshotOption("de.txt")).exitCode, 0u);
     EXPECT_NE(readFile(m_folder / "de.txt"), readFile(m_folder / "en.txt"));
+}
+
+TEST_F(PreviewProgram, DamagedSettingsAreSetAsideAndDefaultsShown)
+{
+    EXPECT_EQ(run(snapshotOption("defaults.txt")).errors, "");
+    fs::create_directories(userDirectory());
+    const fs::path ticket = userDirectory() / "office-c430.ojtf";
+    std::ofstream(ticket) << "{ \"format\": ";
+    const Outcome outcome = run(snapshotOption("damaged.txt"));
+    EXPECT_EQ(outcome.exitCode, 0u);
+    EXPECT_TRUE(contains(outcome.errors, "office-c430.ojtf")) << outcome.errors;
+    EXPECT_EQ(readFile(m_folder / "damaged.txt"), readFile(m_folder / "defaults.txt"));
+    EXPECT_FALSE(fs::exists(ticket));
+    EXPECT_FALSE(fs::is_empty(userDirectory())) << "the damaged file must still be there";
 }
 
 TEST_F(PreviewProgram, NothingToShowIsAFailureOfAnUnattendedRun)
