@@ -2,6 +2,7 @@
 
 #include "isolationaware.h"
 
+#include "importpatch.h"
 #include "testpage.h"
 #include "uicheckboxcontrol.h"
 #include "uicomboboxcontrol.h"
@@ -9,35 +10,27 @@
 #include "uitooltips.h"
 
 #include <gtest/gtest.h>
-#include <shlwapi.h>
 
 #include <array>
-#include <cstring>
 #include <string>
+#include <string_view>
 
 namespace {
 
 using o7::test::TestPage;
 
-/// The main version of the library that a window's class comes from.
-DWORD classVersion(HWND window)
+/// Whether a window's class comes from version 6 of the library, which lives beside older ones.
+bool isVersionSix(HWND window)
 {
     HMODULE library = nullptr;
     ::GetModuleHandleExW(
         GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
         reinterpret_cast<LPCWSTR>(::GetClassLongPtrW(window, GCLP_WNDPROC)), &library);
-    const auto getVersion = reinterpret_cast<DLLGETVERSIONPROC>(
-        reinterpret_cast<void*>(::GetProcAddress(library, "DllGetVersion")));
-    DLLVERSIONINFO info{};
-    info.cbSize = sizeof info;
-    return getVersion != nullptr && getVersion(&info) == S_OK ? info.dwMajorVersion : 0;
-}
-
-/// Something that looks like the handle of an activation context and is none.
-HANDLE brokenContext()
-{
-    static std::array<char, 512> nothing{};
-    return nothing.data();
+    std::array<wchar_t, MAX_PATH> path{};
+    ::GetModuleFileNameW(library, path.data(), static_cast<DWORD>(path.size()));
+    ::CharLowerW(path.data());
+    return std::wstring_view(path.data()).find(L"common-controls_6595b64144ccf1df_6.") !=
+           std::wstring_view::npos;
 }
 
 std::string s_debugOutput;
@@ -57,15 +50,15 @@ TEST(IsolationAware, ControlsComeFromVersionSixWithoutAManifestOfTheHost)
     TestPage page;
     const HWND plain = ::CreateWindowExW(0, L"BUTTON", L"", WS_CHILD, 0, 0, 9, 9, page.page(),
                                          nullptr, nullptr, nullptr);
-    EXPECT_NE(6U, classVersion(plain)) << "this host must not select it itself";
+    EXPECT_FALSE(isVersionSix(plain)) << "this host must not select it itself";
 
     const UICheckBoxControl check(page.page(), 1, page.services(), page.font(), {}, {50, 10},
                                   false);
     const UIComboBoxControl combo(page.page(), 2, page.services(), page.font(), {}, {50, 14});
     const UIToolTips tips(page.page());
-    EXPECT_EQ(6U, classVersion(check.getHwnd()));
-    EXPECT_EQ(6U, classVersion(combo.getHwnd()));
-    EXPECT_EQ(6U, classVersion(tips.getHwnd()));
+    EXPECT_TRUE(isVersionSix(check.getHwnd()));
+    EXPECT_TRUE(isVersionSix(combo.getHwnd()));
+    EXPECT_TRUE(isVersionSix(tips.getHwnd()));
 }
 
 TEST(IsolationAware, CreatesAndDestroysPages)
@@ -81,27 +74,44 @@ TEST(IsolationAware, CreatesAndDestroysPages)
 
 TEST(IsolationAware, KeepsTheErrorOfAFailedCreation)
 {
+    constexpr wchar_t kNoClass[] = L"no such class";
+    ::CreateWindowExW(0, kNoClass, L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+    const DWORD expected = ::GetLastError();
     ::SetLastError(ERROR_SUCCESS);
-    EXPECT_EQ(nullptr, IsolationAware::createWindow(0, L"no such class", WS_POPUP, {}, nullptr, 0));
-    EXPECT_EQ(DWORD{ERROR_CANNOT_FIND_WND_CLASS}, ::GetLastError());
+    EXPECT_EQ(nullptr, IsolationAware::createWindow(0, kNoClass, WS_POPUP, {}, nullptr, 0));
+    EXPECT_NE(DWORD{ERROR_SUCCESS}, expected);
+    EXPECT_EQ(expected, ::GetLastError());
 }
 
-TEST(IsolationAware, MakesNoCallWithoutAContext)
+BOOL WINAPI refuseActivation(HANDLE, ULONG_PTR*)
+{
+    return FALSE;
+}
+
+TEST(IsolationAware, MakesNoCallWhenNothingCanBeActivated)
 {
     const o7::test::WindowWatch watch;
     {
-        const IsolationAware::CallerContext caller(brokenContext());
+        const o7::test::ImportPatch patch("ActivateActCtx",
+                                          reinterpret_cast<void*>(&refuseActivation));
+        ASSERT_TRUE(patch.isInPlace());
         EXPECT_FALSE(IsolationAware::ActivationScope().isActive());
         EXPECT_EQ(nullptr, IsolationAware::createWindow(0, L"STATIC", WS_POPUP, {}, nullptr, 0));
         EXPECT_EQ(-1, IsolationAware::propertySheet({}));
         EXPECT_EQ(nullptr, IsolationAware::createPropertySheetPage({}));
-        for (const HANDLE none : {HANDLE{nullptr}, INVALID_HANDLE_VALUE}) {
-            const IsolationAware::CallerContext same(none);
-            EXPECT_FALSE(IsolationAware::ActivationScope().isActive());
-        }
+        EXPECT_FALSE(IsolationAware::destroyPropertySheetPage(nullptr));
     }
     EXPECT_TRUE(watch.created.empty());
     EXPECT_TRUE(IsolationAware::ActivationScope().isActive());
+}
+
+HANDLE currentContext()
+{
+    const IsolationAware::ActivationScope scope;
+    HANDLE current = nullptr;
+    ::GetCurrentActCtx(&current);
+    ::ReleaseActCtx(current);
+    return current;
 }
 
 TEST(IsolationAware, UsesTheCallersOwnContext)
@@ -112,12 +122,17 @@ TEST(IsolationAware, UsesTheCallersOwnContext)
     description.hModule = IsolationAware::moduleInstance();
     description.lpResourceName = MAKEINTRESOURCEW(O7_MANIFEST);
     const o7::UniqueActivationContext own(::CreateActCtxW(&description));
-    const IsolationAware::CallerContext caller(own.get());
-    const IsolationAware::ActivationScope scope;
-    HANDLE current = nullptr;
-    ASSERT_TRUE(::GetCurrentActCtx(&current));
-    EXPECT_EQ(own.get(), current);
-    ::ReleaseActCtx(current);
+    const HANDLE modules = currentContext();
+    {
+        const IsolationAware::CallerContext caller(own.get());
+        EXPECT_EQ(own.get(), currentContext());
+        for (const HANDLE none : {HANDLE{nullptr}, INVALID_HANDLE_VALUE}) {
+            const IsolationAware::CallerContext same(none);
+            EXPECT_EQ(own.get(), currentContext());
+        }
+    }
+    EXPECT_NE(own.get(), modules);
+    EXPECT_EQ(modules, currentContext());
 }
 
 TEST(IsolationAware, SaysSoWhenItIsUsedAfterTheCleanUpButWorks)
@@ -128,7 +143,7 @@ TEST(IsolationAware, SaysSoWhenItIsUsedAfterTheCleanUpButWorks)
         const o7::UniqueWindow window(
             IsolationAware::createWindow(0, L"STATIC", WS_POPUP, {}, nullptr, 0));
         EXPECT_TRUE(window);
-        EXPECT_EQ(6U, classVersion(window.get()));
+        EXPECT_TRUE(isVersionSix(window.get()));
         return s_debugOutput;
     };
     {

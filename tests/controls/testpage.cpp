@@ -54,6 +54,9 @@ INT_PTR CALLBACK TestPage::procedure(HWND window, UINT message, WPARAM wParam, L
         ::SetWindowLongPtrW(window, DWLP_USER, lParam);
     }
     auto* page = reinterpret_cast<TestPage*>(::GetWindowLongPtrW(window, DWLP_USER));
+    if (page != nullptr && page->onMessage) {
+        page->onMessage({UIMessageKind::TabPage, window, message, wParam, lParam});
+    }
     if (page != nullptr && message == WM_COMMAND) {
         page->commands.push_back({LOWORD(wParam), HIWORD(wParam)});
     }

@@ -2,6 +2,7 @@
 
 #include "uihandles.h"
 #include "uiservices.h"
+#include "uiwindowsmessage.h"
 
 #include <windows.h>
 
@@ -12,7 +13,7 @@
 namespace o7::test {
 
 /// A visible frame window with one empty page of the module (template 101) in it, and the services
-/// that its controls need. Forwards nothing; keeps the WM_COMMANDs that the page gets.
+/// that its controls need. Keeps the WM_COMMANDs that the page gets.
 class TestPage
 {
 public:
@@ -39,6 +40,9 @@ public:
         bool operator==(const Command&) const = default;
     };
     std::vector<Command> commands;
+
+    /// Sees every message of the page first.
+    std::function<void(const _UIWindowsMessage&)> onMessage;
 
 private:
     static INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

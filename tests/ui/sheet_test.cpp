@@ -4,7 +4,7 @@
 
 #include "idledriver.h"
 #include "input.h"
-#include "productids.h"
+#include "tables/productids.h"
 #include "resourceguard.h"
 #include "sheetrig.h"
 #include "uidata.h"

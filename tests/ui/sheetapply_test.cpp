@@ -8,7 +8,7 @@
 #include "iobserver.h"
 #include "notificationbundle.h"
 #include "orvikexception.h"
-#include "productids.h"
+#include "tables/productids.h"
 #include "sheetrig.h"
 #include "uidata.h"
 #include "uifixture.h"
