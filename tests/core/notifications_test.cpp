@@ -1,5 +1,7 @@
 #include "testproduct.h"
 
+#include "eventnotification.h"
+
 #include <gtest/gtest.h>
 
 #include <stdexcept>
