@@ -1,0 +1,84 @@
+#include "cxstringprinter.h"
+#include "productstringloader.h"
+#include "resourceguard.h"
+#include "textresourceloader.h"
+
+#include <gtest/gtest.h>
+
+#include <windows.h>
+
+namespace {
+
+CXString productFolder()
+{
+    CXString path;
+    wchar_t* const buffer = path.GetBuffer(MAX_PATH);
+    path.ReleaseBuffer(static_cast<int>(GetModuleFileNameW(nullptr, buffer, MAX_PATH)));
+    return path.Left(path.ReverseFind(L'\\')) + L"\\util_test_product";
+}
+
+TEST(TextResourceLoader, GivesTheTextOrItsNumber)
+{
+    const TextResourceLoader loader(GetModuleHandleW(nullptr));
+    EXPECT_EQ(loader.LoadStringW(100), L"Paper");
+    EXPECT_EQ(loader.LoadStringW(101), L"Papiergr\u00F6\u00DFe");
+    EXPECT_EQ(loader.LoadStringW(102), L"#102");           // in the same block, but empty
+    EXPECT_EQ(loader.LoadStringW(4000), L"#4000");         // no such block
+    EXPECT_EQ(loader.LoadStringW(65536 + 100), L"#65636"); // not text 100
+}
+
+TEST(ProductStringLoader, TakesTheLanguageAskedForOrEnglish)
+{
+    const struct
+    {
+        const wchar_t* asked;
+        const wchar_t* taken;
+        const wchar_t* feature;
+        const wchar_t* text7;
+    } rows[] = {
+        {L"de", L"de", L"Steuerger\u00E4t", L"#7"},
+        {L"en", L"en", L"Controller", L"Only in English"},
+        {L"xx", L"en", L"Controller", L"Only in English"},
+        {L"", L"en", L"Controller", L"Only in English"},
+        {L"..\\strings-de", L"en", L"Controller", L"Only in English"},
+    };
+    for (const auto& row : rows) {
+        const ProductStringLoader loader(8430, productFolder(), row.asked);
+        EXPECT_EQ(loader.GetLanguage(), row.taken) << CXString(row.asked).ToUtf8();
+        EXPECT_EQ(loader.GetStringForFeature(285), row.feature);
+        EXPECT_EQ(loader.LoadStringW(7), row.text7);
+        EXPECT_EQ(loader.GetControllerFamily(), 8430);
+    }
+    const ProductStringLoader german(8430, productFolder(), L"de");
+    EXPECT_EQ(german.GetStringForValue(9579), L"Eigenes Papier");
+    EXPECT_EQ(german.GetStringForValue(1), L"#40001");
+    EXPECT_EQ(german.GetStringForFeature(-1), L"#19999");
+}
+
+TEST(ProductStringLoader, WithoutAnyLanguageEveryTextIsItsNumber)
+{
+    const ProductStringLoader loader(8430, productFolder() + L"\\nowhere", L"de");
+    EXPECT_TRUE(loader.GetLanguage().IsEmpty());
+    EXPECT_EQ(loader.LoadStringW(100), L"#100"); // not the program's own text
+}
+
+TEST(ProductStringLoader, LeavesNothingBehind)
+{
+    const CXString folder = productFolder();
+    const auto useOnce = [&folder] {
+        const ProductStringLoader loader(8430, folder, L"de");
+        EXPECT_EQ(loader.GetStringForValue(9579), L"Eigenes Papier");
+    };
+    useOnce();
+    const o7::test::ResourceGuard guard;
+    for (int i = 0; i < 20; ++i) {
+        useOnce();
+    }
+    // Freed, so the file can be opened for writing.
+    const HANDLE file = CreateFileW((folder + L"\\strings-de.dll").c_str(), GENERIC_WRITE, 0,
+                                    nullptr, OPEN_EXISTING, 0, nullptr);
+    EXPECT_NE(file, INVALID_HANDLE_VALUE);
+    CloseHandle(file);
+}
+
+} // namespace
