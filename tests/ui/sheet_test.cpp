@@ -1,5 +1,7 @@
 // The sheet as a person meets it: real mouse and keyboard input on the product's own pages.
 
+#include <windows.h>
+
 #include <prsht.h>
 
 #include "idledriver.h"

@@ -1,5 +1,8 @@
 // Apply of a whole sheet, sixteen pages, and what happens when a collaborator throws.
 
+#include <windows.h>
+
+#include <commctrl.h>
 #include <prsht.h>
 
 #include "eventid.h"
