@@ -5,11 +5,11 @@
 #include <stdexcept>
 
 #include "devicecapabilities.h"
-#include "devicesettings.h"
 #include "documentsettings.h"
 #include "driversheet.h"
 #include "orvikexception.h"
 #include "printerddi.h"
+#include "printerstore.h"
 #include "productlookup.h"
 #include "trace.h"
 
@@ -63,9 +63,16 @@ bool outputFits(const DocumentPropertyHeader& header)
     return header.cbOut == 0 || header.cbOut >= kDevModeSize;
 }
 
+/// The printer's own settings, then what the application hands in.
 std::unique_ptr<ProductSession> openDocument(const DocumentPropertyHeader& header)
 {
     auto session = openProductOf(header.hPrinter);
+    if (header.hPrinter != nullptr) {
+        const auto defaults = printerDefaults(header.hPrinter);
+        if (defaults.get() != nullptr) {
+            mergeDevMode(session->model(), *defaults.get()->pDevMode);
+        }
+    }
     if (wants(header, DM_IN_BUFFER) && header.pdmIn != nullptr) {
         mergeDevMode(session->model(), *header.pdmIn);
     }

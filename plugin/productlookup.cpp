@@ -1,14 +1,12 @@
 #include "productlookup.h"
 
-#include <winspool.h>
-
 #include <algorithm>
-#include <cstddef>
 #include <system_error>
 #include <vector>
 
-#include "devicesettings.h"
 #include "dlldelayloader.h"
+#include "printerstore.h"
+#include "printsystemrecord.h"
 #include "throworvik.h"
 
 namespace o7 {
@@ -54,18 +52,15 @@ fs::path findPackage(const fs::path& folder, const fs::path& dataFile)
 
 fs::path driverDataFile(HANDLE printer)
 {
-    DWORD needed = 0;
-    if (printer == nullptr || GetPrinterDriverW(printer, nullptr, 3, nullptr, 0, &needed) ||
-        GetLastError() != ERROR_INSUFFICIENT_BUFFER) {
+    if (printer == nullptr) {
         return {};
     }
-    std::vector<std::max_align_t> buffer(needed / sizeof(std::max_align_t) + 1);
-    auto* const info = reinterpret_cast<DRIVER_INFO_3W*>(buffer.data());
-    if (!GetPrinterDriverW(printer, nullptr, 3, reinterpret_cast<BYTE*>(info), needed, &needed) ||
-        info->pDataFile == nullptr) {
-        return {};
-    }
-    return info->pDataFile;
+    const PrintSystemRecord<DRIVER_INFO_3W> driver([=](BYTE* buffer, DWORD size, DWORD* needed) {
+        return GetPrinterDriverW(printer, nullptr, 3, buffer, size, needed);
+    });
+    return driver.get() == nullptr || driver.get()->pDataFile == nullptr
+               ? fs::path()
+               : fs::path(driver.get()->pDataFile);
 }
 
 std::unique_ptr<ProductSession> openProductOf(HANDLE printer)

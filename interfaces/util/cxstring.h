@@ -157,15 +157,13 @@ public:
     }
 
 private:
-    struct Header;
-
-    Header* header() const noexcept;
     void release() noexcept;
     bool isUniqueWithRoom(int capacity) const noexcept;
     void reserveUnique(int capacity);
     void setLength(int length) noexcept;
 
-    // Points at the characters behind a Header, so that a debugger shows the text; null when empty.
+    // Points at the characters inside the shared buffer, so that a debugger shows the text; null
+    // when empty.
     wchar_t* m_text = nullptr;
 };
 

@@ -47,8 +47,14 @@ public:
 
     Number operator-() const noexcept;
 
-    friend bool operator==(const Number&, const Number&) noexcept = default;
-    friend std::strong_ordering operator<=>(const Number&, const Number&) noexcept = default;
+    friend bool operator==(const Number& a, const Number& b) noexcept
+    {
+        return a.m_billionths == b.m_billionths;
+    }
+    friend std::strong_ordering operator<=>(const Number& a, const Number& b) noexcept
+    {
+        return a.m_billionths <=> b.m_billionths;
+    }
 
 private:
     std::int64_t m_billionths = 0;

@@ -9,15 +9,14 @@
 #include "orvikexception.h"
 #include "utilapi.h"
 
-#include <source_location>
-
 namespace o7 {
 
-/// Where an exception is raised; file and line are those of the place where it is written down.
+/// Where an exception is raised; file and line are those of the place where it is written down
+/// (by the compilers' own default arguments: not every one in use has std::source_location).
 struct ThrowSite
 {
-    O7UTIL_API ThrowSite(const wchar_t* functionName,
-                         std::source_location where = std::source_location::current());
+    O7UTIL_API ThrowSite(const wchar_t* functionName, const char* filePath = __builtin_FILE(),
+                         int lineNumber = __builtin_LINE());
 
     const wchar_t* function; ///< "Class::function"
     const char* file;        ///< without its folder

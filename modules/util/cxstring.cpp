@@ -1,13 +1,10 @@
 #include "cxstring.h"
 
 #include "casing.h"
+#include "stringbuffer.h"
 
 #include <algorithm>
-#include <atomic>
 #include <climits>
-#include <cwchar>
-#include <cwctype>
-#include <new>
 #include <stdexcept>
 #include <utility>
 
@@ -15,12 +12,7 @@
 #include <windows.h>
 #endif
 
-struct CXString::Header
-{
-    std::atomic<int> references;
-    int length;
-    int capacity; // characters, without the terminator
-};
+using o7::StringBuffer;
 
 namespace {
 
@@ -68,61 +60,51 @@ int order(std::wstring_view a, std::wstring_view b) noexcept
 
 } // namespace
 
-CXString::Header* CXString::header() const noexcept
-{
-    return reinterpret_cast<Header*>(m_text) - 1;
-}
-
 void CXString::release() noexcept
 {
     if (m_text == nullptr) {
         return;
     }
-    Header* const owned = header();
-    m_text = nullptr;
+    StringBuffer* const owned = StringBuffer::of(std::exchange(m_text, nullptr));
     if (owned->references.fetch_sub(1, std::memory_order_acq_rel) == 1) {
-        owned->~Header();
-        ::operator delete(owned);
+        StringBuffer::destroy(owned);
     }
 }
 
 bool CXString::isUniqueWithRoom(int capacity) const noexcept
 {
-    return m_text != nullptr && header()->references.load(std::memory_order_acquire) == 1 &&
-           header()->capacity >= capacity;
+    return m_text != nullptr &&
+           StringBuffer::of(m_text)->references.load(std::memory_order_acquire) == 1 &&
+           StringBuffer::of(m_text)->capacity >= capacity;
 }
 
 // Afterwards the buffer is this object's alone, holds the present text and has room for `capacity`
-// characters. The only place that allocates.
+// characters.
 void CXString::reserveUnique(int capacity)
 {
     if (isUniqueWithRoom(capacity)) {
         return;
     }
     const std::wstring_view present = View();
-    const int length = static_cast<int>(present.size());
-    const int room =
-        std::max(checkedLength(static_cast<std::size_t>(std::max(capacity, 0))), length);
-    void* const memory =
-        ::operator new(sizeof(Header) + (static_cast<std::size_t>(room) + 1) * sizeof(wchar_t));
-    auto* const fresh = new (memory) Header{1, length, room};
-    auto* const text = reinterpret_cast<wchar_t*>(fresh + 1);
-    std::copy(present.begin(), present.end(), text);
-    text[length] = L'\0';
+    const int length = GetLength();
+    checkedLength(toStart(capacity));
+    StringBuffer* const fresh = StringBuffer::create(std::max(capacity, length));
+    std::copy(present.begin(), present.end(), fresh->text());
     release();
-    m_text = text;
+    m_text = fresh->text();
+    setLength(length);
 }
 
 void CXString::setLength(int length) noexcept
 {
-    header()->length = length;
+    StringBuffer::of(m_text)->length = length;
     m_text[length] = L'\0';
 }
 
 CXString::CXString(const CXString& other) noexcept : m_text(other.m_text)
 {
     if (m_text != nullptr) {
-        header()->references.fetch_add(1, std::memory_order_relaxed);
+        StringBuffer::of(m_text)->references.fetch_add(1, std::memory_order_relaxed);
     }
 }
 
@@ -186,12 +168,13 @@ std::wstring_view CXString::View() const noexcept
 {
     return m_text == nullptr
                ? std::wstring_view()
-               : std::wstring_view(m_text, static_cast<std::size_t>(header()->length));
+               : std::wstring_view(m_text,
+                                   static_cast<std::size_t>(StringBuffer::of(m_text)->length));
 }
 
 int CXString::GetLength() const noexcept
 {
-    return m_text == nullptr ? 0 : header()->length;
+    return m_text == nullptr ? 0 : StringBuffer::of(m_text)->length;
 }
 
 bool CXString::IsEmpty() const noexcept
@@ -406,7 +389,7 @@ void CXString::ReleaseBuffer(int newLength)
     if (m_text == nullptr) {
         return;
     }
-    const int capacity = header()->capacity;
+    const int capacity = StringBuffer::of(m_text)->capacity;
     if (newLength < 0) {
         const wchar_t* const end = std::find(m_text, m_text + capacity, L'\0');
         setLength(static_cast<int>(end - m_text));

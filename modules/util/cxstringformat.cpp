@@ -20,12 +20,9 @@ enum class Size
     Char,
     Short,
     Long,
-    LongLong,
     Int32,
-    Int64,
-    Max,
-    Pointer,
-    PointerDifference,
+    Int64,   // also long long and intmax_t, which have 64 bits everywhere
+    Pointer, // size_t and ptrdiff_t
     LongDouble
 };
 
@@ -54,7 +51,7 @@ public:
     template <class T> T next() { return va_arg(m_list, T); }
 
 private:
-    std::va_list m_list;
+    std::va_list m_list{};
 };
 
 class FormatReader
@@ -187,12 +184,10 @@ private:
         };
         // Longer prefixes stand before those they begin with.
         static constexpr Prefix kPrefixes[] = {
-            {L"hh", Size::Char},     {L"h", Size::Short},
-            {L"ll", Size::LongLong}, {L"l", Size::Long},
-            {L"w", Size::Long},      {L"I64", Size::Int64},
-            {L"I32", Size::Int32},   {L"I", Size::Pointer},
-            {L"z", Size::Pointer},   {L"t", Size::PointerDifference},
-            {L"j", Size::Max},       {L"L", Size::LongDouble},
+            {L"hh", Size::Char},   {L"h", Size::Short},   {L"ll", Size::Int64},
+            {L"l", Size::Long},    {L"w", Size::Long},    {L"I64", Size::Int64},
+            {L"I32", Size::Int32}, {L"I", Size::Pointer}, {L"z", Size::Pointer},
+            {L"t", Size::Pointer}, {L"j", Size::Int64},   {L"L", Size::LongDouble},
         };
         for (const Prefix& prefix : kPrefixes) {
             if (take(prefix.text)) {
@@ -209,20 +204,16 @@ private:
 std::int64_t takeSigned(const Conversion& conversion, Arguments& arguments)
 {
     switch (conversion.size) {
+    case Size::Pointer:
+        return arguments.next<std::ptrdiff_t>();
     case Size::Char:
         return static_cast<signed char>(arguments.next<int>());
     case Size::Short:
         return static_cast<short>(arguments.next<int>());
     case Size::Long:
         return arguments.next<long>();
-    case Size::LongLong:
     case Size::Int64:
         return arguments.next<long long>();
-    case Size::Max:
-        return arguments.next<std::intmax_t>();
-    case Size::Pointer:
-    case Size::PointerDifference:
-        return arguments.next<std::ptrdiff_t>();
     default:
         return arguments.next<int>();
     }
@@ -231,20 +222,16 @@ std::int64_t takeSigned(const Conversion& conversion, Arguments& arguments)
 std::uint64_t takeUnsigned(const Conversion& conversion, Arguments& arguments)
 {
     switch (conversion.size) {
+    case Size::Pointer:
+        return arguments.next<std::size_t>();
     case Size::Char:
         return static_cast<unsigned char>(arguments.next<unsigned>());
     case Size::Short:
         return static_cast<unsigned short>(arguments.next<unsigned>());
     case Size::Long:
         return arguments.next<unsigned long>();
-    case Size::LongLong:
     case Size::Int64:
         return arguments.next<unsigned long long>();
-    case Size::Max:
-        return arguments.next<std::uintmax_t>();
-    case Size::Pointer:
-    case Size::PointerDifference:
-        return arguments.next<std::size_t>();
     default:
         return arguments.next<unsigned>();
     }

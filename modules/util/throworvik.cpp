@@ -32,10 +32,8 @@ void breakIntoDebugger() noexcept
 
 } // namespace
 
-ThrowSite::ThrowSite(const wchar_t* functionName, std::source_location where)
-    : function(functionName),
-      file(withoutFolder(where.file_name())),
-      line(static_cast<int>(where.line()))
+ThrowSite::ThrowSite(const wchar_t* functionName, const char* filePath, int lineNumber)
+    : function(functionName), file(withoutFolder(filePath)), line(lineNumber)
 {
 }
 

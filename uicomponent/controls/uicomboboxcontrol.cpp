@@ -124,8 +124,7 @@ CXString UIComboBoxControl::getItemText(int index)
 
 ItemRecord* UIComboBoxControl::getItemData(int index)
 {
-    const LRESULT data = send(getHwnd(), CB_GETITEMDATA, toIndex(index));
-    return data == CB_ERR ? nullptr : reinterpret_cast<ItemRecord*>(data);
+    return recordOf(index);
 }
 
 int UIComboBoxControl::findItemById(int id)
@@ -189,16 +188,15 @@ int UIComboBoxControl::addItem(const CXString& text)
 
 void UIComboBoxControl::dump() const
 {
-    auto& self = const_cast<UIComboBoxControl&>(*this);
-    const int selection = self.getSelection(true);
-    CXString addition;
-    addition.Format(L"= \"%s\"", o7::oneLine(textOf(selection)).c_str());
-    for (int index = 0; index < self.getCount(); ++index) {
-        if (self.isGrey(index)) {
-            addition += CXString::Formatted(L" grey \"%s\"", o7::oneLine(textOf(index)).c_str());
+    CXString grey;
+    const auto count = static_cast<int>(send(getHwnd(), CB_GETCOUNT));
+    for (int index = 0; index < count; ++index) {
+        if (isGrey(index)) {
+            grey += CXString::Formatted(grey.IsEmpty() ? L"grey \"%s\"" : L", \"%s\"",
+                                        o7::oneLine(textOf(index)).c_str());
         }
     }
-    dumpWindow(L"combo", addition);
+    dumpWindow(L"combo", grey);
 }
 
 void UIComboBoxControl::dump()
@@ -290,9 +288,15 @@ CXString UIComboBoxControl::textOf(int index) const
     return text;
 }
 
-bool UIComboBoxControl::isGrey(int index)
+ItemRecord* UIComboBoxControl::recordOf(int index) const
 {
-    const ItemRecord* record = getItemData(index);
+    const LRESULT data = send(getHwnd(), CB_GETITEMDATA, toIndex(index));
+    return data == CB_ERR ? nullptr : reinterpret_cast<ItemRecord*>(data);
+}
+
+bool UIComboBoxControl::isGrey(int index) const
+{
+    const ItemRecord* record = recordOf(index);
     return record != nullptr && record->unavailable;
 }
 

@@ -71,7 +71,8 @@ private:
     bool moveOverUnavailable(WPARAM key);
     void select(int index);
     CXString textOf(int index) const;
-    bool isGrey(int index);
+    ItemRecord* recordOf(int index) const;
+    bool isGrey(int index) const;
     HFONT itemFont() const;
     void applyDroppedWidth(int count);
 

@@ -93,6 +93,9 @@ LRESULT UIToolTips::AddToolAndTrackingTipMessage(HWND tool, HINSTANCE instance, 
 {
     TTTOOLINFOW info = windowTool(m_owner, tool, instance, text);
     const LRESULT added = send(getHwnd(), TTM_ADDTOOLW, 0, info);
+    // Only a tool that is marked so stays where it is put, instead of beside the mouse.
+    info.uFlags |= TTF_TRACK | TTF_ABSOLUTE;
+    send(getHwnd(), TTM_SETTOOLINFOW, 0, info);
     send(getHwnd(), TTM_TRACKACTIVATE, TRUE, info);
     WINDOWINFO place{};
     place.cbSize = sizeof place;

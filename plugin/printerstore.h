@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include "printsystemrecord.h"
+
 class IDataModel;
 
 namespace o7 {
@@ -19,5 +21,10 @@ void loadDeviceSettings(HANDLE printer, IDataModel& model);
 /// @return false, with the thread's last error, when the print system refuses it (which it does
 ///         for users without the right to manage the printer).
 bool storeDeviceSettings(HANDLE printer, const IDataModel& model);
+
+/// The printer's own settings for new documents: the user's, or else those for everybody
+/// (`GetPrinter`, levels 9 and 8). No record when there are none. It is laid out the same
+/// for both levels.
+PrintSystemRecord<PRINTER_INFO_9W> printerDefaults(HANDLE printer);
 
 } // namespace o7

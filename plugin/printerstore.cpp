@@ -1,8 +1,7 @@
-#include "devicesettings.h"
-
-#include <winspool.h>
+#include "printerstore.h"
 
 #include <cstdint>
+#include <initializer_list>
 #include <vector>
 
 #include "idatamodel.h"
@@ -41,6 +40,19 @@ bool storeDeviceSettings(HANDLE printer, const IDataModel& model)
                                          static_cast<DWORD>(block.size()));
     SetLastError(result);
     return result == ERROR_SUCCESS;
+}
+
+PrintSystemRecord<PRINTER_INFO_9W> printerDefaults(HANDLE printer)
+{
+    for (const DWORD level : {9U, 8U}) {
+        PrintSystemRecord<PRINTER_INFO_9W> record([=](BYTE* buffer, DWORD size, DWORD* needed) {
+            return GetPrinterW(printer, level, buffer, size, needed);
+        });
+        if (record.get() != nullptr && record.get()->pDevMode != nullptr) {
+            return record;
+        }
+    }
+    return {};
 }
 
 } // namespace o7

@@ -1,0 +1,93 @@
+#include "testpage.h"
+
+#include "dialogconversion.h"
+#include "isolationaware.h"
+#include "uiresourceids.h"
+
+#include <array>
+
+namespace o7::test {
+
+namespace {
+
+WindowWatch* s_watch = nullptr;
+
+} // namespace
+
+TestPage::TestPage()
+    : m_frame(::CreateWindowExW(0, L"#32770", L"Test page", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 20,
+                                20, 600, 500, nullptr, nullptr, nullptr, nullptr))
+{
+    const IsolationAware::ActivationScope scope;
+    m_page = ::CreateDialogParamW(IsolationAware::moduleInstance(),
+                                  MAKEINTRESOURCEW(O7_DIALOG_EMPTY_PAGE), m_frame.get(),
+                                  &TestPage::procedure, reinterpret_cast<LPARAM>(this));
+    ::SetWindowLongPtrW(m_page, GWL_STYLE, WS_CHILD | DS_SETFONT);
+    ::EnableWindow(m_page, TRUE);
+    ::ShowWindow(m_page, SW_SHOW);
+    m_services.getDialogConversion().initDialogConversions(m_page);
+}
+
+TestPage::~TestPage() = default;
+
+void TestPage::destroyWindows()
+{
+    m_frame.reset();
+    m_page = nullptr;
+}
+
+HFONT TestPage::font() const
+{
+    return reinterpret_cast<HFONT>(::SendMessageW(m_page, WM_GETFONT, 0, 0));
+}
+
+RECT TestPage::pixels(LONG left, LONG top, LONG right, LONG bottom) const
+{
+    RECT rect{left, top, right, bottom};
+    ::MapDialogRect(m_page, &rect);
+    return rect;
+}
+
+INT_PTR CALLBACK TestPage::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_INITDIALOG) {
+        ::SetWindowLongPtrW(window, DWLP_USER, lParam);
+    }
+    auto* page = reinterpret_cast<TestPage*>(::GetWindowLongPtrW(window, DWLP_USER));
+    if (page != nullptr && page->onMessage) {
+        page->onMessage({UIMessageKind::TabPage, window, message, wParam, lParam});
+    }
+    if (page != nullptr && message == WM_COMMAND) {
+        page->commands.push_back({LOWORD(wParam), HIWORD(wParam)});
+    }
+    return FALSE;
+}
+
+WindowWatch::WindowWatch(std::function<void(HWND)> beforeDestruction)
+    : m_beforeDestruction(std::move(beforeDestruction)),
+      m_hook(::SetWindowsHookExW(WH_CBT, &WindowWatch::hook, nullptr, ::GetCurrentThreadId()))
+{
+    s_watch = this;
+}
+
+WindowWatch::~WindowWatch()
+{
+    ::UnhookWindowsHookEx(m_hook);
+    s_watch = nullptr;
+}
+
+LRESULT CALLBACK WindowWatch::hook(int code, WPARAM wParam, LPARAM lParam)
+{
+    auto* window = reinterpret_cast<HWND>(wParam);
+    if (code == HCBT_CREATEWND) {
+        std::array<wchar_t, 64> name{};
+        ::GetClassNameW(window, name.data(), static_cast<int>(name.size()));
+        const auto* creation = reinterpret_cast<const CBT_CREATEWNDW*>(lParam);
+        s_watch->created.push_back({name.data(), *creation->lpcs});
+    } else if (code == HCBT_DESTROYWND && s_watch->m_beforeDestruction) {
+        s_watch->m_beforeDestruction(window);
+    }
+    return ::CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+} // namespace o7::test

@@ -1,0 +1,338 @@
+// What every control does: creation, place, state, text, its end.
+
+#include "uicheckboxcontrol.h"
+#include "uicomboboxcontrol.h"
+#include "uidump.h"
+#include "uigroupboxcontrol.h"
+#include "uitextcontrol.h"
+
+#include "cxstring.h"
+#include "dialogconversion.h"
+#include "input.h"
+#include "resourceguard.h"
+#include "testpage.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+namespace {
+
+using o7::test::TestPage;
+using ControlPtr = std::unique_ptr<UIControl>;
+
+constexpr int kId = 1234;
+constexpr POINT kLocation{10, 20};
+constexpr SIZE kSize{90, 14};
+
+ControlPtr makeText(TestPage& page, bool visible)
+{
+    return std::make_unique<UITextControl>(page.page(), kId, page.services(), page.font(),
+                                           kLocation, kSize, SS_NOPREFIX, visible, nullptr);
+}
+ControlPtr makeCheck(TestPage& page, bool threeState)
+{
+    return std::make_unique<UICheckBoxControl>(page.page(), kId, page.services(), page.font(),
+                                               kLocation, kSize, threeState);
+}
+ControlPtr makeGroup(TestPage& page, bool)
+{
+    return std::make_unique<UIGroupBoxControl>(page.page(), kId, page.services(), page.font(),
+                                               kLocation, kSize, L"");
+}
+ControlPtr makeCombo(TestPage& page, bool)
+{
+    return std::make_unique<UIComboBoxControl>(page.page(), kId, page.services(), page.font(),
+                                               kLocation, kSize);
+}
+
+struct Kind
+{
+    const char* what;
+    ControlPtr (*make)(TestPage&, bool);
+    bool flag;
+    const wchar_t* windowClass; ///< as the system spells it
+    DWORD style;
+    bool visible;
+    const wchar_t* dumped; ///< after creation
+};
+
+constexpr Kind kKinds[] = {
+    {"text", makeText, true, L"Static", 0x50000080, true, L"text 1234 \"\"\n"},
+    {"hidden text", makeText, false, L"Static", 0x40000080, false, L"text 1234 \"\" hidden\n"},
+    {"check box", makeCheck, false, L"Button", 0x50010003, true, L"check 1234 \"\" unchecked\n"},
+    {"three-state", makeCheck, true, L"Button", 0x50010006, true, L"check 1234 \"\" unchecked\n"},
+    {"group box", makeGroup, false, L"Button", 0x50000007, true, L"group 1234 \"\"\n"},
+    {"combo box", makeCombo, false, L"ComboBox", 0x50210213, true, L"combo 1234 \"\"\n"},
+};
+
+TEST(UIControl, CreatesItsWindowAsDescribedOnceAndAtItsFinalPlace)
+{
+    TestPage page;
+    const RECT place = page.pixels(10, 20, 100, 34);
+    for (const Kind& kind : kKinds) {
+        SCOPED_TRACE(kind.what);
+        o7::test::WindowWatch watch;
+        const ControlPtr control = kind.make(page, kind.flag);
+        ASSERT_FALSE(watch.created.empty());
+        const auto& [className, creation] = watch.created.front();
+        EXPECT_STREQ(kind.windowClass, className.c_str());
+        EXPECT_EQ(kind.style, static_cast<DWORD>(creation.style));
+        EXPECT_EQ(0U, creation.dwExStyle);
+        EXPECT_EQ(page.page(), creation.hwndParent);
+        EXPECT_EQ(kId, static_cast<int>(reinterpret_cast<INT_PTR>(creation.hMenu)));
+        EXPECT_EQ(place.left, creation.x);
+        EXPECT_EQ(place.top, creation.y);
+        EXPECT_EQ(place.right - place.left, creation.cx);
+        EXPECT_EQ(place.bottom - place.top, creation.cy);
+        EXPECT_EQ(kind.visible, control->getIsVisable());
+        EXPECT_FALSE(control->getClearOnDisable());
+        EXPECT_EQ(page.font(),
+                  reinterpret_cast<HFONT>(::SendMessageW(control->getHwnd(), WM_GETFONT, 0, 0)));
+        EXPECT_FALSE(control->handleMessage({}));
+        std::wstring dumped;
+        {
+            const UIDump collector(dumped);
+            control->dump();
+        }
+        EXPECT_EQ(kind.dumped, dumped);
+    }
+}
+
+TEST(UIControl, GoesWithItsPageOrBeforeIt)
+{
+    for (const Kind& kind : kKinds) {
+        SCOPED_TRACE(kind.what);
+        TestPage page;
+        ControlPtr first = kind.make(page, kind.flag);
+        const HWND window = first->getHwnd();
+        first.reset();
+        EXPECT_FALSE(::IsWindow(window));
+
+        const ControlPtr second = kind.make(page, kind.flag);
+        page.destroyWindows();
+        second->setEnable(true); // on a window that is gone: no effect, no harm
+    }
+}
+
+TEST(UIControl, LeavesAWindowAloneThatIsNotItsOwn)
+{
+    TestPage page;
+    TestPage other;
+    ControlPtr control = makeText(page, true);
+    const HWND window = control->getHwnd();
+    ::SetParent(window, other.page());
+    control.reset();
+    EXPECT_TRUE(::IsWindow(window));
+}
+
+TEST(UIControl, TwoHundredCyclesLeaveNothingBehind)
+{
+    TestPage page;
+    const auto cycle = [&] {
+        for (const Kind& kind : kKinds) {
+            kind.make(page, kind.flag);
+        }
+    };
+    for (int i = 0; i < 10; ++i) { // fills the system's own cache of device contexts
+        cycle();
+        o7::test::pumpMessages();
+    }
+    const o7::test::ResourceGuard guard;
+    for (int i = 0; i < 200; ++i) {
+        cycle();
+    }
+}
+
+RECT placeOf(const TestPage& page, const UIControl& control)
+{
+    RECT rect{};
+    ::GetWindowRect(control.getHwnd(), &rect);
+    ::MapWindowPoints(nullptr, page.page(), reinterpret_cast<POINT*>(&rect), 2);
+    return rect;
+}
+
+struct Change
+{
+    const char* what;
+    void (*apply)(UIControl&);
+    RECT difference; ///< what it adds to the place, in dialog units unless inPixels
+    bool inPixels;
+};
+
+constexpr Change kChanges[] = {
+    {"left and down",
+     [](UIControl& c) {
+         c.move({-3, 5}, false);
+     },
+     {-3, 5, -3, 5},
+     false},
+    {"right and up",
+     [](UIControl& c) {
+         c.move({3, -5}, false);
+     },
+     {3, -5, 3, -5},
+     false},
+    {"pixels",
+     [](UIControl& c) {
+         c.move({-3, 5}, true);
+     },
+     {-3, 5, -3, 5},
+     true},
+    {"to a place",
+     [](UIControl& c) {
+         c.setLocation({14, 12}, false);
+     },
+     {4, -8, 4, -8},
+     false},
+    {"to a size",
+     [](UIControl& c) {
+         c.setSize({50, 30}, false);
+     },
+     {0, 0, -40, 16},
+     false},
+};
+
+LONG signedPixels(LONG units, bool inPixels, int base, int divisor)
+{
+    return inPixels ? units : ::MulDiv(units, base, divisor);
+}
+
+TEST(UIControl, MovesAndResizesItsWindowAtOnce)
+{
+    TestPage page;
+    const DialogConversion& conversion = page.services().getDialogConversion();
+    for (const Change& change : kChanges) {
+        SCOPED_TRACE(change.what);
+        const ControlPtr control = makeText(page, true);
+        const RECT before = placeOf(page, *control);
+        change.apply(*control);
+        const RECT after = placeOf(page, *control);
+        const auto x = [&](LONG units) {
+            return signedPixels(units, change.inPixels, conversion.getBaseUnitX(), 4);
+        };
+        const auto y = [&](LONG units) {
+            return signedPixels(units, change.inPixels, conversion.getBaseUnitY(), 8);
+        };
+        // One pixel for rounding: the ends of a rectangle are converted one by one.
+        EXPECT_NEAR(before.left + x(change.difference.left), after.left, 1);
+        EXPECT_NEAR(before.top + y(change.difference.top), after.top, 1);
+        EXPECT_NEAR(before.right + x(change.difference.right), after.right, 1);
+        EXPECT_NEAR(before.bottom + y(change.difference.bottom), after.bottom, 1);
+        EXPECT_EQ(after.left, control->getLocationInPixels().x);
+        EXPECT_EQ(after.bottom - after.top, control->getDimensionInPixels().cy);
+    }
+}
+
+TEST(UIControl, MovesBackByTheSameDistance)
+{
+    TestPage page;
+    const ControlPtr control = makeText(page, true);
+    const RECT before = placeOf(page, *control);
+    control->move({-3, 5}, false);
+    const RECT distance = page.pixels(0, 0, 3, 5);
+    EXPECT_EQ(before.left - distance.right, placeOf(page, *control).left);
+    EXPECT_EQ(before.top + distance.bottom, placeOf(page, *control).top);
+    control->move({3, -5}, false);
+    const RECT after = placeOf(page, *control);
+    EXPECT_TRUE(::EqualRect(&before, &after));
+}
+
+TEST(UIControl, ShowsAndEnablesAtOnce)
+{
+    TestPage page;
+    const ControlPtr control = makeCheck(page, false);
+    for (const bool on : {false, true, true}) {
+        control->setEnable(on);
+        control->setShow(on);
+        EXPECT_EQ(on, ::IsWindowEnabled(control->getHwnd()) != FALSE);
+        EXPECT_EQ(on, ::IsWindowVisible(control->getHwnd()) != FALSE);
+        EXPECT_EQ(on, control->getIsVisable());
+    }
+    control->setClearOnDisable(true);
+    EXPECT_TRUE(control->getClearOnDisable());
+}
+
+TEST(UIControl, WithoutAParentThereIsNoWindowAndNoHarm)
+{
+    UIServices services;
+    UICheckBoxControl control(nullptr, 1, services, nullptr, {1, 2}, {3, 4}, false);
+    EXPECT_EQ(nullptr, control.getHwnd());
+    control.setShow(true);
+    control.move({1, 1}, false);
+    control.setCheck(BST_CHECKED);
+    EXPECT_EQ(BST_UNCHECKED, control.getCheck());
+}
+
+TEST(UITextControl, ReadsAtMost259Characters)
+{
+    TestPage page;
+    UITextControl control(page.page(), kId, page.services(), page.font(), kLocation, kSize, 0, true,
+                          nullptr);
+    ITextControl& text = control;
+    EXPECT_EQ(&control, text.getControlPtr());
+    const std::wstring longText(300, L'x');
+    for (const std::size_t length : {0U, 1U, 258U, 259U, 260U, 300U}) {
+        text.setText(CXString(std::wstring_view(longText).substr(0, length)));
+        EXPECT_EQ(std::min<int>(static_cast<int>(length), 259), text.getText().GetLength());
+    }
+    text.clearText();
+    EXPECT_TRUE(text.getText().IsEmpty());
+}
+
+TEST(UITextControl, SwitchesFontsAndForwards)
+{
+    TestPage page;
+    const o7::UniqueFont bold(
+        ::CreateFontW(-11, 0, 0, 0, FW_BOLD, 0, 0, 0, 0, 0, 0, 0, 0, nullptr));
+    UITextControl control(page.page(), kId, page.services(), page.font(), kLocation, kSize, 0, true,
+                          bold.get());
+    ITextControl& text = control;
+    const auto font = [&] {
+        return reinterpret_cast<HFONT>(::SendMessageW(text.getHwnd(), WM_GETFONT, 0, 0));
+    };
+    text.boldText(true);
+    EXPECT_EQ(bold.get(), font());
+    text.boldText(false);
+    EXPECT_EQ(page.font(), font());
+    text.setShow(false);
+    text.setEnable(false);
+    EXPECT_FALSE(control.getIsVisable());
+    EXPECT_FALSE(::IsWindowEnabled(text.getHwnd()));
+    const LONG left = control.getLocationInPixels().x;
+    text.move({4, 0});
+    EXPECT_EQ(left + page.pixels(4, 0, 4, 0).left, control.getLocationInPixels().x);
+    EXPECT_EQ(kId, text.getId());
+    EXPECT_EQ(control.UIControl::getDimensionInPixels().cx, text.getDimensionInPixels().cx);
+}
+
+TEST(UICheckBoxControl, ShowsStatesSilently)
+{
+    TestPage page;
+    UICheckBoxControl control(page.page(), kId, page.services(), page.font(), kLocation, kSize,
+                              true);
+    for (const int state : {BST_CHECKED, BST_INDETERMINATE, BST_UNCHECKED}) {
+        control.setCheck(state);
+        EXPECT_EQ(state, control.getCheck());
+    }
+    EXPECT_TRUE(page.commands.empty());
+    ::SendMessageW(control.getHwnd(), BM_CLICK, 0, 0);
+    EXPECT_EQ(BST_CHECKED, control.getCheck());
+    EXPECT_EQ((std::vector<TestPage::Command>{{kId, BN_CLICKED}}), page.commands);
+}
+
+TEST(UIGroupBoxControl, ShowsItsCaption)
+{
+    TestPage page;
+    const UIGroupBoxControl control(page.page(), kId, page.services(), page.font(), kLocation,
+                                    kSize, L"Paper");
+    std::wstring dumped;
+    {
+        const UIDump collector(dumped);
+        control.dump();
+    }
+    EXPECT_EQ(L"group 1234 \"Paper\"\n", dumped);
+}
+
+} // namespace

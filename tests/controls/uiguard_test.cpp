@@ -1,0 +1,83 @@
+#include "uiguard.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <string>
+
+namespace {
+
+std::string s_title;
+std::string s_text;
+
+class UIGuard : public testing::Test
+{
+protected:
+    UIGuard()
+        : m_former(OrvikException::SetDisplayHook([](const ExceptionDisplay& display) {
+              s_title = display.title.ToUtf8();
+              s_text = display.text.ToUtf8();
+          }))
+    {
+        s_title.clear();
+        s_text.clear();
+    }
+    ~UIGuard() override { OrvikException::SetDisplayHook(m_former); }
+
+private:
+    OrvikException::DisplayHook m_former;
+};
+
+void throwOrvik()
+{
+    throw GetOrvikException(L"no such page", L"here.cpp", 7, L"Here", {});
+}
+void throwStandard()
+{
+    throw std::runtime_error("it broke");
+}
+void throwNoMemory()
+{
+    throw std::bad_alloc();
+}
+void throwNumber()
+{
+    throw 7;
+}
+
+struct Row
+{
+    void (*thrower)();
+    const char* shown; ///< a part of what the user is shown
+};
+
+constexpr Row kRows[] = {
+    {throwOrvik, "no such page"},
+    {throwStandard, "it broke"},
+    {throwNoMemory, "bad allocation"},
+    {throwNumber, "TheProcedure"},
+};
+
+TEST_F(UIGuard, ShowsWhateverIsThrownAndAnswersNothing)
+{
+    for (const Row& row : kRows) {
+        SCOPED_TRACE(row.shown);
+        s_text.clear();
+        const auto answer = o7::guarded<long long>(L"TheProcedure", L"thesource", [&]() {
+            row.thrower();
+            return 5LL;
+        });
+        EXPECT_EQ(0, answer);
+        EXPECT_NE(std::string::npos, s_text.find(row.shown)) << s_text;
+        EXPECT_NE(std::string::npos, s_text.find("TheProcedure")) << s_text;
+        EXPECT_NE(std::string::npos, s_title.find("thesource")) << s_title;
+    }
+}
+
+TEST_F(UIGuard, HandsTheAnswerOnAndShowsNothing)
+{
+    EXPECT_EQ(5, o7::guarded<int>(L"TheProcedure", L"thesource", [] { return 5; }));
+    EXPECT_EQ("", s_text);
+}
+
+} // namespace

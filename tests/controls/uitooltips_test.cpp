@@ -1,0 +1,169 @@
+#include "uitooltips.h"
+
+#include "cxstring.h"
+#include "input.h"
+#include "resourceguard.h"
+#include "testpage.h"
+#include "uitextcontrol.h"
+#include "uiwindowsmessage.h"
+
+#include <commctrl.h>
+#include <gtest/gtest.h>
+
+#include <array>
+#include <string>
+
+namespace {
+
+using o7::test::TestPage;
+
+class ToolTips : public testing::Test
+{
+protected:
+    int count()
+    {
+        return static_cast<int>(::SendMessageW(m_tips.getHwnd(), TTM_GETTOOLCOUNT, 0, 0));
+    }
+
+    std::wstring tipOf(HWND tool, UINT flags = TTF_IDISHWND)
+    {
+        std::array<wchar_t, 512> text{};
+        TTTOOLINFOW info{};
+        info.cbSize = TTTOOLINFOW_V2_SIZE;
+        info.uFlags = flags;
+        info.hwnd = m_page.page();
+        info.uId = reinterpret_cast<UINT_PTR>(tool);
+        info.lpszText = text.data();
+        ::SendMessageW(m_tips.getHwnd(), TTM_GETTEXTW, text.size(),
+                       reinterpret_cast<LPARAM>(&info));
+        return text.data();
+    }
+    HWND tool() { return m_label.getHwnd(); }
+    static INT_PTR text(const wchar_t* value) { return reinterpret_cast<INT_PTR>(value); }
+
+    TestPage m_page;
+    UIToolTips m_tips{m_page.page()};
+    UITextControl m_label{m_page.page(),  9,        m_page.services(),
+                          m_page.font(),  {10, 10}, {60, 8},
+                          SS_CENTERIMAGE, true,     nullptr};
+};
+
+TEST_F(ToolTips, AreCreatedAsTopmostPopupOfTheirOwner)
+{
+    const o7::test::WindowWatch watch;
+    const UIToolTips tips(m_page.page());
+    ASSERT_EQ(1U, watch.created.size());
+    const auto& [className, creation] = watch.created.front();
+    EXPECT_STREQ(TOOLTIPS_CLASSW, className.c_str());
+    EXPECT_EQ(0x80000003U, static_cast<DWORD>(creation.style));
+    EXPECT_EQ(8U, creation.dwExStyle);
+    EXPECT_EQ(nullptr, creation.hMenu);
+    EXPECT_EQ(800, ::SendMessageW(tips.getHwnd(), TTM_GETMAXTIPWIDTH, 0, 0));
+}
+
+TEST_F(ToolTips, GiveChangeAndTakeAway)
+{
+    EXPECT_NE(0, m_tips.AddToolAndTipMessage(tool(), nullptr, text(L"first")));
+    EXPECT_EQ(1, count());
+    EXPECT_EQ(L"first", tipOf(tool()));
+    m_tips.UpdateTipMessage(tool(), nullptr, text(L"second"));
+    EXPECT_EQ(L"second", tipOf(tool()));
+    m_tips.DeleteToolFromToolTip(tool());
+    EXPECT_EQ(0, count());
+    EXPECT_EQ(0, m_tips.ToolExists());
+    m_tips.SetInitialTime(TTDT_INITIAL, 123);
+    EXPECT_EQ(123, ::SendMessageW(m_tips.getHwnd(), TTM_GETDELAYTIME, TTDT_INITIAL, 0));
+}
+
+TEST_F(ToolTips, TrackingShowsTheTipBelowTheControlsTop)
+{
+    EXPECT_NE(0, m_tips.AddToolAndTrackingTipMessage(tool(), nullptr, text(L"look here")));
+    EXPECT_TRUE(::IsWindowVisible(m_tips.getHwnd()));
+    RECT tip{};
+    RECT control{};
+    ::GetWindowRect(m_tips.getHwnd(), &tip);
+    ::GetWindowRect(tool(), &control);
+    EXPECT_NEAR(control.left, tip.left, 1);
+    EXPECT_NEAR(control.top + 16, tip.top, 1);
+    m_tips.DeleteToolFromToolTip(tool());
+    EXPECT_FALSE(::IsWindowVisible(m_tips.getHwnd()));
+    EXPECT_EQ(0, m_tips.AddToolAndTrackingTipMessage(reinterpret_cast<HWND>(0x7ffffff0), nullptr,
+                                                     text(L"nowhere")));
+}
+
+struct LabelRow
+{
+    const char* what;
+    UIToolTips::ControlType type;
+    const wchar_t* label;
+    const wchar_t* extra;
+    const wchar_t* tip; ///< null: no tool
+    bool noticesMouse;  ///< the static style was changed
+};
+
+constexpr auto kStatic = UIToolTips::ControlType::StaticText;
+constexpr auto kButton = UIToolTips::ControlType::Button;
+
+constexpr LabelRow kLabels[] = {
+    {"fits", kStatic, L"Size", nullptr, nullptr, false},
+    {"fits, extra", kStatic, L"Size", L"of the paper", L"of the paper", false},
+    {"cut", kStatic, L"The &size of the paper", nullptr, L"The size of the paper", true},
+    {"cut, extra", kStatic, L"The size of the paper", L"(mm)", L"The size of the paper (mm)", true},
+    {"cut button", kButton, L"The size of the paper", nullptr, L"The size of the paper", false},
+};
+
+TEST_F(ToolTips, HoldTheWholeOfALabelThatIsCut)
+{
+    constexpr SIZE kArea{40, 12};
+    for (const LabelRow& row : kLabels) {
+        SCOPED_TRACE(row.what);
+        ::SetWindowLongPtrW(tool(), GWL_STYLE, WS_CHILD | WS_VISIBLE | SS_CENTERIMAGE);
+        m_tips.AddToolTipAndTruncatedLabel(row.type, tool(), text(row.extra), kArea, row.label,
+                                           m_page.font());
+        ASSERT_EQ(row.tip != nullptr ? 1 : 0, count());
+        if (row.tip != nullptr) {
+            EXPECT_EQ(row.tip, tipOf(tool()));
+        }
+        EXPECT_EQ(row.noticesMouse ? SS_NOTIFY : SS_CENTERIMAGE,
+                  ::GetWindowLongPtrW(tool(), GWL_STYLE) & (SS_NOTIFY | SS_CENTERIMAGE));
+        m_tips.DeleteToolFromToolTip(tool());
+    }
+}
+
+TEST_F(ToolTips, ExplainADisabledControlByItsAreaOfThePage)
+{
+    m_label.setEnable(false);
+    m_tips.setAreaTip(tool(), L"needs the finisher");
+    EXPECT_EQ(1, count());
+    EXPECT_EQ(L"needs the finisher", tipOf(tool(), 0));
+    m_tips.setAreaTip(tool(), L"needs the tray");
+    EXPECT_EQ(1, count());
+    EXPECT_EQ(L"needs the tray", tipOf(tool(), 0));
+
+    m_page.onMessage = [&](const _UIWindowsMessage& message) { m_tips.relayMouse(message); };
+    m_tips.SetInitialTime(TTDT_INITIAL, 1);
+    RECT area{};
+    ::GetWindowRect(tool(), &area);
+    ::SetCursorPos(area.left + 3, area.top + 3);
+    EXPECT_TRUE(o7::test::pumpUntil([&] { return ::IsWindowVisible(m_tips.getHwnd()) != FALSE; }));
+    EXPECT_NE(0, m_tips.ToolExists());
+
+    m_tips.setAreaTip(tool(), {});
+    EXPECT_EQ(0, count());
+}
+
+TEST_F(ToolTips, LeaveNothingBehind)
+{
+    const auto cycle = [&] {
+        UIToolTips tips(m_page.page());
+        tips.AddToolAndTipMessage(tool(), nullptr, text(L"tip"));
+        tips.DeleteToolFromToolTip(tool());
+    };
+    cycle();
+    const o7::test::ResourceGuard guard;
+    for (int i = 0; i < 200; ++i) {
+        cycle();
+    }
+}
+
+} // namespace

@@ -1,0 +1,64 @@
+#include "sheetrig.h"
+
+#include <array>
+
+#include "featureservices.h"
+#include "isolationaware.h"
+#include "productstringloader.h"
+#include "uicontext.h"
+#include "uidata.h"
+#include "uieventprocessor.h"
+#include "uimessagemanager.h"
+#include "uipopuplauncher.h"
+#include "uiservices.h"
+#include "uitab.h"
+#include "uitabmanager.h"
+
+namespace o7::test {
+
+SheetRig::SheetRig(ProductData& productData, FeatureServices& featureServices,
+                   ProductStringLoader& strings, const UIData& description, UIMode mode)
+    : m_description(description),
+      m_featureServices(featureServices),
+      m_services(std::make_unique<UIServices>()),
+      m_messages(std::make_unique<UIMessageManager>()),
+      m_context(new UIContext{featureServices, strings, productData})
+{
+    const HINSTANCE instance = IsolationAware::moduleInstance();
+    m_popups = std::make_unique<UIPopupLauncher>(*m_messages, instance, featureServices, *m_context,
+                                                 productData, description, nullptr, *m_services,
+                                                 nullptr, mode);
+    m_events = std::make_unique<UIEventProcessor>(*m_popups, featureServices, productData);
+    m_popups->setEventProcessor(m_events.get());
+    m_tabs = std::make_unique<UITabManager>(*m_services, *m_messages, instance, featureServices,
+                                            *m_context, productData, *m_events, mode, 0UL);
+}
+
+SheetRig::~SheetRig()
+{
+    m_tabs.reset();
+    m_popups.reset();
+    m_events.reset();
+}
+
+INT_PTR SheetRig::run(DWORD flags)
+{
+    UITabManager::Descriptions descriptions;
+    for (const auto& tab : m_description.getTabs())
+        descriptions.push_back(tab.get());
+    std::array<HPROPSHEETPAGE, 16> pages{};
+    PROPSHEETHEADERW header{};
+    header.dwSize = sizeof header;
+    header.dwFlags = flags;
+    header.hInstance = IsolationAware::moduleInstance();
+    header.pszCaption = L"Rig";
+    header.nPages = static_cast<UINT>(
+        m_tabs->createPagesForPropertySheet(descriptions, pages.data(), pages.size(), nullptr));
+    header.phpage = pages.data();
+    m_messages->append(UIMessageKind::TabPage, *m_tabs);
+    m_featureServices.SettleBeforeDisplay();
+    m_tabs->buildTabs(descriptions);
+    return IsolationAware::propertySheet(header);
+}
+
+} // namespace o7::test

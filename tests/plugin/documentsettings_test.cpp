@@ -1,0 +1,213 @@
+#include "documentsettings.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <vector>
+
+#include "testmodel.h"
+
+namespace o7 {
+namespace {
+
+using test::TestModel;
+
+/// A DEVMODE of the plug-in in memory of its own.
+class Buffer
+{
+public:
+    explicit Buffer(std::uint8_t fill = 0xCD) : m_bytes(kDevModeSize, fill) {}
+    explicit Buffer(const TestModel& model) : Buffer() { write(model); }
+
+    void write(const TestModel& model) { EXPECT_TRUE(writeDevMode(*model, L"Printer", **this)); }
+    DEVMODEW& operator*() { return *reinterpret_cast<DEVMODEW*>(m_bytes.data()); }
+    DEVMODEW* operator->() { return &**this; }
+    std::vector<std::uint8_t>& bytes() { return m_bytes; }
+
+private:
+    std::vector<std::uint8_t> m_bytes;
+};
+
+TEST(DocumentSettings, WritesEveryByte)
+{
+    const TestModel model;
+    Buffer one(std::uint8_t{0xCD});
+    Buffer other(std::uint8_t{0x11});
+    one.write(model);
+    other.write(model);
+    EXPECT_EQ(one.bytes(), other.bytes());
+    EXPECT_STREQ(one->dmDeviceName, L"Printer");
+    EXPECT_EQ(one->dmSize + one->dmDriverExtra, kDevModeSize);
+}
+
+TEST(DocumentSettings, CutsALongPrinterName)
+{
+    const TestModel model;
+    Buffer buffer;
+    const std::wstring name(100, L'n');
+    EXPECT_TRUE(writeDevMode(*model, name.c_str(), *buffer));
+    EXPECT_EQ(std::wcslen(buffer->dmDeviceName), CCHDEVICENAME - 1U);
+}
+
+/// The public fields that stand for option features: one number of the field and its value.
+struct FieldCase
+{
+    const char* name;
+    DWORD bit;
+    short DEVMODEW::*field;
+    short number;
+    DataModelIds::tagFeatureEnum feature;
+    int value;
+};
+
+// clang-format off
+const FieldCase kFieldCases[] = {
+    {"landscape",  DM_ORIENTATION,   &DEVMODEW::dmOrientation,   DMORIENT_LANDSCAPE, kOrientation, 5146},
+    {"A3",         DM_PAPERSIZE,     &DEVMODEW::dmPaperSize,     DMPAPER_A3,         kPaperSize,   5110},
+    {"letter",     DM_PAPERSIZE,     &DEVMODEW::dmPaperSize,     DMPAPER_LETTER,     kPaperSize,   5113},
+    {"tray 2",     DM_DEFAULTSOURCE, &DEVMODEW::dmDefaultSource, DMBIN_USER + 2,     kPaperTray,   5122},
+    {"long edge",  DM_DUPLEX,        &DEVMODEW::dmDuplex,        DMDUP_VERTICAL,     kSides,       5141},
+    {"short edge", DM_DUPLEX,        &DEVMODEW::dmDuplex,        DMDUP_HORIZONTAL,   kSides,       5142},
+    {"mono",       DM_COLOR,         &DEVMODEW::dmColor,         DMCOLOR_MONOCHROME, kColourMode,  5152},
+    {"1200 dpi",   DM_PRINTQUALITY,  &DEVMODEW::dmPrintQuality,  1200,               kResolution,  5191},
+};
+// clang-format on
+
+TEST(DocumentSettings, KeepsFeaturesAndPublicFieldsInStep)
+{
+    for (const FieldCase& row : kFieldCases) {
+        // From the feature to the field, and to another model by the private part.
+        const TestModel source;
+        ASSERT_TRUE(source.choose(row.feature, row.value)) << row.name;
+        source->CommitAccepted();
+        Buffer written(source);
+        EXPECT_NE(written->dmFields & row.bit, 0U) << row.name;
+        EXPECT_EQ((*written).*row.field, row.number) << row.name;
+        const TestModel copy;
+        mergeDevMode(*copy, *written);
+        EXPECT_EQ(copy.option(row.feature), row.value) << row.name;
+
+        // From the field to the feature, which wins over the older private part.
+        const TestModel target;
+        Buffer changed(target);
+        (*changed).*row.field = row.number;
+        mergeDevMode(*target, *changed);
+        EXPECT_EQ(target.option(row.feature), row.value) << row.name;
+        EXPECT_FALSE(target->IsModified()) << row.name;
+
+        // A field that is not marked as set says nothing.
+        const TestModel unmoved;
+        changed->dmFields &= ~row.bit;
+        mergeDevMode(*unmoved, *changed);
+        EXPECT_NE(unmoved.option(row.feature), row.value) << row.name;
+    }
+}
+
+TEST(DocumentSettings, CarriesCopiesAndCollation)
+{
+    const TestModel source;
+    Buffer buffer(source);
+    EXPECT_EQ(buffer->dmCopies, 1);
+    EXPECT_EQ(buffer->dmCollate, DMCOLLATE_TRUE);
+    buffer->dmCopies = 12;
+    buffer->dmCollate = DMCOLLATE_FALSE;
+    mergeDevMode(*source, *buffer);
+    EXPECT_EQ(source.number(kCopies), 12);
+    EXPECT_FALSE(source.flag(kCollate));
+    buffer->dmCopies = 1000; // more than the product makes
+    mergeDevMode(*source, *buffer);
+    EXPECT_EQ(source.number(kCopies), 1);
+}
+
+TEST(DocumentSettings, LeavesAFinerSettingThatTheFieldAlreadySays)
+{
+    const TestModel source;
+    source.choose(kColourMode, 5151);
+    source->CommitAccepted();
+    Buffer buffer(source);
+    EXPECT_EQ(buffer->dmColor, DMCOLOR_COLOR);
+    const TestModel target;
+    mergeDevMode(*target, *buffer);
+    EXPECT_EQ(target.option(kColourMode), 5151);
+}
+
+TEST(DocumentSettings, FollowsFieldsThatDependOnEachOther)
+{
+    const TestModel source;
+    source.choose(kPaperTray, 5121);
+    source->CommitAccepted();
+    Buffer buffer(source);
+    // A3 becomes possible only with the tray that stands behind it in the record.
+    buffer->dmPaperSize = DMPAPER_A3;
+    buffer->dmDefaultSource = DMBIN_USER + 2;
+    mergeDevMode(*source, *buffer);
+    EXPECT_EQ(source.option(kPaperSize), 5110);
+    EXPECT_EQ(source.option(kPaperTray), 5122);
+}
+
+TEST(DocumentSettings, TakesPublicFieldsOfDamagedAndForeignDevModes)
+{
+    const TestModel source;
+    source.setFlag(test::kSkipBlankPages, true);
+    source->CommitAccepted();
+    Buffer whole(source);
+    whole->dmOrientation = DMORIENT_LANDSCAPE;
+
+    struct Row
+    {
+        const char* name;
+        void (*change)(Buffer&);
+        bool keepsPrivate;
+        bool keepsPublic;
+    };
+    // clang-format off
+    const Row rows[] = {
+        {"untouched",         [](Buffer&) {}, true, true},
+        {"no private part",   [](Buffer& b) { b->dmDriverExtra = 0; }, false, true},
+        {"cut private part",  [](Buffer& b) { b->dmDriverExtra = 20; }, false, true},
+        {"another driver's",  [](Buffer& b) { b.bytes()[sizeof(DEVMODEW)] ^= 1; }, false, true},
+        {"a damaged block",   [](Buffer& b) { b.bytes()[sizeof(DEVMODEW) + 20] ^= 1; }, false, true},
+        {"no size at all",    [](Buffer& b) { b->dmSize = 0; }, false, false},
+        {"a tiny public part", [](Buffer& b) { b->dmSize = 40; }, false, false},
+    };
+    // clang-format on
+    for (const Row& row : rows) {
+        Buffer buffer = whole;
+        row.change(buffer);
+        const TestModel target;
+        mergeDevMode(*target, *buffer);
+        EXPECT_EQ(target.flag(test::kSkipBlankPages), row.keepsPrivate) << row.name;
+        EXPECT_EQ(target.option(kOrientation) == 5146, row.keepsPublic) << row.name;
+    }
+}
+
+TEST(DocumentSettings, ReadsADevModeOfALaterSystem)
+{
+    const TestModel source;
+    source.setFlag(test::kSkipBlankPages, true);
+    source->CommitAccepted();
+    Buffer buffer(source);
+    constexpr std::size_t kMore = 16;
+    buffer.bytes().insert(buffer.bytes().begin() + sizeof(DEVMODEW), kMore, std::uint8_t{0xEE});
+    buffer->dmSize = sizeof(DEVMODEW) + kMore;
+    const TestModel target;
+    mergeDevMode(*target, *buffer);
+    EXPECT_TRUE(target.flag(test::kSkipBlankPages));
+}
+
+TEST(DocumentSettings, LeavesTheDeviceAsThePrinterHasIt)
+{
+    const TestModel withUnit;
+    withUnit.choose(kSides, 5141);
+    withUnit->CommitAccepted();
+    Buffer buffer(withUnit);
+
+    const TestModel without;
+    without.setFlag(test::kDuplexUnit, false);
+    without->CommitAccepted();
+    mergeDevMode(*without, *buffer);
+    EXPECT_FALSE(without.flag(test::kDuplexUnit));
+}
+
+} // namespace
+} // namespace o7

@@ -1,0 +1,226 @@
+// The plug-in as the print system meets it: a module loaded by its path, and its exports.
+
+#include <windows.h>
+
+#include <commctrl.h>
+#include <compstui.h>
+#include <prsht.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "dlldelayloader.h"
+#include "documentsettings.h"
+#include "driverentries.h"
+#include "printerddi.h"
+
+namespace o7 {
+namespace {
+
+class DriverEntries : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        const std::wstring path = folderOfThisModule() + L"\\o7plugQK.dll";
+        m_plugin = LoadLibraryExW(path.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
+        ASSERT_NE(m_plugin, nullptr) << GetLastError();
+        m_header.cbSize = sizeof m_header;
+        m_header.pszPrinterName = m_printerName;
+    }
+
+    /// The host gets its process back: nothing of ours stays loaded.
+    void TearDown() override
+    {
+        for (const wchar_t* module : {kPluginModule, kGuiModule, kCoreModule, kUtilModule}) {
+            EXPECT_EQ(GetModuleHandleW(module), nullptr) << "still loaded after the last call";
+        }
+        FreeLibrary(m_plugin);
+    }
+
+    template <class Function> Function* entry(const char* name)
+    {
+        const auto address = GetProcAddress(m_plugin, name);
+        EXPECT_NE(address, nullptr) << name;
+        return reinterpret_cast<Function*>(reinterpret_cast<void*>(address));
+    }
+
+    LONG document(DWORD mode)
+    {
+        m_header.fMode = mode;
+        return entry<decltype(DrvDocumentPropertySheets)>("DrvDocumentPropertySheets")(
+            nullptr, reinterpret_cast<LPARAM>(&m_header));
+    }
+
+    DEVMODEW& devMode() { return *reinterpret_cast<DEVMODEW*>(m_buffer.data()); }
+
+    HMODULE m_plugin = nullptr;
+    wchar_t m_printerName[16] = L"Test printer";
+    DocumentPropertyHeader m_header{};
+    std::vector<std::uint8_t> m_buffer = std::vector<std::uint8_t>(kDevModeSize, 0xCD);
+};
+
+TEST_F(DriverEntries, TellTheSizeWithoutABuffer)
+{
+    m_header.pdmOut = &devMode();
+    EXPECT_EQ(document(0), static_cast<LONG>(kDevModeSize));
+    EXPECT_EQ(m_header.cbOut, kDevModeSize);
+    m_header.pdmOut = nullptr;
+    EXPECT_EQ(document(DM_OUT_BUFFER), static_cast<LONG>(kDevModeSize));
+}
+
+TEST_F(DriverEntries, GiveDefaultsAndMergeInPlace)
+{
+    m_header.pdmOut = &devMode();
+    EXPECT_GT(document(DM_OUT_BUFFER), 0);
+    EXPECT_STREQ(devMode().dmDeviceName, m_printerName);
+    EXPECT_EQ(devMode().dmPaperSize, DMPAPER_A4);
+    EXPECT_EQ(devMode().dmOrientation, DMORIENT_PORTRAIT);
+
+    // Applications hand the same buffer in and out.
+    devMode().dmOrientation = DMORIENT_LANDSCAPE;
+    m_header.pdmIn = &devMode();
+    EXPECT_GT(document(DM_IN_BUFFER | DM_OUT_BUFFER), 0);
+    EXPECT_EQ(devMode().dmOrientation, DMORIENT_LANDSCAPE);
+    EXPECT_EQ(devMode().dmPaperSize, DMPAPER_A4);
+
+    // Without the mode's bit the buffer handed in is no input.
+    EXPECT_GT(document(DM_OUT_BUFFER), 0);
+    EXPECT_EQ(devMode().dmOrientation, DMORIENT_PORTRAIT);
+}
+
+TEST_F(DriverEntries, RefuseABufferThatIsTooSmall)
+{
+    const std::vector<std::uint8_t> before = m_buffer;
+    m_header.pdmOut = &devMode();
+    m_header.cbOut = sizeof(DEVMODEW);
+    EXPECT_LT(document(DM_OUT_BUFFER), 0);
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INSUFFICIENT_BUFFER));
+    EXPECT_EQ(m_buffer, before);
+}
+
+TEST_F(DriverEntries, ConvertDevModes)
+{
+    auto* const convert = entry<decltype(DrvConvertDevMode)>("DrvConvertDevMode");
+    DWORD size = 0;
+    EXPECT_FALSE(convert(m_printerName, nullptr, nullptr, &size, kDriverDefault));
+    EXPECT_EQ(size, kDevModeSize);
+    EXPECT_TRUE(convert(m_printerName, nullptr, &devMode(), &size, kDriverDefault));
+    EXPECT_EQ(devMode().dmPaperSize, DMPAPER_A4);
+
+    DEVMODEW foreign{};
+    foreign.dmSize = sizeof foreign;
+    foreign.dmFields = DM_PAPERSIZE;
+    foreign.dmPaperSize = DMPAPER_LETTER;
+    EXPECT_TRUE(convert(m_printerName, &foreign, &devMode(), &size, kConvert));
+    EXPECT_EQ(devMode().dmPaperSize, DMPAPER_LETTER);
+    EXPECT_FALSE(convert(m_printerName, &foreign, &devMode(), &size, 99));
+}
+
+TEST_F(DriverEntries, AnswerCapabilitiesTwiceTheSame)
+{
+    auto* const capabilities = entry<decltype(DrvDeviceCapabilities)>("DrvDeviceCapabilities");
+    const auto ask = [&](WORD capability, void* output) {
+        return capabilities(nullptr, m_printerName, capability, output, nullptr);
+    };
+    const DWORD count = ask(DC_PAPERS, nullptr);
+    ASSERT_EQ(count, 8U);
+    std::vector<WORD> papers(count);
+    EXPECT_EQ(ask(DC_PAPERS, papers.data()), count);
+    EXPECT_EQ(papers.front(), DMPAPER_A3);
+    std::vector<POINT> sizes(count);
+    EXPECT_EQ(ask(DC_PAPERSIZE, sizes.data()), count);
+    for (const POINT& size : sizes) {
+        EXPECT_GT(size.y, size.x);
+        EXPECT_GT(size.x, 0);
+    }
+    std::vector<wchar_t> names(count * 64, L'x');
+    EXPECT_EQ(ask(DC_PAPERNAMES, names.data()), count);
+    EXPECT_EQ(names.back(), L'\0');
+    EXPECT_EQ(ask(DC_DUPLEX, nullptr), 1U);
+    EXPECT_EQ(ask(DC_COLORDEVICE, nullptr), 1U);
+    EXPECT_EQ(ask(DC_COPIES, nullptr), 999U);
+    EXPECT_EQ(ask(DC_EXTRA, nullptr) + ask(DC_SIZE, nullptr), kDevModeSize);
+    EXPECT_EQ(ask(DC_TRUETYPE, nullptr), static_cast<DWORD>(-1));
+}
+
+TEST_F(DriverEntries, HaveNothingToDoWhenAPrinterIsAdded)
+{
+    using PrinterEvent = BOOL WINAPI(LPWSTR, INT, DWORD, LPARAM);
+    EXPECT_TRUE(entry<PrinterEvent>("DrvPrinterEvent")(m_printerName, 3, 1, 0));
+}
+
+/// The system's own property-sheet machinery with the plug-in's pages; a timer presses a button.
+class DriverSheets : public DriverEntries
+{
+protected:
+    void SetUp() override
+    {
+        DriverEntries::SetUp();
+        m_header.pdmIn = m_header.pdmOut = &devMode();
+        ASSERT_GT(document(DM_OUT_BUFFER), 0);
+        m_header.fMode = DM_IN_BUFFER | DM_OUT_BUFFER | DM_IN_PROMPT;
+    }
+
+    /// @return whether the sheet was seen with at least one page.
+    bool openAndPress(const char* entryName, void* header, WPARAM button)
+    {
+        s_button = button;
+        s_pages = 0;
+        using CommonSheet = LONG WINAPI(HWND, PFNPROPSHEETUI, LPARAM, LPDWORD);
+        const HMODULE system =
+            LoadLibraryExW(L"compstui.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+        auto* const show = reinterpret_cast<CommonSheet*>(
+            reinterpret_cast<void*>(GetProcAddress(system, "CommonPropertySheetUIW")));
+        const UINT_PTR timer = SetTimer(nullptr, 0, 50, pressWhenShown);
+        DWORD result = 0;
+        show(nullptr, entry<decltype(DrvDocumentPropertySheets)>(entryName),
+             reinterpret_cast<LPARAM>(header), &result);
+        KillTimer(nullptr, timer);
+        FreeLibrary(system);
+        return s_pages > 0;
+    }
+
+private:
+    static BOOL CALLBACK press(HWND window, LPARAM)
+    {
+        const auto tabs = reinterpret_cast<HWND>(SendMessageW(window, PSM_GETTABCONTROL, 0, 0));
+        if (tabs == nullptr || !IsWindowVisible(window)) {
+            return TRUE;
+        }
+        s_pages = SendMessageW(tabs, TCM_GETITEMCOUNT, 0, 0);
+        PostMessageW(window, PSM_PRESSBUTTON, s_button, 0);
+        return FALSE;
+    }
+    static void CALLBACK pressWhenShown(HWND, UINT, UINT_PTR, DWORD)
+    {
+        EnumThreadWindows(GetCurrentThreadId(), press, 0);
+    }
+
+    static inline WPARAM s_button = 0;
+    static inline LRESULT s_pages = 0;
+};
+
+TEST_F(DriverSheets, WriteTheSettingsWithOkOnly)
+{
+    devMode().dmOrientation = DMORIENT_LANDSCAPE;
+    const std::vector<std::uint8_t> before = m_buffer;
+    EXPECT_TRUE(openAndPress("DrvDocumentPropertySheets", &m_header, PSBTN_CANCEL));
+    EXPECT_EQ(m_buffer, before);
+
+    // What came in by the public field alone leaves in the private part too.
+    EXPECT_TRUE(openAndPress("DrvDocumentPropertySheets", &m_header, PSBTN_OK));
+    EXPECT_EQ(devMode().dmOrientation, DMORIENT_LANDSCAPE);
+    EXPECT_NE(m_buffer, before);
+}
+
+TEST_F(DriverSheets, ShowTheDeviceWithoutAPrinter)
+{
+    DevicePropertyHeader header{sizeof header, kNoPermission, nullptr, m_printerName};
+    EXPECT_TRUE(openAndPress("DrvDevicePropertySheets", &header, PSBTN_CANCEL));
+}
+
+} // namespace
+} // namespace o7

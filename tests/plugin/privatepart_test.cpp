@@ -1,0 +1,80 @@
+#include "privatepart.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <numeric>
+#include <vector>
+
+namespace o7 {
+namespace {
+
+using Part = std::array<std::uint8_t, kPrivatePartSize>;
+
+std::vector<std::uint8_t> blockOf(std::size_t size)
+{
+    std::vector<std::uint8_t> block(size);
+    std::iota(block.begin(), block.end(), std::uint8_t{1});
+    return block;
+}
+
+TEST(PrivatePart, GivesBackWhatWasWrittenWhateverLayThereBefore)
+{
+    for (const std::size_t size : {std::size_t{0}, std::size_t{1}, kPrivateBlockCapacity}) {
+        const auto block = blockOf(size);
+        Part one;
+        Part other;
+        one.fill(0xCD);
+        other.fill(0x11);
+        EXPECT_TRUE(writePrivatePart(one, block));
+        EXPECT_TRUE(writePrivatePart(other, block));
+        EXPECT_EQ(one, other) << size;
+        const auto read = readPrivatePart(one);
+        EXPECT_TRUE(std::ranges::equal(read, block)) << size;
+    }
+}
+
+TEST(PrivatePart, RefusesABlockThatDoesNotFitAndStaysValid)
+{
+    Part part;
+    part.fill(0xCD);
+    EXPECT_FALSE(writePrivatePart(part, blockOf(kPrivateBlockCapacity + 1)));
+    Part empty;
+    writePrivatePart(empty, {});
+    EXPECT_EQ(part, empty);
+}
+
+TEST(PrivatePart, ReadsNothingOutOfDamagedParts)
+{
+    struct Row
+    {
+        const char* damage;
+        std::size_t size; ///< of the part as it is handed in
+        std::size_t at;   ///< byte that is changed
+        std::uint8_t to;
+    };
+    // clang-format off
+    constexpr Row rows[] = {
+        {"no part at all",            0,                      0, 'O'},
+        {"cut off in the header",     kPrivateHeaderSize - 1, 0, 'O'},
+        {"another driver's",          kPrivatePartSize,       0, 'X'},
+        {"a newer layout",            kPrivatePartSize,       4, 2},
+        {"another header size",       kPrivatePartSize,       6, 17},
+        {"a block beyond the end",    kPrivatePartSize,       9, 0x11},
+        {"a huge block",              kPrivatePartSize,      11, 0xFF},
+        {"cut off in the block",      kPrivateHeaderSize + 99, 0, 'O'},
+    };
+    // clang-format on
+    Part whole;
+    writePrivatePart(whole, blockOf(100));
+    ASSERT_EQ(readPrivatePart(whole).size(), 100U);
+    for (const Row& row : rows) {
+        Part part = whole;
+        part[row.at] = row.to;
+        EXPECT_TRUE(readPrivatePart(std::span(part).first(row.size)).empty()) << row.damage;
+    }
+}
+
+} // namespace
+} // namespace o7

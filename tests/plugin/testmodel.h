@@ -1,0 +1,118 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "datamodelfactory.h"
+#include "istringsource.h"
+#include "productfeatures.h"
+
+namespace o7::test {
+
+/// A small printer: the features that the public fields of a DEVMODE stand for, one that only the
+/// private part carries (skipping blank pages), one of the device (the duplex unit, without which
+/// there is no two-sided printing). A3 is not to be had from tray 1.
+class TestModel
+{
+public:
+    TestModel()
+    {
+        std::vector<PackageError> errors;
+        m_package = ParseProductPackage(kPackage, "test/package.json", errors);
+        for (const PackageError& error : errors) {
+            throw std::runtime_error(error.ToString());
+        }
+        m_model = CreateDataModel(*m_package, m_strings);
+    }
+
+    IDataModel& operator*() const { return *m_model; }
+    IDataModel* operator->() const { return m_model.get(); }
+
+    int option(DataModelIds::tagFeatureEnum feature) const
+    {
+        return features().GetOptionFeature(FeatureId(feature)).GetValue().GetValueEnum();
+    }
+    bool choose(DataModelIds::tagFeatureEnum feature, int value) const
+    {
+        return features()
+            .GetOptionFeature(FeatureId(feature))
+            .SetValue(ValueId(static_cast<DataModelIds::tagValueEnum>(value)));
+    }
+    bool flag(DataModelIds::tagFeatureEnum feature) const
+    {
+        bool value = false;
+        EXPECT_TRUE(features()
+                        .GetBooleanFeature(FeatureId(feature))
+                        .GetValue(value, FeatureRef::kAssertIfUnsupported));
+        return value;
+    }
+    bool setFlag(DataModelIds::tagFeatureEnum feature, bool value) const
+    {
+        return features().GetBooleanFeature(FeatureId(feature)).SetValue(value);
+    }
+    int number(DataModelIds::tagFeatureEnum feature) const
+    {
+        int value = 0;
+        EXPECT_TRUE(features()
+                        .GetIntegerFeature(FeatureId(feature))
+                        .GetValue(value, FeatureRef::kAssertIfUnsupported));
+        return value;
+    }
+
+private:
+    struct Strings : IStringSource
+    {
+        CXString LoadStringW(unsigned id) const override { return CXString::Formatted(L"#%u", id); }
+    };
+
+    ListOfFeaturesRef features() const { return m_model->GetFullListOfFeatures(); }
+
+    static constexpr char kPackage[] = R"({
+      "formatVersion": 1,
+      "product": {"id": "test", "modelName": "Test", "uniqueId": "TEST",
+                  "controllerFamily": 8430, "languages": ["en"]},
+      "features": [
+        {"enum": 3002, "name": "odrv-paper-size", "kind": "option", "default": 5111, "options": [
+          {"enum": 5110, "name": "a3"}, {"enum": 5111, "name": "a4"},
+          {"enum": 5113, "name": "letter"}]},
+        {"enum": 3003, "name": "odrv-paper-tray", "kind": "option", "default": 5120, "options": [
+          {"enum": 5120, "name": "auto"}, {"enum": 5121, "name": "tray-1"},
+          {"enum": 5122, "name": "tray-2"}]},
+        {"enum": 3005, "name": "odrv-sides", "kind": "option", "default": 5140, "options": [
+          {"enum": 5140, "name": "one"}, {"enum": 5141, "name": "long"},
+          {"enum": 5142, "name": "short"}]},
+        {"enum": 3006, "name": "odrv-orientation", "kind": "option", "default": 5145, "options": [
+          {"enum": 5145, "name": "portrait"}, {"enum": 5146, "name": "landscape"}]},
+        {"enum": 3007, "name": "odrv-copies", "kind": "integer", "default": 1,
+          "range": {"min": 1, "max": 999}},
+        {"enum": 3008, "name": "odrv-collate", "kind": "boolean", "default": true},
+        {"enum": 3009, "name": "odrv-colour-mode", "kind": "option", "default": 5150, "options": [
+          {"enum": 5150, "name": "auto"}, {"enum": 5151, "name": "colour"},
+          {"enum": 5152, "name": "mono"}]},
+        {"enum": 3019, "name": "odrv-resolution", "kind": "option", "default": 5190, "options": [
+          {"enum": 5190, "name": "600"}, {"enum": 5191, "name": "1200"}]},
+        {"enum": 3021, "name": "odrv-skip-blank-pages", "kind": "boolean", "default": false},
+        {"enum": 3046, "name": "odrv-installed-duplex-unit", "kind": "boolean", "default": true}
+      ],
+      "constraints": [
+        {"id": "no-duplex-unit", "when": [{"feature": 3046, "is": [false]}],
+         "effect": {"feature": 3005, "options": [5141, 5142], "kind": "disable"},
+         "reason": 60001},
+        {"id": "a3-not-from-tray-1", "when": [{"feature": 3003, "is": [5121]}],
+         "effect": {"feature": 3002, "options": [5110], "kind": "disable"}, "reason": 60002}
+      ]
+    })";
+
+    Strings m_strings;
+    std::unique_ptr<ProductPackage> m_package;
+    std::unique_ptr<IDataModel> m_model;
+};
+
+inline constexpr auto kSkipBlankPages = static_cast<DataModelIds::tagFeatureEnum>(3021);
+inline constexpr auto kDuplexUnit = static_cast<DataModelIds::tagFeatureEnum>(3046);
+
+} // namespace o7::test
