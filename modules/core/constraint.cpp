@@ -10,10 +10,10 @@ namespace {
 
 std::partial_ordering Order(const FeatureValue& a, const FeatureValue& b)
 {
-    if (const auto *left = std::get_if<int>(&a), *right = std::get_if<int>(&b);
+    if (const auto* left = std::get_if<int>(&a), *right = std::get_if<int>(&b);
         left != nullptr && right != nullptr)
         return *left <=> *right;
-    if (const auto *left = std::get_if<Dimension>(&a), *right = std::get_if<Dimension>(&b);
+    if (const auto* left = std::get_if<Dimension>(&a), *right = std::get_if<Dimension>(&b);
         left != nullptr && right != nullptr)
         return *left <=> *right;
     return std::partial_ordering::unordered;

@@ -99,13 +99,15 @@ FeatureNode* FindGroup(const FeatureNode& list, FeatureEnum group)
 } // namespace
 
 DataModel::DataModel(std::shared_ptr<const ProductDescription> product, IStringSource& strings)
-    : m_product(std::move(product)), m_engine(m_log), m_interpreter(strings),
+    : m_product(std::move(product)),
+      m_engine(m_log),
+      m_interpreter(strings),
       m_self(std::make_shared<DataModel*>(this))
 {
     m_rootDescription.kind = FeatureKind::ListOfFeatures;
     m_rootDescription.list = std::shared_ptr<const ListDescription>(m_product, &m_product->root);
-    m_root = std::make_shared<FeatureNode>(*this, nullptr, m_rootDescription,
-                                           FeatureIdWithContext());
+    m_root =
+        std::make_shared<FeatureNode>(*this, nullptr, m_rootDescription, FeatureIdWithContext());
     m_root->BuildMembers();
     m_engine.Attach(*m_root);
     m_log.TakeBase();
@@ -171,8 +173,8 @@ ListOfFeaturesRef DataModel::GetListOfFeaturesFor(const FeatureIdWithContext& co
 {
     FeatureNode* node = FindNode(context);
     if (node == nullptr)
-        node = context.GetContextPtr() != nullptr ? FindNode(*context.GetContextPtr())
-                                                  : m_root.get();
+        node =
+            context.GetContextPtr() != nullptr ? FindNode(*context.GetContextPtr()) : m_root.get();
     while (node != nullptr && node->Description().kind != FeatureKind::ListOfFeatures)
         node = node->Parent();
     return node != nullptr ? ListOfFeaturesRef(node->shared_from_this()) : ListOfFeaturesRef();
@@ -188,7 +190,10 @@ OptionFeatureRef DataModel::GetOptionFeatureRef(const FeatureIdWithContext& feat
     return OptionFeatureRef(m_root->FindFromTop(feature));
 }
 
-ListOfFeaturesRef DataModel::GetFullListOfFeatures() { return ListOfFeaturesRef(m_root); }
+ListOfFeaturesRef DataModel::GetFullListOfFeatures()
+{
+    return ListOfFeaturesRef(m_root);
+}
 
 ListOfFeaturesRef DataModel::GetListOfFeaturesByGroup(FeatureEnum group)
 {
@@ -295,8 +300,8 @@ std::shared_ptr<FeatureNode> DataModel::CreateItem(FeatureNode& list)
     std::shared_ptr<FeatureNode> item = list.MakeItem();
     Operate([&] {
         const std::size_t index = list.Children().size();
-        m_log.Record({ChangeLog::Undo::Kind::ItemCreated, list.shared_from_this(), {}, false, item,
-                      index});
+        m_log.Record(
+            {ChangeLog::Undo::Kind::ItemCreated, list.shared_from_this(), {}, false, item, index});
         Insert(list, item, index);
         return true;
     });
@@ -315,8 +320,12 @@ bool DataModel::DeleteItems(FeatureNode& list, std::vector<std::size_t> indices)
     indices.erase(std::unique(indices.begin(), indices.end()), indices.end());
     return Operate([&] {
         for (const std::size_t index : indices) {
-            m_log.Record({ChangeLog::Undo::Kind::ItemDeleted, list.shared_from_this(), {}, false,
-                          list.Children()[index], index});
+            m_log.Record({ChangeLog::Undo::Kind::ItemDeleted,
+                          list.shared_from_this(),
+                          {},
+                          false,
+                          list.Children()[index],
+                          index});
             Erase(list, index);
         }
         return true;
@@ -347,8 +356,12 @@ void DataModel::ApplyItems(FeatureNode& list, const SettingsSnapshot& snapshot)
                    });
     if (!sameItems) {
         while (!items.empty()) {
-            m_log.Record({ChangeLog::Undo::Kind::ItemDeleted, list.shared_from_this(), {}, false,
-                          items.back(), items.size() - 1});
+            m_log.Record({ChangeLog::Undo::Kind::ItemDeleted,
+                          list.shared_from_this(),
+                          {},
+                          false,
+                          items.back(),
+                          items.size() - 1});
             Erase(list, items.size() - 1);
         }
         for (std::size_t i = 0; i < snapshot.children.size(); ++i)
@@ -457,14 +470,20 @@ void DataModel::DeliverPending()
         m_deliveryRounds = 0;
 }
 
-void DataModel::SettleBeforeDisplay() { DeliverPending(); }
+void DataModel::SettleBeforeDisplay()
+{
+    DeliverPending();
+}
 
 bool DataModel::IsModified() const
 {
     return !SameSettings(m_rootDescription, CaptureSettings(*m_root), m_accepted);
 }
 
-void DataModel::CommitAccepted() { m_accepted = CaptureSettings(*m_root); }
+void DataModel::CommitAccepted()
+{
+    m_accepted = CaptureSettings(*m_root);
+}
 
 void DataModel::RevertToAccepted()
 {

@@ -96,10 +96,10 @@ JobTicketResult DataModel::LoadJobTicket(const std::filesystem::path& file)
     }
     result.outcome = JobTicketOutcome::Damaged;
     result.setAside = SetAside(file);
-    result.message = "The saved settings in " + NameOf(file) + " cannot be used: " + fault + ". " +
-                     (result.setAside.empty()
-                          ? std::string("The file could not be moved out of the way.")
-                          : "The file was set aside as " + NameOf(result.setAside) + ".");
+    result.message =
+        "The saved settings in " + NameOf(file) + " cannot be used: " + fault + ". " +
+        (result.setAside.empty() ? std::string("The file could not be moved out of the way.")
+                                 : "The file was set aside as " + NameOf(result.setAside) + ".");
     return result;
 }
 

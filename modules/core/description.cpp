@@ -45,8 +45,8 @@ bool FeatureDescription::Accepts(FeatureValue& value) const
         return option != nullptr && AcceptsOption(*option);
     }
     case FeatureKind::Integer: {
-        const auto* number = std::get_if<int>(&value);
-        return number != nullptr && AcceptsInteger(*number);
+        const auto* whole = std::get_if<int>(&value);
+        return whole != nullptr && AcceptsInteger(*whole);
     }
     case FeatureKind::String: {
         const auto* text = std::get_if<CXString>(&value);

@@ -30,8 +30,7 @@ FeatureValue InitialValue(const FeatureDescription& description)
     case FeatureKind::Range:
         return RangeOfInteger(lowest, lowest);
     case FeatureKind::Dimension:
-        return description.limits ? description.limits->first
-                                  : Dimension(0, *description.units);
+        return description.limits ? description.limits->first : Dimension(0, *description.units);
     case FeatureKind::Resolution:
     case FeatureKind::ListOfFeatures:
     case FeatureKind::ListOfValues:
@@ -56,7 +55,10 @@ const FeatureValue& UnspecifiedOption()
 
 FeatureNode::FeatureNode(DataModel& model, FeatureNode* parent,
                          const FeatureDescription& description, FeatureIdWithContext id)
-    : m_model(&model), m_parent(parent), m_description(&description), m_id(std::move(id)),
+    : m_model(&model),
+      m_parent(parent),
+      m_description(&description),
+      m_id(std::move(id)),
       m_value(InitialValue(description)),
       m_specified(IsList(description.kind) || description.defaultValue.index() != 0)
 {
@@ -67,7 +69,10 @@ FeatureKind FeatureNode::GetKind() const
     return IsAlive() ? m_description->kind : FeatureKind::Unsupported;
 }
 
-bool FeatureNode::IsSpecified() const { return IsAlive() && m_specified; }
+bool FeatureNode::IsSpecified() const
+{
+    return IsAlive() && m_specified;
+}
 
 bool FeatureNode::SetIsSpecified(bool specified)
 {
@@ -114,9 +119,8 @@ IFeatureNode::Ptr FeatureNode::FindFeature(const FeatureId& feature) const
     auto* child = IsAlive() ? FindChild(feature) : nullptr;
     if (child != nullptr)
         return child->shared_from_this();
-    return std::make_shared<UnsupportedNode>(m_parent != nullptr
-                                                 ? FeatureIdWithContext(m_id, feature)
-                                                 : FeatureIdWithContext(feature));
+    return std::make_shared<UnsupportedNode>(
+        m_parent != nullptr ? FeatureIdWithContext(m_id, feature) : FeatureIdWithContext(feature));
 }
 
 IFeatureNode::Ptr FeatureNode::FindFromTop(const FeatureIdWithContext& feature) const
@@ -127,7 +131,10 @@ IFeatureNode::Ptr FeatureNode::FindFromTop(const FeatureIdWithContext& feature) 
     return std::make_shared<UnsupportedNode>(feature);
 }
 
-std::size_t FeatureNode::GetNumChildren() const { return IsAlive() ? m_children.size() : 0; }
+std::size_t FeatureNode::GetNumChildren() const
+{
+    return IsAlive() ? m_children.size() : 0;
+}
 
 IFeatureNode::Ptr FeatureNode::GetChild(std::size_t index) const
 {

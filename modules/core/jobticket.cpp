@@ -59,8 +59,8 @@ json ToJson(const ListDescription& list, const SettingsSnapshot& settings, json 
         if (member.list) {
             const auto foreign = entries.find(name);
             const bool object = foreign != entries.end() && foreign->is_object();
-            entries[name] = ToJson(*member.list, settings.children[i],
-                                   object ? *foreign : json::object());
+            entries[name] =
+                ToJson(*member.list, settings.children[i], object ? *foreign : json::object());
         } else {
             entries[name] = ToJson(member, settings.children[i]);
         }

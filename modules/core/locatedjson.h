@@ -16,7 +16,8 @@ class LocatedJson
 public:
     using Array = std::vector<LocatedJson>;
     using Object = std::vector<std::pair<std::string, LocatedJson>>;
-    using Data = std::variant<std::nullptr_t, bool, std::int64_t, double, std::string, Array, Object>;
+    using Data =
+        std::variant<std::nullptr_t, bool, std::int64_t, double, std::string, Array, Object>;
 
     LocatedJson() = default;
     LocatedJson(Data value, unsigned lineNumber) : data(std::move(value)), line(lineNumber) {}

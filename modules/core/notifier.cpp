@@ -118,8 +118,7 @@ void Notifier::RegisterForEvent(IObserver& observer, DataModelIds::EventEnum eve
         std::make_shared<EventRegistration>(EventRegistration{&observer, kind, true}));
 }
 
-void Notifier::UnregisterForEvent(IObserver& observer, DataModelIds::EventEnum event,
-                                  unsigned kind)
+void Notifier::UnregisterForEvent(IObserver& observer, DataModelIds::EventEnum event, unsigned kind)
 {
     auto& registrations = m_events[event];
     const auto found = std::find_if(registrations.begin(), registrations.end(), [&](const auto& r) {

@@ -63,9 +63,18 @@ constexpr std::array<Named<Comparison>, 6> kComparisons = {{
     {"greaterOrEqual", DataModelIds::kGreaterOrEqual},
 }};
 
-const std::string& Text(const LocatedJson& json) { return *json.As<std::string>(); }
-CXString Wide(const LocatedJson& json) { return CXString::FromUtf8(Text(json)); }
-const LocatedJson::Array& Entries(const LocatedJson& json) { return *json.As<LocatedJson::Array>(); }
+const std::string& Text(const LocatedJson& json)
+{
+    return *json.As<std::string>();
+}
+CXString Wide(const LocatedJson& json)
+{
+    return CXString::FromUtf8(Text(json));
+}
+const LocatedJson::Array& Entries(const LocatedJson& json)
+{
+    return *json.As<LocatedJson::Array>();
+}
 
 bool FitsInt(const LocatedJson& json)
 {
@@ -73,7 +82,10 @@ bool FitsInt(const LocatedJson& json)
     return number != nullptr && *number >= INT_MIN && *number <= INT_MAX;
 }
 
-int Int(const LocatedJson& json) { return static_cast<int>(*json.As<std::int64_t>()); }
+int Int(const LocatedJson& json)
+{
+    return static_cast<int>(*json.As<std::int64_t>());
+}
 
 std::string NameOf(const FeatureDescription& feature)
 {
@@ -187,18 +199,18 @@ void PackageReader::ReadKind(const LocatedJson& json, FeatureDescription& featur
         {"ranges", {FeatureKind::Integer, FeatureKind::Range, FeatureKind::Range}},
         {"unit", {FeatureKind::Integer, FeatureKind::Dimension, FeatureKind::Dimension}},
         {"maxLength", {FeatureKind::String, FeatureKind::Option, FeatureKind::Option}},
-        {"features", {FeatureKind::ListOfFeatures, FeatureKind::ListOfFeatures,
-                      FeatureKind::ListOfFeatures}},
-        {"constraints", {FeatureKind::ListOfFeatures, FeatureKind::ListOfFeatures,
-                         FeatureKind::ListOfFeatures}},
+        {"features",
+         {FeatureKind::ListOfFeatures, FeatureKind::ListOfFeatures, FeatureKind::ListOfFeatures}},
+        {"constraints",
+         {FeatureKind::ListOfFeatures, FeatureKind::ListOfFeatures, FeatureKind::ListOfFeatures}},
         {"item", {FeatureKind::ListOfValues, FeatureKind::ListOfValues, FeatureKind::ListOfValues}},
         {"maxItems",
          {FeatureKind::ListOfValues, FeatureKind::ListOfValues, FeatureKind::ListOfValues}},
     };
     for (const Allowed& row : kAllowed) {
         const auto* value = json.Find(row.key);
-        const bool fits = std::find(row.kinds.begin(), row.kinds.end(), feature.kind) !=
-                          row.kinds.end();
+        const bool fits =
+            std::find(row.kinds.begin(), row.kinds.end(), feature.kind) != row.kinds.end();
         if (value != nullptr && !fits)
             Fail(*value, NameOf(feature) + ": \"" + std::string(row.key) +
                              "\" has no meaning for kind " + json.Find("kind")->ToText());
@@ -263,8 +275,7 @@ void PackageReader::ReadRanges(const LocatedJson& json, FeatureDescription& feat
                               Dimension(high.Number(), *feature.units)};
         } else if (!FitsInt(low) || !FitsInt(high)) {
             Fail(*entry, NameOf(feature) + ": expected whole numbers of 32 bits");
-        } else if (!feature.ranges.empty() &&
-                   feature.ranges.back().GetUpperBound() >= Int(low)) {
+        } else if (!feature.ranges.empty() && feature.ranges.back().GetUpperBound() >= Int(low)) {
             Fail(*entry, NameOf(feature) + ": expected ranges in rising order");
         } else {
             feature.ranges.emplace_back(Int(low), Int(high));
@@ -308,9 +319,9 @@ void PackageReader::ReadDefault(const LocatedJson& json, FeatureDescription& fea
         if (read.index() == 0)
             return; // that fault is told already
     }
-    const bool unspecified = std::holds_alternative<ValueId>(read) &&
-                             std::get<ValueId>(read).GetValueEnum() ==
-                                 DataModelIds::kValueUnspecified;
+    const bool unspecified =
+        std::holds_alternative<ValueId>(read) &&
+        std::get<ValueId>(read).GetValueEnum() == DataModelIds::kValueUnspecified;
     if (!feature.Accepts(read))
         Fail(*value, NameOf(feature) + ": the default " + value->ToText() +
                          " is not among the values that the feature accepts");
@@ -434,8 +445,8 @@ FeatureValue PackageReader::ReadComparedValue(const LocatedJson& json,
              std::abs(json.Number()) <= kLongestLength)
         value = Dimension(json.Number(), *feature.units);
     // A number outside the range may still be compared with; an unknown option cannot be meant.
-    const bool known = feature.kind == FeatureKind::Option ? feature.Accepts(value)
-                                                           : value.index() != 0;
+    const bool known =
+        feature.kind == FeatureKind::Option ? feature.Accepts(value) : value.index() != 0;
     if (!known) {
         Fail(json, NameOf(feature) + " has no value " + json.ToText());
         return {};
@@ -495,6 +506,9 @@ private:
 
 } // namespace
 
-std::string FindConstraintCircle(const ListDescription& list) { return CircleSearch(list).Run(); }
+std::string FindConstraintCircle(const ListDescription& list)
+{
+    return CircleSearch(list).Run();
+}
 
 } // namespace o7

@@ -57,7 +57,10 @@ LoadedPackage::LoadedPackage(ProductDescription product)
 {
 }
 
-std::size_t LoadedPackage::GetFeatureCount() const { return m_product->root.features.size(); }
+std::size_t LoadedPackage::GetFeatureCount() const
+{
+    return m_product->root.features.size();
+}
 
 std::size_t LoadedPackage::GetConstraintCount() const
 {

@@ -80,8 +80,8 @@ void CheckLimits(const LocatedJson& schema, const LocatedJson& value, const std:
     if (shortest != nullptr && text != nullptr &&
         static_cast<double>(text->size()) < shortest->Number())
         AddFault(faults, value, where,
-                 "found " + value.ToText() + ", expected a text of at least " +
-                     shortest->ToText() + " characters");
+                 "found " + value.ToText() + ", expected a text of at least " + shortest->ToText() +
+                     " characters");
 }
 
 } // namespace
@@ -135,7 +135,8 @@ void SchemaValidator::CheckObject(const LocatedJson& schema, const LocatedJson& 
     }
     const auto* properties = schema.Find("properties");
     const auto* further = schema.Find("additionalProperties");
-    const bool closed = further != nullptr && further->As<bool>() != nullptr && !*further->As<bool>();
+    const bool closed =
+        further != nullptr && further->As<bool>() != nullptr && !*further->As<bool>();
     for (const auto& [key, member] : *members) {
         const auto* property = properties != nullptr ? properties->Find(key) : nullptr;
         if (property != nullptr) {
@@ -144,7 +145,8 @@ void SchemaValidator::CheckObject(const LocatedJson& schema, const LocatedJson& 
             std::string known;
             for (const auto& entry : *properties->As<LocatedJson::Object>())
                 known += (known.empty() ? "" : ", ") + entry.first;
-            AddFault(faults, member, where, "unknown key \"" + key + "\", expected one of " + known);
+            AddFault(faults, member, where,
+                     "unknown key \"" + key + "\", expected one of " + known);
         }
     }
 }

@@ -14,8 +14,8 @@ struct SettingsSnapshot
 {
     static constexpr int kNewItem = -1;
 
-    FeatureValue value;     ///< monostate: unspecified, or a list.
-    int item = kNewItem;    ///< For an item of a list of values the key it has in the model.
+    FeatureValue value;  ///< monostate: unspecified, or a list.
+    int item = kNewItem; ///< For an item of a list of values the key it has in the model.
     std::vector<SettingsSnapshot> children;
 };
 

@@ -72,7 +72,8 @@ CXString StateInterpreter::FeatureName(const FeatureNode& feature)
 ValueId StateInterpreter::Complete(const FeatureNode& feature, const ValueId& value)
 {
     const FeatureId& id = feature.GetId().GetFeatureId();
-    if (value.GetValueEnum() == DataModelIds::kValueFirstUserText && !value.GetValueName().IsEmpty()) {
+    if (value.GetValueEnum() == DataModelIds::kValueFirstUserText &&
+        !value.GetValueName().IsEmpty()) {
         bool listed = false;
         for (const OptionDescription& option : feature.Description().options)
             listed = listed || option.number == value.GetValueEnum();
@@ -227,8 +228,8 @@ std::unique_ptr<CapabilitiesNode> StateInterpreter::Capabilities(const FeatureNo
     return base;
 }
 
-std::unique_ptr<CapabilitiesNode>
-StateInterpreter::OptionCapabilities(const FeatureNode& feature, const CapabilitiesNode& base)
+std::unique_ptr<CapabilitiesNode> StateInterpreter::OptionCapabilities(const FeatureNode& feature,
+                                                                       const CapabilitiesNode& base)
 {
     const FeatureDescription& description = feature.Description();
     std::vector<OptionWithState> options;

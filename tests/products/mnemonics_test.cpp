@@ -17,10 +17,10 @@ constexpr UIMode kModes[] = {UIMode::PrintingPreferences, UIMode::DeviceSettings
                              UIMode::CompactDialog, UIMode::PrintingDefaults};
 
 /// Walks one page and gathers who answers to which key.
-class PageTexts
+class PageWalk
 {
 public:
-    explicit PageTexts(const StringTable& strings) : m_strings(strings) {}
+    explicit PageWalk(const StringTable& strings) : m_strings(strings) {}
 
     void container(const UIContainerRecord& page)
     {
@@ -76,11 +76,11 @@ TEST(PageTexts, AreThereAndHaveDistinctMnemonics)
                         SCOPED_TRACE(std::string(language) + " " + std::to_string(family) +
                                      " mode " + std::to_string(static_cast<int>(mode)) + " page " +
                                      std::to_string(page->getId()));
-                        PageTexts(strings).container(page->getRecord());
+                        PageWalk(strings).container(page->getRecord());
                     }
                 }
-                if (!data.isEmpty())
-                    EXPECT_TRUE(strings.count(data.getCaption())) << data.getCaption();
+                EXPECT_TRUE(data.isEmpty() || strings.count(data.getCaption()))
+                    << data.getCaption();
             }
         }
     }

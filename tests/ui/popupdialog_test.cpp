@@ -2,7 +2,7 @@
 
 #include "idledriver.h"
 #include "listoffeaturesref.h"
-#include "productids.h"
+#include "tables/productids.h"
 #include "resourceguard.h"
 #include "sheetrig.h"
 #include "uidata.h"

@@ -1,10 +1,12 @@
 // The sheet as a person meets it: real mouse and keyboard input on the product's own pages.
 
+#include <windows.h>
+
 #include <prsht.h>
 
 #include "idledriver.h"
 #include "input.h"
-#include "productids.h"
+#include "tables/productids.h"
 #include "resourceguard.h"
 #include "sheetrig.h"
 #include "uidata.h"

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+namespace o7::bench {
+
+/// One child window as it stood on a page of ours.
+struct RawWindow
+{
+    std::wstring className;
+    std::wstring text;
+    DWORD style = 0;
+    DWORD exStyle = 0;
+    RECT place{}; ///< pixels of the page
+    int id = 0;
+    bool enabled = true;
+    std::vector<std::wstring> items; ///< of a combo box
+    int selection = -1;
+};
+
+struct RawPage
+{
+    std::wstring title;
+    long width = 0; ///< dialog units
+    long height = 0;
+    std::vector<RawWindow> windows;
+};
+
+/// The children of a page, in the order in which they were created.
+std::vector<RawWindow> recordWindows(HWND page);
+
+/// The baseline: a bare property sheet with the same windows, texts and entries, created by plain
+/// calls when a page is first shown, under the same activation context. Modal; returns what
+/// PropertySheetW returns.
+INT_PTR runRawSheet(const std::vector<RawPage>& pages);
+
+/// Keeps recorded pages in a file and reads them again, for a process that must not open our sheet
+/// before it opens the bare one. Both throw std::runtime_error when the file fails them.
+void savePages(const std::vector<RawPage>& pages, const std::wstring& path);
+std::vector<RawPage> loadPages(const std::wstring& path);
+
+} // namespace o7::bench

@@ -1,0 +1,247 @@
+#include "testproduct.h"
+
+#include "eventnotification.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+namespace {
+
+using Bundles = std::vector<std::string>;
+using test::Product;
+using test::Recorder;
+
+constexpr unsigned kKind = DataModelIds::kObserverFeature;
+
+class Notifications : public testing::Test
+{
+protected:
+    void Watch(Recorder& recorder, DataModelIds::tagFeatureEnum feature,
+               DataModelIds::SettingsEnum instance = DataModelIds::kSettingsCurrent)
+    {
+        product.model->RegisterObserver(recorder, SettingsInstanceId(instance), feature, kKind);
+    }
+    void Unwatch(Recorder& recorder, DataModelIds::tagFeatureEnum feature,
+                 DataModelIds::SettingsEnum instance = DataModelIds::kSettingsCurrent)
+    {
+        product.model->UnregisterObserver(recorder, SettingsInstanceId(instance), feature, kKind);
+    }
+
+    Product product;
+};
+
+TEST_F(Notifications, TheSettingsInstanceSelectsValuesAndStates)
+{
+    Recorder both;
+    Recorder values;
+    Recorder states;
+    Watch(both, test::kSides);
+    Watch(values, test::kSides, DataModelIds::kSettingsValue);
+    Watch(states, test::kSides, DataModelIds::kSettingsConstraintState);
+    product.Set(test::kSides, test::kTwoSided);
+    product.Set(test::kMedia, test::kFilm);
+    EXPECT_EQ(both.bundles, (Bundles{"odrv-sides value", "odrv-sides state"}));
+    EXPECT_EQ(values.bundles, Bundles{"odrv-sides value"});
+    EXPECT_EQ(states.bundles, Bundles{"odrv-sides state"});
+    EXPECT_EQ(both.lastKind, kKind);
+    // The value leaves what is disabled: the conflict goes, so both sides change.
+    product.Set(test::kSides, test::kOneSided);
+    EXPECT_EQ(both.bundles.back(), "odrv-sides value, odrv-sides state");
+    product.Set(test::kSides, test::kOneSided);
+    EXPECT_EQ(both.bundles.size(), 3U) << "no change, no notification";
+}
+
+TEST_F(Notifications, UnregisteringIsTheExactInverse)
+{
+    Recorder recorder;
+    Watch(recorder, test::kMedia);
+    Watch(recorder, test::kMedia);
+    Unwatch(recorder, test::kSides);
+    Unwatch(recorder, test::kMedia, DataModelIds::kSettingsValue);
+    product.model->UnregisterObserver(recorder, SettingsInstanceId(DataModelIds::kSettingsCurrent),
+                                      test::kMedia, kKind + 1);
+    product.Set(test::kMedia, test::kFilm);
+    EXPECT_EQ(recorder.bundles.size(), 1U) << "registered twice, delivered once";
+    Unwatch(recorder, test::kMedia);
+    product.Set(test::kMedia, test::kPlain);
+    EXPECT_EQ(recorder.bundles.size(), 2U) << "still registered once";
+    Unwatch(recorder, test::kMedia);
+    Unwatch(recorder, test::kMedia);
+    product.Set(test::kMedia, test::kFilm);
+    EXPECT_EQ(recorder.bundles.size(), 2U);
+    Watch(recorder, test::kAbsent);
+    Unwatch(recorder, test::kAbsent);
+}
+
+TEST_F(Notifications, ATransactionDeliversOneBundleAtItsEnd)
+{
+    Recorder recorder;
+    Watch(recorder, test::kMedia);
+    Watch(recorder, test::kCopies);
+    Watch(recorder, test::kSides);
+    auto transaction = product.model->OpenTransaction();
+    product.Set(test::kMedia, test::kFilm);
+    product.All().GetIntegerFeature(test::kCopies).SetValue(5);
+    product.All().GetIntegerFeature(test::kCopies).SetValue(6);
+    EXPECT_TRUE(recorder.bundles.empty());
+    EXPECT_TRUE(transaction->IsOpen());
+    EXPECT_TRUE(transaction->Close(true));
+    EXPECT_FALSE(transaction->Close(true)) << "closed already";
+    EXPECT_EQ(recorder.bundles, Bundles{"odrv-media value, odrv-sides state, odrv-copies value"});
+}
+
+TEST_F(Notifications, TransactionsNest)
+{
+    Recorder recorder;
+    Watch(recorder, test::kCopies);
+    auto copies = product.All().GetIntegerFeature(test::kCopies);
+    int value = 0;
+    {
+        auto outer = product.model->OpenTransaction();
+        copies.SetValue(2);
+        auto inner = product.model->OpenTransaction();
+        copies.SetValue(3);
+        inner->Close(true);
+        EXPECT_EQ(recorder.bundles.size(), 1U) << "the inner level is told at once";
+        auto second = product.model->OpenTransaction();
+        copies.SetValue(4);
+        second.reset();
+        copies.GetValue(value, FeatureRef::kAssertIfUnsupported);
+        EXPECT_EQ(value, 3) << "destroyed without close: rolled back";
+        EXPECT_EQ(recorder.bundles.size(), 2U);
+    }
+    copies.GetValue(value, FeatureRef::kAssertIfUnsupported);
+    EXPECT_EQ(value, 1) << "the outer rollback takes the committed inner level back too";
+    EXPECT_EQ(recorder.bundles.size(), 3U);
+}
+
+TEST_F(Notifications, ClosingAnOuterLevelClosesTheInnerOnes)
+{
+    auto outer = product.model->OpenTransaction();
+    auto inner = product.model->OpenTransaction();
+    product.Set(test::kMedia, test::kFilm);
+    EXPECT_TRUE(outer->Close(false));
+    EXPECT_FALSE(inner->IsOpen());
+    EXPECT_FALSE(inner->Close(true));
+    EXPECT_EQ(product.Get(test::kMedia), test::kPlain);
+    EXPECT_FALSE(product.State(test::kSides).HasInfoBtnMsg()) << "states are restored too";
+}
+
+TEST_F(Notifications, ATransactionMayOutliveItsModel)
+{
+    auto transaction = product.model->OpenTransaction();
+    product.model.reset();
+    EXPECT_FALSE(transaction->IsOpen());
+    EXPECT_FALSE(transaction->Close(true));
+}
+
+TEST_F(Notifications, ObserversMayWriteWhileTheyAreTold)
+{
+    Recorder first;
+    Recorder second;
+    Watch(first, test::kMedia);
+    Watch(second, test::kMedia);
+    Watch(second, test::kStaple);
+    first.reaction = [&] { product.Set(test::kStaple, test::kOneStaple); };
+    product.Set(test::kMedia, test::kFilm);
+    EXPECT_EQ(second.bundles, (Bundles{"odrv-staple value", "odrv-media value"}));
+}
+
+TEST_F(Notifications, ObserversMayGoWhileTheyAreTold)
+{
+    // Each of the first two takes itself and the third away and destroys both; nobody is called
+    // after that, and one who comes new waits for the next change.
+    auto doomed = std::make_unique<Recorder>();
+    Recorder killer;
+    Recorder newcomer;
+    Watch(killer, test::kMedia);
+    Watch(*doomed, test::kMedia);
+    killer.reaction = [&] {
+        if (!doomed)
+            return;
+        Unwatch(*doomed, test::kMedia);
+        doomed.reset();
+        Watch(newcomer, test::kMedia);
+    };
+    product.Set(test::kMedia, test::kFilm);
+    EXPECT_EQ(doomed, nullptr);
+    EXPECT_TRUE(newcomer.bundles.empty());
+
+    auto selfish = std::make_unique<Recorder>();
+    Watch(*selfish, test::kMedia);
+    selfish->reaction = [&] {
+        Unwatch(*selfish, test::kMedia);
+        selfish.reset();
+    };
+    product.Set(test::kMedia, test::kPlain);
+    EXPECT_EQ(selfish, nullptr);
+    EXPECT_EQ(newcomer.bundles.size(), 1U);
+}
+
+TEST_F(Notifications, ObserversThatAnswerEachOtherForEverAreCutOff)
+{
+    Recorder recorder;
+    Watch(recorder, test::kCopies);
+    auto copies = product.All().GetIntegerFeature(test::kCopies);
+    recorder.reaction = [&] {
+        int value = 0;
+        copies.GetValue(value, FeatureRef::kAssertIfUnsupported);
+        copies.SetValue(value == 1 ? 2 : 1);
+    };
+    copies.SetValue(2);
+    recorder.reaction = nullptr;
+    const std::size_t before = recorder.bundles.size();
+    EXPECT_GT(before, 100U);
+    copies.SetValue(50);
+    EXPECT_EQ(recorder.bundles.size(), before + 1) << "everything works again afterwards";
+}
+
+TEST_F(Notifications, AThrowingObserverDoesNotSilenceTheOthers)
+{
+    Recorder thrower;
+    Recorder other;
+    Watch(thrower, test::kMedia);
+    Watch(other, test::kMedia);
+    thrower.reaction = [] { throw std::runtime_error("observer"); };
+    EXPECT_THROW(product.Set(test::kMedia, test::kFilm), std::runtime_error);
+    EXPECT_EQ(product.Get(test::kMedia), test::kFilm);
+    EXPECT_EQ(other.bundles.size(), 1U);
+    // A rollback by destruction must not throw.
+    thrower.reaction = nullptr;
+    auto transaction = product.model->OpenTransaction();
+    product.Set(test::kMedia, test::kPlain);
+    thrower.reaction = [] { throw std::runtime_error("observer"); };
+    transaction.reset();
+    EXPECT_EQ(product.Get(test::kMedia), test::kFilm);
+}
+
+TEST_F(Notifications, EventsReachThoseWhoAskedForThem)
+{
+    Recorder recorder;
+    const EventId event(DataModelIds::kEventTab21017);
+    product.model->RegisterForEvent(recorder, event, DataModelIds::kObserverEvent);
+    auto& sink = product.model->GetNotificationSink();
+    sink.SendNotification(EventNotification(event));
+    sink.SendNotification(EventNotification(EventId(DataModelIds::kEventTab21005)));
+    EXPECT_EQ(recorder.bundles, Bundles{"event 21017"});
+    EXPECT_EQ(recorder.lastKind, DataModelIds::kObserverEvent);
+    product.model->UnregisterForEvent(recorder, event, DataModelIds::kObserverEvent);
+    sink.SendNotification(EventNotification(event));
+    EXPECT_EQ(recorder.bundles.size(), 1U);
+}
+
+TEST_F(Notifications, WhatIsWrittenOnOkIsAccepted)
+{
+    Recorder recorder;
+    const EventId ok(DataModelIds::kEventOk);
+    product.model->RegisterForEvent(recorder, ok, DataModelIds::kObserverEvent);
+    recorder.reaction = [&] { product.Set(test::kMedia, test::kFilm); };
+    product.model->GetNotificationSink().SendNotification(EventNotification(ok));
+    EXPECT_FALSE(product.model->IsModified());
+    product.model->RevertToAccepted();
+    EXPECT_EQ(product.Get(test::kMedia), test::kFilm);
+    product.model->UnregisterForEvent(recorder, ok, DataModelIds::kObserverEvent);
+}
+
+} // namespace
