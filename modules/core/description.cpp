@@ -1,10 +1,14 @@
 #include "description.h"
 
-#include "utf16length.h"
-
 #include <algorithm>
 
 namespace o7 {
+namespace {
+
+/// The length in UTF-16 units, the same on every platform.
+std::size_t Utf16Length(const CXString& text) { return text.ToUtf16Le().size() / 2; }
+
+} // namespace
 
 bool FeatureDescription::IsPrivate() const
 {

@@ -79,8 +79,8 @@ std::string PackageError::ToString() const
     const std::u8string name = file.generic_u8string();
     std::string text(name.begin(), name.end());
     if (line != 0)
-        text += ":" + std::to_string(line);
-    return text + ": " + message;
+        text.append(":").append(std::to_string(line));
+    return text.append(": ").append(message);
 }
 
 std::unique_ptr<ProductPackage> ParseProductPackage(std::string_view text,
