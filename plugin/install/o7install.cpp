@@ -14,7 +14,6 @@
 
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -24,6 +23,8 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr DWORD kDriverVersion = 3;
+/// Take the files from where their paths say (the toolchain's headers do not have it).
+constexpr DWORD kCopyFromDirectory = 0x10;
 constexpr wchar_t kEnvironment[] = L"Windows x64";
 constexpr const wchar_t* kModules[] = {L"o7plugQK.dll", L"o7plimQK.dll", L"o7guiQK.dll",
                                        L"o7coreQK.dll", L"o7utilQK.dll"};
@@ -109,50 +110,46 @@ std::vector<fs::path> dependentFiles(const Options& options)
     return files;
 }
 
-fs::path driverFolder()
-{
-    wchar_t folder[MAX_PATH];
-    DWORD needed = 0;
-    if (!GetPrinterDriverDirectoryW(nullptr, const_cast<wchar_t*>(kEnvironment), 1,
-                                    reinterpret_cast<BYTE*>(folder), sizeof folder, &needed)) {
-        fail("Asking for the printer-driver directory");
-    }
-    return folder;
-}
-
-/// Names of files separated by zeros and ended by an empty one, as the print system takes them.
+/// Full paths separated by zeros and ended by an empty one, as the print system takes them.
 std::wstring multiString(const std::vector<fs::path>& files)
 {
     std::wstring text;
     for (const fs::path& file : files) {
-        text += file.filename().wstring();
+        text += file.wstring();
         text += L'\0';
     }
     return text;
 }
 
+/// A bare name means a file of the system.
+fs::path renderingDriver(const std::wstring& file)
+{
+    wchar_t system[MAX_PATH];
+    if (GetSystemDirectoryW(system, MAX_PATH) == 0) {
+        fail("Asking for the system directory");
+    }
+    return fs::path(system) / file; // an absolute path stays itself
+}
+
 void addDriver(const Options& options)
 {
-    std::vector<fs::path> files = dependentFiles(options);
-    const fs::path target = driverFolder();
-    for (const fs::path& file : files) {
-        if (!CopyFileW(file.c_str(), (target / file.filename()).c_str(), FALSE)) {
-            fail("Copying " + file.string());
-        }
-    }
-    std::wstring dependent = multiString(files);
+    std::wstring dependent = multiString(dependentFiles(options));
     std::wstring name = options.printer;
-    std::wstring driver = options.driver;
+    std::wstring driver = renderingDriver(options.driver).wstring();
+    std::wstring data =
+        (options.folder / L"products" / options.product / L"package.json").wstring();
+    std::wstring plugin = (options.folder / kModules[0]).wstring();
     DRIVER_INFO_3W info{};
     info.cVersion = kDriverVersion;
     info.pName = name.data();
     info.pEnvironment = const_cast<wchar_t*>(kEnvironment);
     info.pDriverPath = driver.data();
-    info.pDataFile = const_cast<wchar_t*>(L"package.json");
-    info.pConfigFile = const_cast<wchar_t*>(kModules[0]);
+    info.pDataFile = data.data();
+    info.pConfigFile = plugin.data();
     info.pDependentFiles = dependent.data();
     info.pDefaultDataType = const_cast<wchar_t*>(L"RAW");
-    if (!AddPrinterDriverExW(nullptr, 3, reinterpret_cast<BYTE*>(&info), APD_COPY_ALL_FILES)) {
+    if (!AddPrinterDriverExW(nullptr, 3, reinterpret_cast<BYTE*>(&info),
+                             APD_COPY_ALL_FILES | kCopyFromDirectory)) {
         fail("Adding the printer driver");
     }
 }

@@ -158,10 +158,10 @@ TEST(UISpinControlData, DimensionsFollowTheUnitsAndNumbersDoNot)
     struct Row
     {
         UIControlRecord record;
-        bool metric;
-        std::int32_t increment;
-        std::int32_t digits;
-        std::uint32_t unit;
+        bool metric = false;
+        std::int32_t increment = 0;
+        std::int32_t digits = 0;
+        std::uint32_t unit = 0;
     };
     const UIControlRecord number{.kind = UIControlKind::Spin, .extra = &kNumber};
     const UIControlRecord length{.kind = UIControlKind::DimensionSpin, .extra = &kLength};

@@ -1,12 +1,14 @@
 // The sheet as a person meets it: real mouse and keyboard input on the product's own pages.
 
+#include <windows.h>
+
 #include <prsht.h>
 
 #include "idledriver.h"
 #include "input.h"
-#include "tables/productids.h"
 #include "resourceguard.h"
 #include "sheetrig.h"
+#include "tables/productids.h"
 #include "uidata.h"
 #include "uifixture.h"
 #include "uimanager.h"

@@ -1,5 +1,8 @@
 // Apply of a whole sheet, sixteen pages, and what happens when a collaborator throws.
 
+#include <windows.h>
+
+#include <commctrl.h>
 #include <prsht.h>
 
 #include "eventid.h"
@@ -8,8 +11,8 @@
 #include "iobserver.h"
 #include "notificationbundle.h"
 #include "orvikexception.h"
-#include "tables/productids.h"
 #include "sheetrig.h"
+#include "tables/productids.h"
 #include "uidata.h"
 #include "uifixture.h"
 #include "uimessagemanager.h"

@@ -1,5 +1,7 @@
 #include "uifixture.h"
 
+#include <windows.h>
+
 #include <prsht.h>
 
 #include <vector>

@@ -22,7 +22,7 @@ Seen g_seen;
 // it. Asks again as long as the box is not there.
 void CALLBACK lookAtBox(HWND, UINT, UINT_PTR timer, DWORD)
 {
-    const HWND box = FindWindowW(L"#32770", kTitle);
+    HWND box = FindWindowW(L"#32770", kTitle);
     if (box == nullptr) {
         return;
     }
@@ -35,8 +35,8 @@ void CALLBACK lookAtBox(HWND, UINT, UINT_PTR timer, DWORD)
 
 TEST(ExceptionBox, IsOwnedByTheActiveWindowAndStandsAlone)
 {
-    const HWND owner = CreateWindowExW(0, L"STATIC", L"owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0,
-                                       0, 200, 100, nullptr, nullptr, nullptr, nullptr);
+    HWND owner = CreateWindowExW(0, L"STATIC", L"owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0,
+                                 200, 100, nullptr, nullptr, nullptr, nullptr);
     ASSERT_NE(owner, nullptr);
     SetActiveWindow(owner);
     ASSERT_NE(SetTimer(nullptr, 0, 20, lookAtBox), 0U);
@@ -49,8 +49,8 @@ TEST(ExceptionBox, IsOwnedByTheActiveWindowAndStandsAlone)
 
 TEST(CXStringWindow, SetsTheTextOfAWindow)
 {
-    const HWND window = CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr,
-                                        nullptr, nullptr);
+    HWND window = CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr,
+                                  nullptr, nullptr);
     EXPECT_TRUE(CXString(L"Gr\u00F6\u00DFe").SetWindowTextW(window));
     wchar_t text[16] = {};
     GetWindowTextW(window, text, 16);

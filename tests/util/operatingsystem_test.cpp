@@ -27,7 +27,7 @@ TEST(OperatingSystem, KnowsTheSystemDirectory)
 
 TEST(OperatingSystem, TellsWhetherThemesAreOn)
 {
-    const HMODULE themes = LoadLibraryW(L"uxtheme.dll");
+    HMODULE themes = LoadLibraryW(L"uxtheme.dll");
     ASSERT_NE(themes, nullptr);
     using Question = BOOL(WINAPI*)();
     const auto ask = [themes](const char* name) {
@@ -44,7 +44,7 @@ TEST(OperatingSystem, LoadsLibrariesFromTheSystemDirectoryAlone)
     const CXString planted = programFolder() + L"\\o7planted.dll";
     const CXString real = programFolder() + L"\\util_test_product\\strings-en.dll";
     ASSERT_TRUE(CopyFileW(real.c_str(), planted.c_str(), FALSE));
-    const HMODULE taken = LoadLibraryExW(L"o7planted.dll", nullptr, LOAD_LIBRARY_AS_DATAFILE);
+    HMODULE taken = LoadLibraryExW(L"o7planted.dll", nullptr, LOAD_LIBRARY_AS_DATAFILE);
     EXPECT_NE(taken, nullptr);
     FreeLibrary(taken);
     EXPECT_FALSE(OperatingSystem::LoadSystemLibrary(L"o7planted.dll"));

@@ -75,8 +75,8 @@ TEST(ProductStringLoader, LeavesNothingBehind)
         useOnce();
     }
     // Freed, so the file can be opened for writing.
-    const HANDLE file = CreateFileW((folder + L"\\strings-de.dll").c_str(), GENERIC_WRITE, 0,
-                                    nullptr, OPEN_EXISTING, 0, nullptr);
+    HANDLE file = CreateFileW((folder + L"\\strings-de.dll").c_str(), GENERIC_WRITE, 0, nullptr,
+                              OPEN_EXISTING, 0, nullptr);
     EXPECT_NE(file, INVALID_HANDLE_VALUE);
     CloseHandle(file);
 }
