@@ -13,9 +13,9 @@
 #include <objbase.h>
 #include <prsht.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <stdexcept>
 #include <string>
 
@@ -35,6 +35,11 @@ constexpr UINT kLongEdgeText = 45141;
 constexpr UINT kShortEdgeText = 45142;
 /// The Properties button of the system's print dialog.
 constexpr int kPropertiesButton = 0x0401;
+
+// Pixels on the screen.
+constexpr POINT kSheetOffset{200, 90};
+constexpr int kMargin = 30;
+constexpr int kStatusBar = 20;
 
 std::wstring loadText(HMODULE strings, UINT number)
 {
@@ -72,7 +77,7 @@ public:
         const DWORD process = m_editor.process();
         const HWND window = waitForWindow(process, "The text editor",
                                           [](HWND w) { return hasClass(w, L"Notepad"); });
-        MoveWindow(window, 0, 0, 1100, 900, TRUE);
+        MoveWindow(window, 0, 0, 700, 620, TRUE);
         SetForegroundWindow(window);
         m_window = window;
         o7::test::pumpUntilQuiet(200);
@@ -88,6 +93,7 @@ public:
     {
         o7::test::sendClick(GetDlgItem(m_printDialog, kPropertiesButton));
         m_sheet = waitForWindow(m_editor.process(), "Our sheet", isSheet);
+        arrange();
         o7::test::pumpUntilQuiet(300);
         m_combo = findOnPages(text(kLongEdgeText));
     }
@@ -133,6 +139,23 @@ public:
     }
 
 private:
+    /// As a person would drag the windows to see the print dialog behind our sheet, with an editor
+    /// just large enough for both.
+    void arrange()
+    {
+        RECT dialog{};
+        RECT sheet{};
+        GetWindowRect(m_printDialog, &dialog);
+        GetWindowRect(m_sheet, &sheet);
+        OffsetRect(&sheet, dialog.left + kSheetOffset.x - sheet.left,
+                   dialog.top + kSheetOffset.y - sheet.top);
+        SetWindowPos(m_sheet, nullptr, sheet.left, sheet.top, 0, 0,
+                     SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+        SetWindowPos(m_window, nullptr, 0, 0, std::max(sheet.right, dialog.right) + kMargin,
+                     std::max(sheet.bottom, dialog.bottom) + kMargin + kStatusBar,
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+
     /// The visible list with an entry of this text, on whichever page it is.
     HWND findOnPages(const std::wstring& entry)
     {
