@@ -13,7 +13,6 @@
 #include <objbase.h>
 #include <prsht.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <stdexcept>
@@ -37,9 +36,8 @@ constexpr UINT kShortEdgeText = 45142;
 constexpr int kPropertiesButton = 0x0401;
 
 // Pixels on the screen.
+constexpr SIZE kEditorSize{700, 660};
 constexpr POINT kSheetOffset{200, 90};
-constexpr int kMargin = 30;
-constexpr int kStatusBar = 20;
 
 std::wstring loadText(HMODULE strings, UINT number)
 {
@@ -77,7 +75,7 @@ public:
         const DWORD process = m_editor.process();
         const HWND window = waitForWindow(process, "The text editor",
                                           [](HWND w) { return hasClass(w, L"Notepad"); });
-        MoveWindow(window, 0, 0, 700, 620, TRUE);
+        MoveWindow(window, 0, 0, kEditorSize.cx, kEditorSize.cy, TRUE);
         SetForegroundWindow(window);
         m_window = window;
         o7::test::pumpUntilQuiet(200);
@@ -139,8 +137,7 @@ public:
     }
 
 private:
-    /// As a person would drag the windows to see the print dialog behind our sheet, with an editor
-    /// just large enough for both.
+    /// As a person would drag the sheet to see the print dialog behind it.
     void arrange()
     {
         RECT dialog{};
@@ -151,9 +148,6 @@ private:
                    dialog.top + kSheetOffset.y - sheet.top);
         SetWindowPos(m_sheet, nullptr, sheet.left, sheet.top, 0, 0,
                      SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-        SetWindowPos(m_window, nullptr, 0, 0, std::max(sheet.right, dialog.right) + kMargin,
-                     std::max(sheet.bottom, dialog.bottom) + kMargin + kStatusBar,
-                     SWP_NOZORDER | SWP_NOACTIVATE);
     }
 
     /// The visible list with an entry of this text, on whichever page it is.
