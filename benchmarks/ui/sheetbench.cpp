@@ -10,11 +10,11 @@
 #include <stdexcept>
 
 #include "idledriver.h"
-#include "tables/productids.h"
 #include "rawsheet.h"
 #include "report.h"
 #include "sessionopener.h"
 #include "sheetrig.h"
+#include "tables/productids.h"
 #include "uicontainerdata.h"
 #include "uidata.h"
 #include "uimanager.h"

@@ -170,11 +170,11 @@ TEST_F(UIComboBox, FillsManyEntriesWithOneChangeOfWidth)
 
 struct KeyRow
 {
-    const char* what;
+    const char* what = nullptr;
     std::initializer_list<const wchar_t*> entries; ///< in capitals: unavailable
-    int selected;
-    WPARAM key;
-    int expected;
+    int selected = 0;
+    WPARAM key = 0;
+    int expected = 0;
 };
 
 TEST_F(UIComboBox, ArrowKeysPassOverUnavailableEntries)

@@ -22,6 +22,7 @@ constexpr std::int32_t kComboHeightLabelAbove = 25;
 constexpr std::int32_t kComboHeightLabelBeside = 18;
 constexpr std::int32_t kGroupTop = 11;
 constexpr std::int32_t kGroupBottom = 7;
+constexpr std::int32_t kGroupGap = 7;
 constexpr std::int32_t kGap = 4;
 constexpr std::int32_t kLineHeight = 8;
 constexpr std::int32_t kButtonRow = 7 + 14;
@@ -86,7 +87,7 @@ std::int32_t minimalHeight(const UIMoleculeData& molecule, std::int32_t labelWid
         return kGap + kLineHeight * static_cast<std::int32_t>(
                                         molecule.findControl<UITextControlData>()->getLines());
     case UIMoleculeKind::GroupBox: {
-        std::int32_t height = kGroupTop + kGroupBottom + kGap;
+        std::int32_t height = kGroupTop + kGroupBottom + kGroupGap;
         for (const auto& child : molecule.getChildren())
             height += minimalHeight(*child, labelWidth);
         return height;

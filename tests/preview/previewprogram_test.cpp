@@ -47,8 +47,8 @@ protected:
     {
         const fs::path errors = m_folder / "errors.txt";
         SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
-        HANDLE stream = CreateFileW(errors.c_str(), GENERIC_WRITE, FILE_SHARE_READ,
-                                          &inherited, CREATE_ALWAYS, 0, nullptr);
+        HANDLE stream = CreateFileW(errors.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited,
+                                    CREATE_ALWAYS, 0, nullptr);
         STARTUPINFOW startup{};
         startup.cb = sizeof startup;
         startup.dwFlags = STARTF_USESTDHANDLES;

@@ -158,17 +158,21 @@ TEST_F(OfficeC430, SaysTheSameInEveryLanguage)
 
 TEST_F(OfficeC430, OpensWithAlmostEverythingToChooseFrom)
 {
-    std::set<int> limited;
+    std::set<int> disabled;
+    std::set<int> noted;
     for (int feature = kFirstFeature; feature <= kLastFeature; ++feature) {
         const auto now = state(feature);
         if (now.IsDisabled() || now.IsCleared())
-            limited.insert(feature);
+            disabled.insert(feature);
+        else if (now.HasInfoBtnMsg())
+            noted.insert(feature);
         EXPECT_FALSE(now.IsHidden()) << feature;
-        EXPECT_FALSE(now.HasInfoBtnMsg()) << feature;
         EXPECT_FALSE(now.HasCbrBtnMsg()) << feature;
     }
     // No folding unit, one page on a sheet, no watermark, no covers.
-    EXPECT_THAT(limited, testing::ElementsAre(3014, 3017, 3024, 3026));
+    EXPECT_THAT(disabled, testing::ElementsAre(3014, 3017, 3024, 3026));
+    // No booklet finisher: no saddle stitch, no booklet tray.
+    EXPECT_THAT(noted, testing::ElementsAre(3012, 3015));
 }
 
 void OfficeC430::expectAllExplained(const std::string& after)
@@ -249,6 +253,7 @@ const Story kStories[] = {
      3015,
      5178,
      Effect::Free},
+    {"black-and-white family has no colour", {{285, 8432}}, 3009, 0, Effect::Hidden},
     {"no punch kit", {{3042, 0}}, 3013, 0, Effect::Disabled},
     {"folding unit", {{3044, 1}}, 3014, 0, Effect::Free},
     {"two trays: no tray 3", {{3041, 5225}}, 3003, 5123, Effect::Disabled},
@@ -259,7 +264,8 @@ const Story kStories[] = {
     {"labels one-sided", {{3004, 5134}}, 3005, 5141, Effect::Disabled},
     {"two-sided, then labels", {{3005, 5141}, {3004, 5134}}, 3005, 0, Effect::Conflict},
     {"envelope size, plain paper", {{3002, 5116}}, 3004, 0, Effect::Conflict},
-    {"envelope size and type", {{3002, 5116}, {3004, 5136}}, 3004, 0, Effect::Free},
+    {"envelope size and type", {{3002, 5116}, {3004, 5136}}, 3004, 5136, Effect::Free},
+    {"envelope type on A4", {{3004, 5136}}, 3004, 0, Effect::Conflict},
     {"envelopes not from tray 2", {{3002, 5116}, {3004, 5136}}, 3003, 5122, Effect::Disabled},
     {"envelopes from bypass", {{3002, 5116}, {3004, 5136}}, 3003, 5125, Effect::Free},
     {"A3 not from tray 1", {{3002, 5110}}, 3003, 5121, Effect::Disabled},

@@ -2,9 +2,9 @@
 
 #include "idledriver.h"
 #include "listoffeaturesref.h"
-#include "tables/productids.h"
 #include "resourceguard.h"
 #include "sheetrig.h"
+#include "tables/productids.h"
 #include "uidata.h"
 #include "uieventprocessor.h"
 #include "uifixture.h"

@@ -6,9 +6,9 @@
 
 #include "idledriver.h"
 #include "input.h"
-#include "tables/productids.h"
 #include "resourceguard.h"
 #include "sheetrig.h"
+#include "tables/productids.h"
 #include "uidata.h"
 #include "uifixture.h"
 #include "uimanager.h"

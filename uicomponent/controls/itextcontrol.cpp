@@ -6,7 +6,7 @@
 
 CXString ITextControl::getText() const
 {
-    std::array<wchar_t, 260> text;
+    std::array<wchar_t, 260> text{};
     const UINT length = ::GetDlgItemTextW(m_control->getParentHwnd(), m_control->getId(),
                                           text.data(), static_cast<int>(text.size()));
     return {text.data(), static_cast<int>(length)};

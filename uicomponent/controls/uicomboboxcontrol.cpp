@@ -75,15 +75,16 @@ UIComboBoxControl::UIComboBoxControl(HWND parent, int id, UIServices& services, 
 {
     setVisibleFlag(true);
     createControlWindow(L"COMBOBOX", kStyle);
+    HWND window = UIControl::getHwnd();
     const o7::TextMeasure measure(font);
     const LPARAM height = measure.fontHeight();
-    send(getHwnd(), CB_SETITEMHEIGHT, toIndex(-1), height);
-    send(getHwnd(), CB_SETITEMHEIGHT, 0, height);
+    send(window, CB_SETITEMHEIGHT, toIndex(-1), height);
+    send(window, CB_SETITEMHEIGHT, 0, height);
     m_margin = measure.measure(kReferenceCharacter).cx;
-    m_widestItem = static_cast<int>(send(getHwnd(), CB_GETDROPPEDWIDTH));
+    m_widestItem = static_cast<int>(send(window, CB_GETDROPPEDWIDTH));
     m_droppedWidth = m_widestItem;
-    m_minVisible = static_cast<int>(send(getHwnd(), CB_GETMINVISIBLE));
-    subclassWindow(getHwnd());
+    m_minVisible = static_cast<int>(send(window, CB_GETMINVISIBLE));
+    subclassWindow(window);
 }
 
 UIComboBoxControl::~UIComboBoxControl()

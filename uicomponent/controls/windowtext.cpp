@@ -7,7 +7,7 @@ namespace o7 {
 CXString windowText(HWND window)
 {
     // Almost every text fits: one message instead of two, and no allocation before it is known.
-    std::array<wchar_t, 260> shortText;
+    std::array<wchar_t, 260> shortText{};
     const int copied =
         ::GetWindowTextW(window, shortText.data(), static_cast<int>(shortText.size()));
     if (copied + 1 < static_cast<int>(shortText.size())) {

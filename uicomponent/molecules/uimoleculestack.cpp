@@ -1,21 +1,31 @@
 #include "uimoleculestack.h"
 
+#include "uimoleculedata.h"
+
 namespace {
 
 // Dialog units.
 constexpr long kOneLine = 10;
 constexpr long kGapBetweenLines = 2;
 constexpr long kGap = 4;
+constexpr long kGapBetweenGroups = 7;
 
 bool isOneLine(const UIMolecule& molecule)
 {
     return molecule.GetMinimumHeight() <= kOneLine;
 }
 
+bool isGroup(const UIMolecule& molecule)
+{
+    return molecule.GetData().getKind() == UIMoleculeKind::GroupBox;
+}
+
 } // namespace
 
 long UIMoleculeStack::gapBetween(const UIMolecule& upper, const UIMolecule& lower)
 {
+    if (isGroup(upper) || isGroup(lower))
+        return kGapBetweenGroups;
     return isOneLine(upper) && isOneLine(lower) ? kGapBetweenLines : kGap;
 }
 

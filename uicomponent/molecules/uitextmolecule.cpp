@@ -38,7 +38,7 @@ void UITextMolecule::CreateControls(UIPageWindow& page)
     SetPage(page);
     m_text = std::make_unique<UITextControl>(
         page.window, page.takeId(), GetSite().services, page.font, GetPosition(),
-        SIZE{GetContentWidth(), GetMinimumHeight()}, SS_NOPREFIX, true, page.boldFont);
+        SIZE{GetWidth(), GetMinimumHeight()}, SS_NOPREFIX, true, page.boldFont);
     SetWindowTextW(m_text->getHwnd(), LoadText(m_number).c_str());
     if (m_bold)
         m_text->boldText(true);

@@ -23,7 +23,7 @@ constexpr UIContainerRecord kPaperPage = page(1, O7STR_TAB_PAPER, kPaperColumns)
 // Page "Layout"
 constexpr UIMoleculeRecord kPageLayoutGroup[] = {s::kOrientation, s::kPagesPerSheet,
                                                  s::kPageBorders, s::kScaling};
-constexpr UIMoleculeRecord kBookletGroup[] = {s::kBooklet, text<O7STR_T_BOOKLET, 3>()};
+constexpr UIMoleculeRecord kBookletGroup[] = {s::kBooklet, text<O7STR_T_BOOKLET, 2>()};
 constexpr UIMoleculeRecord kFinishingGroup[] = {s::kStaple, s::kPunch, s::kFold, s::kOutputBin};
 constexpr UIMoleculeRecord kLayoutLeft[] = {group(O7STR_G_PAGE_LAYOUT, kPageLayoutGroup),
                                             group(O7STR_G_BOOKLET, kBookletGroup)};
@@ -33,9 +33,9 @@ constexpr UIContainerRecord kLayoutPage = page(2, O7STR_TAB_LAYOUT, kLayoutColum
 
 // Page "Image"
 constexpr UIMoleculeRecord kQualityGroup[] = {s::kPrintQuality, s::kResolution, s::kOptimiseFor,
-                                              text<O7STR_T_QUALITY, 3>()};
+                                              text<O7STR_T_QUALITY, 2>()};
 constexpr UIMoleculeRecord kColourGroup[] = {s::kColourMode, s::kTonerSaving,
-                                             text<O7STR_T_TONER, 3>()};
+                                             text<O7STR_T_TONER, 2>()};
 constexpr UIMoleculeRecord kImageLeft[] = {group(O7STR_G_QUALITY, kQualityGroup)};
 constexpr UIMoleculeRecord kImageRight[] = {group(O7STR_G_COLOUR, kColourGroup)};
 constexpr UIColumnRecord kImageColumns[] = {left(kImageLeft), right(kImageRight)};
@@ -43,9 +43,9 @@ constexpr UIContainerRecord kImagePage = page(3, O7STR_TAB_IMAGE, kImageColumns)
 
 // Page "Watermark"
 constexpr UIMoleculeRecord kWatermarkGroup[] = {s::kWatermark, s::kWatermarkFirst,
-                                                text<O7STR_T_WATERMARK, 3>()};
-constexpr UIMoleculeRecord kBannerGroup[] = {s::kBannerSheet, text<O7STR_T_BANNER, 3>()};
-constexpr UIMoleculeRecord kCoversGroup[] = {s::kCovers, s::kCoverTray, text<O7STR_T_COVERS, 3>()};
+                                                text<O7STR_T_WATERMARK, 2>()};
+constexpr UIMoleculeRecord kBannerGroup[] = {s::kBannerSheet, text<O7STR_T_BANNER, 2>()};
+constexpr UIMoleculeRecord kCoversGroup[] = {s::kCovers, s::kCoverTray, text<O7STR_T_COVERS, 2>()};
 constexpr UIMoleculeRecord kWatermarkLeft[] = {group(O7STR_G_WATERMARK, kWatermarkGroup),
                                                group(O7STR_G_BANNER, kBannerGroup)};
 constexpr UIMoleculeRecord kWatermarkRight[] = {group(O7STR_G_COVERS, kCoversGroup)};
@@ -53,10 +53,10 @@ constexpr UIColumnRecord kWatermarkColumns[] = {left(kWatermarkLeft), right(kWat
 constexpr UIContainerRecord kWatermarkPage = page(4, O7STR_TAB_WATERMARK, kWatermarkColumns);
 
 // Page "Job Options"; the address for tracking travels with it although nobody types it here.
-constexpr UIMoleculeRecord kJobOptionsGroup[] = {s::kJobType, text<O7STR_T_JOB_TYPE, 3>(),
+constexpr UIMoleculeRecord kJobOptionsGroup[] = {s::kJobType, text<O7STR_T_JOB_TYPE, 2>(),
                                                  s::kCollate, s::kNotifyWhenDone};
 constexpr UIMoleculeRecord kAccountingGroup[] = {s::kAccounting, text<O7STR_T_ACCOUNTING, 2>()};
-constexpr UIMoleculeRecord kTrackingGroup[] = {s::kTrackJobs, text<O7STR_T_TRACKING, 3>()};
+constexpr UIMoleculeRecord kTrackingGroup[] = {s::kTrackJobs, text<O7STR_T_TRACKING, 2>()};
 constexpr UIMoleculeRecord kJobLeft[] = {group(O7STR_G_JOB, kJobOptionsGroup)};
 constexpr UIMoleculeRecord kJobRight[] = {group(O7STR_G_ACCOUNTING, kAccountingGroup),
                                           group(O7STR_G_TRACKING, kTrackingGroup)};
@@ -72,8 +72,8 @@ constexpr UIContainerRecord kJobPage{.id = 5,
 // Page "Advanced", and "Policies" in its place where the administrator sets the defaults
 constexpr UIMoleculeRecord kPagesGroup[] = {s::kMirrorImage, s::kEdgeToEdge, s::kSkipBlankPages};
 constexpr UIMoleculeRecord kUnitsGroup[] = {s::kUnits, text<O7STR_T_UNITS, 2>()};
-constexpr UIMoleculeRecord kApplyGroup[] = {s::kWarnOnApply, text<O7STR_T_APPLY, 3>()};
-constexpr UIMoleculeRecord kConnectionGroup[] = {s::kBidirectional, text<O7STR_T_CONNECTION, 3>()};
+constexpr UIMoleculeRecord kApplyGroup[] = {s::kWarnOnApply, text<O7STR_T_APPLY, 2>()};
+constexpr UIMoleculeRecord kConnectionGroup[] = {s::kBidirectional, text<O7STR_T_CONNECTION, 2>()};
 constexpr UIMoleculeRecord kAdvancedLeft[] = {group(O7STR_G_PAGES, kPagesGroup),
                                               group(O7STR_G_UNITS, kUnitsGroup)};
 constexpr UIMoleculeRecord kAdvancedRight[] = {group(O7STR_G_APPLY, kApplyGroup)};
@@ -88,7 +88,7 @@ constexpr UIContainerRecord kPolicyPage = page(7, O7STR_TAB_POLICY, kPolicyColum
 constexpr UIMoleculeRecord kHandlingGroup[] = {s::kTrays, s::kDuplexUnit};
 constexpr UIMoleculeRecord kControllerGroup[] = {s::kHardDisk, text<O7STR_T_CONTROLLER, 2>()};
 constexpr UIMoleculeRecord kInstalledFinishingGroup[] = {
-    s::kFinisher, s::kPunchKit, s::kFoldingUnit, text<O7STR_T_FINISHING, 3>()};
+    s::kFinisher, s::kPunchKit, s::kFoldingUnit, text<O7STR_T_FINISHING, 2>()};
 constexpr UIMoleculeRecord kInstalledLeft[] = {group(O7STR_G_PAPER_HANDLING, kHandlingGroup),
                                                group(O7STR_G_CONTROLLER, kControllerGroup)};
 constexpr UIMoleculeRecord kInstalledRight[] = {group(O7STR_G_FINISHING, kInstalledFinishingGroup)};
@@ -111,7 +111,7 @@ constexpr UIMoleculeRecord kQuickLeft[] = {group(O7STR_G_PAPER, kQuickPaperGroup
 constexpr UIMoleculeRecord kQuickRight[] = {group(O7STR_G_OUTPUT, kQuickOutputGroup)};
 constexpr UIColumnRecord kQuickColumns[] = {left(kQuickLeft), right(kQuickRight)};
 
-constexpr UIMoleculeRecord kTrackingOffColumn[] = {text<O7STR_T_TRACKING_OFF, 3>(),
+constexpr UIMoleculeRecord kTrackingOffColumn[] = {text<O7STR_T_TRACKING_OFF, 2>(),
                                                    s::kDoNotShowAgain};
 constexpr UIColumnRecord kTrackingOffColumns[] = {wide(kTrackingOffColumn)};
 

@@ -7,13 +7,14 @@
 
 namespace o7 {
 
-// The usual large page: two columns of 116 with a gap of 6 between margins of 7, or one of 238.
-inline constexpr std::int32_t kPageWidth = 252;
-inline constexpr std::int32_t kPageHeight = 218;
+// A page for two full columns: 148 each with a gap of 6 between margins of 7, or one of 302. Wide
+// enough for the tabs to stand in one row, and low enough to leave no page half empty.
+inline constexpr std::int32_t kPageWidth = 316;
+inline constexpr std::int32_t kPageHeight = 180;
 inline constexpr std::int32_t kMargin = 7;
-inline constexpr std::int32_t kColumnWidth = 116;
-inline constexpr std::int32_t kSecondColumnX = 129;
-inline constexpr std::int32_t kWideColumnWidth = 238;
+inline constexpr std::int32_t kColumnWidth = 148;
+inline constexpr std::int32_t kSecondColumnX = 161;
+inline constexpr std::int32_t kWideColumnWidth = 302;
 
 namespace rows {
 
