@@ -138,7 +138,7 @@ TEST_F(DriverEntries, AnswerCapabilitiesTwiceTheSame)
         EXPECT_GT(size.y, size.x);
         EXPECT_GT(size.x, 0);
     }
-    std::vector<wchar_t> names(count * 64, L'x');
+    std::vector<wchar_t> names(std::size_t{64} * count, L'x');
     EXPECT_EQ(ask(DC_PAPERNAMES, names.data()), count);
     EXPECT_EQ(names.back(), L'\0');
     EXPECT_EQ(ask(DC_DUPLEX, nullptr), 1U);

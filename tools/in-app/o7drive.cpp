@@ -73,8 +73,8 @@ public:
             throw std::runtime_error("The texts " + strings.string() + " cannot be loaded.");
         }
         const DWORD process = m_editor.process();
-        const HWND window = waitForWindow(process, "The text editor",
-                                          [](HWND w) { return hasClass(w, L"Notepad"); });
+        HWND window = waitForWindow(process, "The text editor",
+                                    [](HWND w) { return hasClass(w, L"Notepad"); });
         MoveWindow(window, 0, 0, kEditorSize.cx, kEditorSize.cy, TRUE);
         SetForegroundWindow(window);
         m_window = window;
