@@ -57,12 +57,6 @@ bool wants(const DocumentPropertyHeader& header, DWORD mode)
     return (header.fMode & mode) != 0;
 }
 
-bool outputFits(const DocumentPropertyHeader& header)
-{
-    // The print system itself often does not know the size of the application's buffer.
-    return header.cbOut == 0 || header.cbOut >= kDevModeSize;
-}
-
 /// The printer's own settings, then what the application hands in.
 std::unique_ptr<ProductSession> openDocument(const DocumentPropertyHeader& header)
 {
@@ -94,10 +88,6 @@ LONG answerDocument(DocumentPropertyHeader& header)
         header.cbOut = kDevModeSize;
         return static_cast<LONG>(kDevModeSize);
     }
-    if (!outputFits(header)) {
-        SetLastError(ERROR_INSUFFICIENT_BUFFER);
-        return kFailed;
-    }
     writeDocument(openDocument(header)->model(), header);
     header.cbOut = kDevModeSize;
     return kDone;
@@ -106,9 +96,6 @@ LONG answerDocument(DocumentPropertyHeader& header)
 std::unique_ptr<DriverSheet> documentSheet(LPARAM parameter)
 {
     auto* const header = reinterpret_cast<DocumentPropertyHeader*>(parameter);
-    if (!outputFits(*header)) {
-        throw std::length_error("The buffer for the settings is too small.");
-    }
     return std::make_unique<DriverSheet>(
         openDocument(*header), UIMode::PrintingPreferences, header->pszPrinterName,
         [header](IDataModel& model) { writeDocument(model, *header); });

@@ -4,8 +4,6 @@
 #include "dlldelayloader.h"
 #include "driverentries.h"
 
-#include <winddiui.h>
-
 namespace {
 
 /// The module that does the work, for the length of one call.

@@ -17,8 +17,10 @@ struct DocumentPropertyHeader
     LPWSTR pszPrinterName; ///< may be null
     PDEVMODEW pdmIn;       ///< null: none given
     PDEVMODEW pdmOut;      ///< may be the very buffer of pdmIn
-    DWORD cbOut;           ///< size of pdmOut in bytes, or 0 when the caller does not know it
-    DWORD fMode;           ///< DM_… bits
+    DWORD cbOut; ///< out: the size needed. In: not to be believed, as the print system may put
+                 ///< there whatever lies in the buffer's `dmSize`; the application owes the size
+                 ///< that it was told.
+    DWORD fMode; ///< DM_… bits
 };
 
 /// What `DrvDevicePropertySheets` gets as `lParamInit`.

@@ -41,7 +41,7 @@ fs::path findPackage(const fs::path& folder, const fs::path& dataFile)
 {
     const fs::path products = folder / L"products";
     if (dataFile.has_stem()) {
-        const fs::path named = products / dataFile.stem() / kPackageFile;
+        fs::path named = products / dataFile.stem() / kPackageFile;
         if (isFile(named)) {
             return named;
         }

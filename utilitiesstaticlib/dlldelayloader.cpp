@@ -57,7 +57,10 @@ HMODULE DllDelayLoader::load() noexcept
 void DllDelayLoader::release() noexcept
 {
     if (m_module != nullptr) {
+        // What the module's functions left as the last error is meant for their caller.
+        const DWORD error = GetLastError();
         FreeLibrary(m_module);
+        SetLastError(error);
         m_module = nullptr;
     }
 }

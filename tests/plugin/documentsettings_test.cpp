@@ -53,23 +53,23 @@ TEST(DocumentSettings, CutsALongPrinterName)
 struct FieldCase
 {
     const char* name;
-    DWORD bit;
     short DEVMODEW::*field;
-    short number;
+    DWORD bit;
     DataModelIds::tagFeatureEnum feature;
     int value;
+    short number;
 };
 
 // clang-format off
 const FieldCase kFieldCases[] = {
-    {"landscape",  DM_ORIENTATION,   &DEVMODEW::dmOrientation,   DMORIENT_LANDSCAPE, kOrientation, 5146},
-    {"A3",         DM_PAPERSIZE,     &DEVMODEW::dmPaperSize,     DMPAPER_A3,         kPaperSize,   5110},
-    {"letter",     DM_PAPERSIZE,     &DEVMODEW::dmPaperSize,     DMPAPER_LETTER,     kPaperSize,   5113},
-    {"tray 2",     DM_DEFAULTSOURCE, &DEVMODEW::dmDefaultSource, DMBIN_USER + 2,     kPaperTray,   5122},
-    {"long edge",  DM_DUPLEX,        &DEVMODEW::dmDuplex,        DMDUP_VERTICAL,     kSides,       5141},
-    {"short edge", DM_DUPLEX,        &DEVMODEW::dmDuplex,        DMDUP_HORIZONTAL,   kSides,       5142},
-    {"mono",       DM_COLOR,         &DEVMODEW::dmColor,         DMCOLOR_MONOCHROME, kColourMode,  5152},
-    {"1200 dpi",   DM_PRINTQUALITY,  &DEVMODEW::dmPrintQuality,  1200,               kResolution,  5191},
+    {"landscape",  &DEVMODEW::dmOrientation,   DM_ORIENTATION,   kOrientation, 5146, DMORIENT_LANDSCAPE},
+    {"A3",         &DEVMODEW::dmPaperSize,     DM_PAPERSIZE,     kPaperSize,   5110, DMPAPER_A3},
+    {"letter",     &DEVMODEW::dmPaperSize,     DM_PAPERSIZE,     kPaperSize,   5113, DMPAPER_LETTER},
+    {"tray 2",     &DEVMODEW::dmDefaultSource, DM_DEFAULTSOURCE, kPaperTray,   5122, DMBIN_USER + 2},
+    {"long edge",  &DEVMODEW::dmDuplex,        DM_DUPLEX,        kSides,       5141, DMDUP_VERTICAL},
+    {"short edge", &DEVMODEW::dmDuplex,        DM_DUPLEX,        kSides,       5142, DMDUP_HORIZONTAL},
+    {"mono",       &DEVMODEW::dmColor,         DM_COLOR,         kColourMode,  5152, DMCOLOR_MONOCHROME},
+    {"1200 dpi",   &DEVMODEW::dmPrintQuality,  DM_PRINTQUALITY,  kResolution,  5191, 1200},
 };
 // clang-format on
 

@@ -56,7 +56,7 @@ std::string messageBoxText(DWORD process)
     std::wstring text;
     const auto isMessageBox = [&text](HWND window) {
         // A message box has a text with the identifier 0xFFFF and no tabs.
-        const HWND label = GetDlgItem(window, 0xFFFF);
+        HWND label = GetDlgItem(window, 0xFFFF);
         if (!hasClass(window, L"#32770") || label == nullptr) {
             return false;
         }

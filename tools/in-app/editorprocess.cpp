@@ -12,7 +12,7 @@ constexpr DWORD kEndMilliseconds = 10000;
 
 std::filesystem::path writeText()
 {
-    const auto file = std::filesystem::temp_directory_path() / L"o7drive.txt";
+    auto file = std::filesystem::temp_directory_path() / L"o7drive.txt";
     std::ofstream(file) << "A page to print.\n";
     return file;
 }

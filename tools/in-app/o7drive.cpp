@@ -15,7 +15,6 @@
 
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <stdexcept>
 #include <string>
 
@@ -35,6 +34,10 @@ constexpr UINT kLongEdgeText = 45141;
 constexpr UINT kShortEdgeText = 45142;
 /// The Properties button of the system's print dialog.
 constexpr int kPropertiesButton = 0x0401;
+
+// Pixels on the screen.
+constexpr SIZE kEditorSize{700, 660};
+constexpr POINT kSheetOffset{200, 90};
 
 std::wstring loadText(HMODULE strings, UINT number)
 {
@@ -70,9 +73,9 @@ public:
             throw std::runtime_error("The texts " + strings.string() + " cannot be loaded.");
         }
         const DWORD process = m_editor.process();
-        const HWND window = waitForWindow(process, "The text editor",
-                                          [](HWND w) { return hasClass(w, L"Notepad"); });
-        MoveWindow(window, 0, 0, 1100, 900, TRUE);
+        HWND window = waitForWindow(process, "The text editor",
+                                    [](HWND w) { return hasClass(w, L"Notepad"); });
+        MoveWindow(window, 0, 0, kEditorSize.cx, kEditorSize.cy, TRUE);
         SetForegroundWindow(window);
         m_window = window;
         o7::test::pumpUntilQuiet(200);
@@ -88,6 +91,7 @@ public:
     {
         o7::test::sendClick(GetDlgItem(m_printDialog, kPropertiesButton));
         m_sheet = waitForWindow(m_editor.process(), "Our sheet", isSheet);
+        arrange();
         o7::test::pumpUntilQuiet(300);
         m_combo = findOnPages(text(kLongEdgeText));
     }
@@ -133,6 +137,19 @@ public:
     }
 
 private:
+    /// As a person would drag the sheet to see the print dialog behind it.
+    void arrange()
+    {
+        RECT dialog{};
+        RECT sheet{};
+        GetWindowRect(m_printDialog, &dialog);
+        GetWindowRect(m_sheet, &sheet);
+        OffsetRect(&sheet, dialog.left + kSheetOffset.x - sheet.left,
+                   dialog.top + kSheetOffset.y - sheet.top);
+        SetWindowPos(m_sheet, nullptr, sheet.left, sheet.top, 0, 0,
+                     SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+
     /// The visible list with an entry of this text, on whichever page it is.
     HWND findOnPages(const std::wstring& entry)
     {
