@@ -4,6 +4,7 @@
 
 #include <prsht.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <memory>
 #include <stdexcept>
@@ -38,16 +39,19 @@ double now()
     return static_cast<double>(counter.QuadPart) / perMillisecond;
 }
 
-/// Private committed memory, added up region by region: the system's own counter does not move
-/// under Wine.
-double privateKilobytes()
+/// Memory in use on all heaps of the process: what the sheet's objects and windows really hold,
+/// however the heaps grow.
+double heapKilobytes()
 {
+    HANDLE heaps[64];
+    const DWORD count = std::min<DWORD>(GetProcessHeaps(64, heaps), 64);
     double bytes = 0;
-    MEMORY_BASIC_INFORMATION region{};
-    for (const char* at = nullptr; VirtualQuery(at, &region, sizeof region) != 0;
-         at = static_cast<const char*>(region.BaseAddress) + region.RegionSize)
-        if (region.State == MEM_COMMIT && region.Type == MEM_PRIVATE)
-            bytes += static_cast<double>(region.RegionSize);
+    for (DWORD index = 0; index < count; ++index) {
+        PROCESS_HEAP_ENTRY entry{};
+        while (HeapWalk(heaps[index], &entry))
+            if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY)
+                bytes += static_cast<double>(entry.cbData);
+    }
     return bytes / 1024.0;
 }
 
@@ -72,7 +76,7 @@ Times timeSheet(const Run& open, int pages)
 {
     Times times;
     double mark = 0;
-    const double memoryBefore = privateKilobytes();
+    const double memoryBefore = heapKilobytes();
     const auto lap = [&mark] {
         const double time = now();
         const double passed = time - mark;
@@ -83,7 +87,7 @@ Times timeSheet(const Run& open, int pages)
         if (!sheet)
             return false; // the queue can run empty before the sheet is there
         times.entry = lap();
-        times.memory = privateKilobytes() - memoryBefore;
+        times.memory = heapKilobytes() - memoryBefore;
         return true;
     }};
     const int switches = 2 * pages;
@@ -211,7 +215,7 @@ void benchOpenings(Report& report, const std::wstring& folder)
     report.add({"raw-sheet", "page switch, first visit", "ms", first[0], first[1], goal});
     report.add({"raw-sheet", "page switch, later visits", "ms", later[0], later[1], goal});
     report.add({"raw-sheet", "close", "ms", close[0], close[1], {}});
-    report.add({"raw-sheet", "private memory while open", "KiB", memory[0], memory[1], {}});
+    report.add({"raw-sheet", "memory in use while open", "KiB", memory[0], memory[1], {}});
 }
 
 double firstOpeningOfProcess(const std::wstring& recording)
@@ -298,16 +302,18 @@ void benchUnvisitedPages(Report& report, const std::wstring& folder)
     const auto pages = recordPages(opening(sixteen), sixteen, session->strings());
     const std::vector<RawPage> firstPage(pages.begin(), pages.begin() + 1);
 
-    std::vector<double> ours, raw;
+    std::vector<double> ours, raw, excess;
     constexpr double kUnvisited = 15;
     for (int run = 0; run < kRuns; ++run) {
         ours.push_back((entryOf(opening(sixteen)) - entryOf(opening(one))) / kUnvisited);
         raw.push_back(
             (entryOf([&] { runRawSheet(pages); }) - entryOf([&] { runRawSheet(firstPage); })) /
             kUnvisited);
+        excess.push_back(ours.back() - raw.back());
     }
+    report.add({"raw-sheet", "one page that is never shown", "ms", ours, raw, {}});
     report.add(
-        {"raw-sheet", "one page that is never shown", "ms", ours, raw, {Goal::ValueAtMost, 0.5}});
+        {"raw-sheet", "the same, over a bare page", "ms", excess, {}, {Goal::ValueAtMost, 0.5}});
 }
 
 } // namespace
