@@ -47,6 +47,7 @@ void MeasureConstraints(Report& report)
 {
     SyntheticProduct product(kFeatures, kConstraints);
     std::vector<OptionFeatureRef> features;
+    features.reserve(kFeatures);
     for (int i = 0; i < kFeatures; ++i)
         features.push_back(product.Model().GetOptionFeatureRef(product.Feature(i)));
     // Back and forth between the first option and the last, which nothing disables.

@@ -12,13 +12,14 @@ class Condition
 public:
     Condition(const ConstrainableFeature& feature, DataModelIds::tagComparisonEnum comparison,
               const ValSet& values, const ConditionOptions& options = {})
-        : m_feature(feature), m_comparison(comparison), m_values(values), m_options(options)
+        : m_feature(feature), m_values(values), m_comparison(comparison), m_options(options)
     {
     }
     Condition(const ConstrainableFeature& feature,
               DataModelIds::tagSetIncludeOrExcludeEnum membership, const ValSet& values,
               const ConditionOptions& options = {})
         : m_feature(feature),
+          m_values(values),
           m_comparison(membership == DataModelIds::kInclude ? DataModelIds::kEqual
                                                             : DataModelIds::kNotEqual),
           m_values(values),
@@ -34,7 +35,7 @@ public:
 
 private:
     ConstrainableFeature m_feature;
-    DataModelIds::tagComparisonEnum m_comparison;
     ValSet m_values;
+    DataModelIds::tagComparisonEnum m_comparison;
     ConditionOptions m_options;
 };

@@ -23,13 +23,13 @@ bool InOrder(std::partial_ordering order, Comparison comparison)
 {
     switch (comparison) {
     case DataModelIds::kLess:
-        return order < 0;
+        return std::is_lt(order);
     case DataModelIds::kLessOrEqual:
-        return order <= 0;
+        return std::is_lteq(order);
     case DataModelIds::kGreater:
-        return order > 0;
+        return std::is_gt(order);
     case DataModelIds::kGreaterOrEqual:
-        return order >= 0;
+        return std::is_gteq(order);
     case DataModelIds::kEqual:
     case DataModelIds::kNotEqual:
         break;

@@ -1,25 +1,35 @@
 #include "constraintengine.h"
 
 #include <algorithm>
+#include <stdexcept>
 #include <utility>
 
 namespace o7 {
+namespace {
+
+/// The feature in this list or in the nearest list around it that has it.
+FeatureNode& FindOutwards(FeatureNode& list, FeatureEnum number)
+{
+    for (FeatureNode* scope = &list; scope != nullptr; scope = scope->Parent()) {
+        auto* found = scope->Description().list ? scope->FindChild(FeatureId(number)) : nullptr;
+        if (found != nullptr)
+            return *found;
+    }
+    throw std::logic_error("a checked package names a feature that it does not have");
+}
+
+} // namespace
 
 std::unique_ptr<Constraint> ConstraintEngine::Bind(const ConstraintDescription& description,
                                                    FeatureNode& list)
 {
     auto constraint = std::make_unique<Constraint>();
     for (const ConditionDescription& condition : description.when) {
-        // Causes may stand in a list around this one; the reader has made sure that there is one.
-        FeatureNode* feature = nullptr;
-        for (FeatureNode* scope = &list; scope != nullptr && feature == nullptr;
-             scope = scope->Parent())
-            feature = scope->Description().list ? scope->FindChild(FeatureId(condition.feature))
-                                                : nullptr;
-        constraint->when.push_back({feature->shared_from_this(), condition.comparison,
-                                    condition.values, condition.holdsWithoutValue});
+        constraint->when.push_back({FindOutwards(list, condition.feature).shared_from_this(),
+                                    condition.comparison, condition.values,
+                                    condition.holdsWithoutValue});
     }
-    constraint->target = list.FindChild(FeatureId(description.target))->shared_from_this();
+    constraint->target = FindOutwards(list, description.target).shared_from_this();
     constraint->values = description.values;
     constraint->kind = description.kind;
     constraint->reason = description.reason;

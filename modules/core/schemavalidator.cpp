@@ -15,6 +15,12 @@ void AddFault(std::vector<JsonFault>& faults, const LocatedJson& value, const st
         faults.push_back({value.line, where.empty() ? message : where + ": " + message});
 }
 
+std::string Below(const std::string& where, const std::string& key)
+{
+    std::string path = where;
+    return path.append(where.empty() ? "" : ".").append(key);
+}
+
 bool SameScalar(const LocatedJson& a, const LocatedJson& b)
 {
     if (a.IsNumber() && b.IsNumber())
@@ -140,13 +146,14 @@ void SchemaValidator::CheckObject(const LocatedJson& schema, const LocatedJson& 
     for (const auto& [key, member] : *members) {
         const auto* property = properties != nullptr ? properties->Find(key) : nullptr;
         if (property != nullptr) {
-            CheckValue(*property, member, where.empty() ? key : where + "." + key, faults);
+            CheckValue(*property, member, Below(where, key), faults);
         } else if (closed) {
             std::string known;
             for (const auto& entry : *properties->As<LocatedJson::Object>())
-                known += (known.empty() ? "" : ", ") + entry.first;
-            AddFault(faults, member, where,
-                     "unknown key \"" + key + "\", expected one of " + known);
+                known.append(known.empty() ? "" : ", ").append(entry.first);
+            std::string message = "unknown key \"";
+            message.append(key).append("\", expected one of ").append(known);
+            AddFault(faults, member, where, message);
         }
     }
 }

@@ -143,7 +143,7 @@ TEST(Constraints, AListHandsItsStateDown)
 {
     const Product product(R"({ "id": "x", "when": [ { "feature": 100, "is": ["film"] } ],
         "effect": { "feature": "odrv-colour", "kind": "hide" }, "reason": 60000 })");
-    const FeatureIdWithContext saturation(FeatureIdWithContext(test::kColour),
+    const FeatureIdWithContext saturation(FeatureIdWithContext{test::kColour},
                                           FeatureId(test::kSaturation));
     test::Recorder recorder;
     const SettingsInstanceId all(DataModelIds::kSettingsCurrent);

@@ -131,7 +131,7 @@ TEST(Features, UnsupportedOnesAnswerFalseAndFailNowhere)
 TEST(Features, AreFoundByNumberNameAndContext)
 {
     const Product product;
-    const FeatureIdWithContext nested(FeatureIdWithContext(test::kColour),
+    const FeatureIdWithContext nested(FeatureIdWithContext{test::kColour},
                                       FeatureId(test::kSaturation));
     const FeatureIdWithContext byName(FeatureIdWithContext(FeatureId(L"odrv-colour")),
                                       FeatureId(L"odrv-saturation"));
