@@ -31,7 +31,7 @@ void CpsuiEntry::run(HWND owner)
     if (m_failure) {
         std::rethrow_exception(std::exchange(m_failure, nullptr));
     }
-    if (shown < 0) {
+    if (shown < 0 && shown != ERR_CPSUI_NO_PROPSHEETPAGE) { // no page: nothing to show, no fault
         throw std::runtime_error("The common property sheet refused with code " +
                                  std::to_string(shown) + ".");
     }

@@ -2,6 +2,8 @@
 
 #include <fstream>
 #include <stdexcept>
+#include <string>
+#include <system_error>
 #include <utility>
 
 #include "cxstring.h"
@@ -9,17 +11,30 @@
 #include "windowpicture.h"
 
 namespace o7 {
+namespace {
+
+std::string utf8(const std::filesystem::path& path)
+{
+    return CXString(path.wstring()).ToUtf8();
+}
+
+void makeFolder(const std::filesystem::path& folder)
+{
+    std::error_code error;
+    if (!folder.empty() && !std::filesystem::is_directory(folder, error) &&
+        !std::filesystem::create_directories(folder, error)) {
+        throw std::runtime_error("The folder " + utf8(folder) + " could not be made.");
+    }
+}
+
+} // namespace
 
 WindowRecorder::WindowRecorder(std::filesystem::path shotsDirectory,
                                std::filesystem::path snapshotFile)
     : m_shotsDirectory(std::move(shotsDirectory)), m_snapshotFile(std::move(snapshotFile))
 {
-    if (!m_shotsDirectory.empty()) {
-        std::filesystem::create_directories(m_shotsDirectory);
-    }
-    if (m_snapshotFile.has_parent_path()) {
-        std::filesystem::create_directories(m_snapshotFile.parent_path());
-    }
+    makeFolder(m_shotsDirectory);
+    makeFolder(m_snapshotFile.parent_path());
 }
 
 void WindowRecorder::savePicture(const ShownWindow& window, int number,
@@ -45,8 +60,8 @@ void WindowRecorder::saveSnapshot(std::wstring text) const
     file << CXString(text).ToUtf8();
     file.close();
     if (!file) {
-        throw std::runtime_error("The snapshot could not be written to " +
-                                 CXString(m_snapshotFile.wstring()).ToUtf8() + ".");
+        throw std::runtime_error("The snapshot could not be written to " + utf8(m_snapshotFile) +
+                                 ".");
     }
 }
 

@@ -12,7 +12,7 @@ class WindowRecorder
 {
 public:
     /// Empty paths switch the part off. Missing directories are made; throws
-    /// std::filesystem::filesystem_error when they cannot be.
+    /// std::runtime_error when they cannot be.
     WindowRecorder(std::filesystem::path shotsDirectory, std::filesystem::path snapshotFile);
 
     /// Saves `NN-<title>.png`; throws std::runtime_error when the window is blank or the file

@@ -3,7 +3,6 @@
 #include <windows.h>
 
 #include <prsht.h>
-#include <psapi.h>
 
 #include <filesystem>
 #include <memory>
@@ -39,13 +38,17 @@ double now()
     return static_cast<double>(counter.QuadPart) / perMillisecond;
 }
 
+/// Private committed memory, added up region by region: the system's own counter does not move
+/// under Wine.
 double privateKilobytes()
 {
-    PROCESS_MEMORY_COUNTERS_EX counters{};
-    counters.cb = sizeof counters;
-    GetProcessMemoryInfo(GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&counters),
-                         sizeof counters);
-    return static_cast<double>(counters.PrivateUsage) / 1024.0;
+    double bytes = 0;
+    MEMORY_BASIC_INFORMATION region{};
+    for (const char* at = nullptr; VirtualQuery(at, &region, sizeof region) != 0;
+         at = static_cast<const char*>(region.BaseAddress) + region.RegionSize)
+        if (region.State == MEM_COMMIT && region.Type == MEM_PRIVATE)
+            bytes += static_cast<double>(region.RegionSize);
+    return bytes / 1024.0;
 }
 
 HWND currentPage(HWND sheet)

@@ -81,10 +81,8 @@ protected:
     template <typename T> std::unique_ptr<T> CapabilitiesAs() const
     {
         auto capabilities = m_node ? m_node->GetCapabilities() : nullptr;
-        if (auto* typed = dynamic_cast<T*>(capabilities.get()); typed != nullptr) {
-            capabilities.release();
-            return std::unique_ptr<T>(typed);
-        }
+        if (dynamic_cast<T*>(capabilities.get()) != nullptr)
+            return std::unique_ptr<T>(static_cast<T*>(capabilities.release()));
         return std::make_unique<T>();
     }
 

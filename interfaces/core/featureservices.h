@@ -68,7 +68,8 @@ public:
     virtual ListOfFeaturesRef GetListOfFeaturesByGroup(DataModelIds::tagFeatureEnum group) = 0;
 
     /// Where events are sent; belongs to the model. Events 21002 and 21004 make the current
-    /// settings the accepted ones, 21003 brings the accepted ones back.
+    /// settings the accepted ones, unless feature 545 then has value 8691 (rejected); 21003 brings
+    /// the accepted ones back.
     virtual INotificationSink& GetNotificationSink() = 0;
 
     /// Whether a setting differs from the accepted ones (UI-private features do not count).
@@ -89,8 +90,9 @@ public:
     /// Where molecules add constraints of their own; belongs to the model.
     virtual IConstraintsIntegrator& GetConstraintsIntegrator() = 0;
 
-protected:
-    FeatureServices() = default;
     FeatureServices(const FeatureServices&) = delete;
     FeatureServices& operator=(const FeatureServices&) = delete;
+
+protected:
+    FeatureServices() = default;
 };

@@ -6,7 +6,10 @@ namespace o7 {
 namespace {
 
 /// The length in UTF-16 units, the same on every platform.
-std::size_t Utf16Length(const CXString& text) { return text.ToUtf16Le().size() / 2; }
+std::size_t Utf16Length(const CXString& text)
+{
+    return text.ToUtf16Le().size() / 2;
+}
 
 } // namespace
 

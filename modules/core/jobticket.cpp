@@ -190,19 +190,29 @@ private:
     std::string& m_refused;
 };
 
-} // namespace
-
-std::string WriteJobTicket(const ProductDescription& product, const JobTicket& ticket)
+std::string Seal(const ProductDescription& product, json settings)
 {
-    json foreign = json::parse(ticket.foreignEntries, nullptr, false);
-    json settings = ToJson(product.root, ticket.settings,
-                           foreign.is_object() ? std::move(foreign) : json::object());
     json document = {{"format", kFormat},
                      {"version", kVersion},
                      {"product", product.info.uniqueId.ToUtf8()},
                      {"checksum", Checksum(settings)}};
     document["settings"] = std::move(settings);
     return document.dump(2) + "\n";
+}
+
+} // namespace
+
+std::string SealJobTicket(const ProductDescription& product, std::string_view settings)
+{
+    const bool sound = std::holds_alternative<LocatedJson>(ParseLocatedJson(settings));
+    return Seal(product, sound ? json::parse(settings, nullptr, false) : json::object());
+}
+
+std::string WriteJobTicket(const ProductDescription& product, const JobTicket& ticket)
+{
+    json foreign = json::parse(ticket.foreignEntries, nullptr, false);
+    return Seal(product, ToJson(product.root, ticket.settings,
+                                foreign.is_object() ? std::move(foreign) : json::object()));
 }
 
 bool ReadJobTicket(const ProductDescription& product, std::string_view text, JobTicket& ticket,

@@ -22,6 +22,9 @@ struct JobTicket
     std::string refused;
 };
 
+/// Puts the settings, the text of a JSON object, into a ticket whose checksum fits.
+std::string SealJobTicket(const ProductDescription& product, std::string_view settings);
+
 std::string WriteJobTicket(const ProductDescription& product, const JobTicket& ticket);
 
 /// Puts what the text says over `ticket.settings`, which the caller fills with the defaults. On

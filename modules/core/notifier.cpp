@@ -86,6 +86,7 @@ void Notifier::Register(IObserver& observer, DataModelIds::SettingsEnum instance
     registration->serial = entry.serial;
     if (node != nullptr) {
         registration->node = node->weak_from_this();
+        registration->self = node;
         node->registrations.push_back(registration);
     }
     entry.registrations.push_back(std::move(registration));
@@ -170,27 +171,34 @@ void Notifier::DeliverRun(const Entry* first, const Entry* last)
         std::find_if(first, last, [](const Entry& entry) { return entry.registration->alive; });
     if (alive == last)
         return;
-    const auto bundle = Bundle(first, last);
-    alive->registration->observer->ProcessNotification(*bundle, alive->registration->kind);
+    IObserver& observer = *alive->registration->observer;
+    // The entries keep their registrations, and with them the bundle, alive during the call.
+    if (const NotificationBundle* kept = KeptBundle(first, last))
+        observer.ProcessNotification(*kept, alive->registration->kind);
+    else
+        observer.ProcessNotification(MakeBundle(first, last), alive->registration->kind);
 }
 
-std::shared_ptr<const NotificationBundle> Notifier::Bundle(const Entry* first, const Entry* last)
+const NotificationBundle* Notifier::KeptBundle(const Entry* first, const Entry* last)
 {
     Registration& registration = *first->registration;
-    const bool single = last - first == 1 && registration.node.lock().get() == first->feature &&
-                        (first->bits == kValueBit || first->bits == kStateBit);
-    if (single) {
-        auto& kept = first->bits == kValueBit ? registration.valueBundle : registration.stateBundle;
-        if (!kept)
-            kept = std::make_shared<NotificationBundle>(
-                std::vector{MakeNotification(first->bits, first->feature->GetId(), registration)});
-        return kept;
-    }
-    auto bundle = std::make_shared<NotificationBundle>();
+    if (last - first != 1 || registration.self != first->feature ||
+        first->bits == (kValueBit | kStateBit))
+        return nullptr;
+    auto& kept = first->bits == kValueBit ? registration.valueBundle : registration.stateBundle;
+    if (!kept)
+        kept = std::make_unique<NotificationBundle>(
+            std::vector{MakeNotification(first->bits, first->feature->GetId(), registration)});
+    return kept.get();
+}
+
+NotificationBundle Notifier::MakeBundle(const Entry* first, const Entry* last)
+{
+    NotificationBundle bundle;
     for (const Entry* entry = first; entry != last; ++entry) {
         for (const unsigned bit : {kValueBit, kStateBit}) {
             if (entry->registration->alive && (entry->bits & bit) != 0)
-                bundle->Add(MakeNotification(bit, entry->feature->GetId(), *entry->registration));
+                bundle.Add(MakeNotification(bit, entry->feature->GetId(), *entry->registration));
         }
     }
     return bundle;

@@ -50,7 +50,9 @@ private:
 
     static void Gather(const Change& change, std::vector<Entry>& entries);
     static void DeliverRun(const Entry* first, const Entry* last);
-    static std::shared_ptr<const NotificationBundle> Bundle(const Entry* first, const Entry* last);
+    /// The bundle that a registration keeps for a change of just its own feature; null otherwise.
+    static const NotificationBundle* KeptBundle(const Entry* first, const Entry* last);
+    static NotificationBundle MakeBundle(const Entry* first, const Entry* last);
 
     std::unordered_map<IObserver*, ObserverEntry> m_observers;
     std::unordered_map<int, std::vector<std::shared_ptr<EventRegistration>>> m_events;

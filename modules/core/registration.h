@@ -23,10 +23,11 @@ struct Registration
     std::uint64_t serial = 0; ///< Order of the observer's first registration.
     bool alive = true;
     std::weak_ptr<FeatureNode> node;
+    const FeatureNode* self = nullptr; ///< The same, for comparing alone.
 
     // The two bundles that are sent when just this feature changed, made once.
-    std::shared_ptr<const NotificationBundle> valueBundle;
-    std::shared_ptr<const NotificationBundle> stateBundle;
+    std::unique_ptr<const NotificationBundle> valueBundle;
+    std::unique_ptr<const NotificationBundle> stateBundle;
 };
 
 } // namespace o7

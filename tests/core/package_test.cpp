@@ -141,6 +141,33 @@ TEST(Package, TellsAboutFilesThatCannotBeRead)
     std::filesystem::remove_all(folder);
 }
 
+TEST(Package, EveryShippedProductIsSound)
+{
+    int products = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(O7_PRODUCTS_FOLDER)) {
+        if (!std::filesystem::exists(entry.path() / "package.json"))
+            continue;
+        ++products;
+        std::vector<o7::PackageError> errors;
+        const auto package = o7::LoadProductPackage(entry.path(), errors);
+        for (const auto& error : errors)
+            ADD_FAILURE() << error.ToString();
+        test::Strings strings;
+        ASSERT_NE(package, nullptr);
+        // At its defaults a product must not contradict itself.
+        const auto model = o7::CreateDataModel(*package, strings);
+        const auto all = model->GetFullListOfFeatures();
+        for (std::size_t i = 0; i < all.GetNode()->GetNumChildren(); ++i) {
+            const auto child = all.GetNode()->GetChild(i);
+            EXPECT_FALSE(child->GetCapabilities()->GetInterpretedState().HasCbrBtnMsg())
+                << test::Narrow(child->GetId().Dump(true));
+        }
+        std::vector<std::uint8_t> block;
+        EXPECT_TRUE(model->ExportSettings(block));
+    }
+    EXPECT_GT(products, 0);
+}
+
 TEST(Package, StopsNestingBeforeItHurts)
 {
     const auto errors = Errors(std::string(100000, '['));

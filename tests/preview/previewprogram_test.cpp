@@ -5,13 +5,37 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <string>
-#include <vector>
+#include <string_view>
+
+#include "input.h"
 
 namespace {
 
 namespace fs = std::filesystem;
+
+/// The visible sheet or dialog of another process.
+struct WindowSearch
+{
+    DWORD processId;
+    HWND found;
+};
+
+BOOL CALLBACK considerWindow(HWND window, LPARAM parameter)
+{
+    auto& search = *reinterpret_cast<WindowSearch*>(parameter);
+    DWORD processId = 0;
+    GetWindowThreadProcessId(window, &processId);
+    wchar_t className[16];
+    GetClassNameW(window, className, 16);
+    if (processId == search.processId && IsWindowVisible(window) &&
+        std::wstring_view(className) == L"#32770") {
+        search.found = window;
+    }
+    return search.found == nullptr;
+}
 
 struct Outcome
 {
@@ -43,7 +67,9 @@ protected:
     }
     ~PreviewProgram() override { fs::remove_all(m_folder); }
 
-    Outcome run(const std::wstring& options) const
+    /// Starts the program; `meanwhile` acts as its user and gets its process id.
+    Outcome run(const std::wstring& options,
+                const std::function<void(DWORD)>& meanwhile = nullptr) const
     {
         const fs::path errors = m_folder / "errors.txt";
         SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
@@ -56,12 +82,16 @@ protected:
         std::wstring command = L"\"" + (programFolder() / "o7preview.exe").wstring() +
                                L"\" --user-dir \"" + userDirectory().wstring() + L"\" " + options;
         PROCESS_INFORMATION process{};
-        Outcome outcome;
         const BOOL started = CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0,
                                             nullptr, nullptr, &startup, &process);
         EXPECT_TRUE(started);
+        Outcome outcome;
         if (started) {
-            EXPECT_EQ(WaitForSingleObject(process.hProcess, 120000), WAIT_OBJECT_0);
+            if (meanwhile) {
+                meanwhile(process.dwProcessId);
+            }
+            EXPECT_EQ(WaitForSingleObject(process.hProcess, 60000), WAIT_OBJECT_0);
+            TerminateProcess(process.hProcess, 99); // nothing is left behind by a failed test
             GetExitCodeProcess(process.hProcess, &outcome.exitCode);
             CloseHandle(process.hThread);
             CloseHandle(process.hProcess);
@@ -69,6 +99,25 @@ protected:
         CloseHandle(stream);
         outcome.errors = readFile(errors);
         return outcome;
+    }
+
+    /// Chooses the next value in the list of sides by keyboard, then presses the closing key.
+    static void chooseNextSidesAndClose(DWORD processId, bool pageIsSecond, WORD closingKey)
+    {
+        WindowSearch search{processId, nullptr};
+        ASSERT_TRUE(o7::test::pumpUntil(
+            [&] {
+                EnumWindows(considerWindow, reinterpret_cast<LPARAM>(&search));
+                return search.found && GetForegroundWindow() == search.found;
+            },
+            10000));
+        o7::test::pumpUntilQuiet(300); // the other process paints its first page
+        if (pageIsSecond) {
+            o7::test::sendKey(VK_TAB, {VK_CONTROL});
+        }
+        o7::test::sendKey('D', {VK_MENU});
+        o7::test::sendKey(VK_DOWN);
+        o7::test::sendKey(closingKey);
     }
 
     std::wstring snapshotOption(const char* name) const
@@ -125,6 +174,26 @@ TEST_F(PreviewProgram, EveryEntryShowsEveryPage)
     }
 }
 
+TEST_F(PreviewProgram, OkKeepsAndEscapeDropsUnderEveryEntry)
+{
+    for (const wchar_t* name : {L"sheet", L"cpsui", L"child", L"dialog"}) {
+        const bool pageIsSecond = std::wstring_view(name) == L"child";
+        const std::wstring options = std::wstring(L"--lang en --entry ") + name;
+        for (const WORD key : {WORD{VK_ESCAPE}, WORD{VK_RETURN}}) {
+            const Outcome outcome = run(options, [&](DWORD processId) {
+                chooseNextSidesAndClose(processId, pageIsSecond, key);
+            });
+            EXPECT_EQ(outcome.exitCode, 0u) << outcome.errors;
+            EXPECT_EQ(fs::exists(userDirectory()), key == VK_RETURN);
+            run(options + snapshotOption("after.txt"));
+            const std::string after = readFile(m_folder / "after.txt");
+            EXPECT_TRUE(contains(after, key == VK_RETURN ? "= \"Two-sided, long edge\""
+                                                         : "= \"One-sided\""));
+        }
+        fs::remove_all(userDirectory());
+    }
+}
+
 TEST_F(PreviewProgram, SnapshotIsTheSameTwice)
 {
     EXPECT_EQ(run(snapshotOption("first.txt")).exitCode, 0u);
@@ -143,6 +212,20 @@ TEST_F(PreviewProgram, UnknownLanguageFallsBackAndSaysSo)
     EXPECT_EQ(readFile(m_folder / "xx.txt"), readFile(m_folder / "en.txt"));
     EXPECT_EQ(run(L"--lang de" + snapshotOption("de.txt")).exitCode, 0u);
     EXPECT_NE(readFile(m_folder / "de.txt"), readFile(m_folder / "en.txt"));
+}
+
+TEST_F(PreviewProgram, DamagedSettingsAreSetAsideAndDefaultsShown)
+{
+    EXPECT_EQ(run(snapshotOption("defaults.txt")).errors, "");
+    fs::create_directories(userDirectory());
+    const fs::path ticket = userDirectory() / "office-c430.ojtf";
+    std::ofstream(ticket) << "{ \"format\": ";
+    const Outcome outcome = run(snapshotOption("damaged.txt"));
+    EXPECT_EQ(outcome.exitCode, 0u);
+    EXPECT_TRUE(contains(outcome.errors, "office-c430.ojtf")) << outcome.errors;
+    EXPECT_EQ(readFile(m_folder / "damaged.txt"), readFile(m_folder / "defaults.txt"));
+    EXPECT_FALSE(fs::exists(ticket));
+    EXPECT_FALSE(fs::is_empty(userDirectory())) << "the damaged file must still be there";
 }
 
 TEST_F(PreviewProgram, NothingToShowIsAFailureOfAnUnattendedRun)

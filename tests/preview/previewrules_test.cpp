@@ -125,7 +125,8 @@ TEST_F(ProductFolders, MissingFolderIsSaid)
 TEST(PictureFileName, EveryTitleGivesAUsableName)
 {
     EXPECT_EQ(o7::pictureFileName(1, L"Paper and output"), L"01-Paper-and-output.png");
-    EXPECT_EQ(o7::pictureFileName(12, L"A/B\\C: D?*"), L"12-ABC-D.png");
+    EXPECT_EQ(o7::pictureFileName(2, L"Paper/Output"), L"02-Paper-Output.png");
+    EXPECT_EQ(o7::pictureFileName(12, L"A/B\\C: D?*"), L"12-A-B-C-D.png");
     EXPECT_EQ(o7::pictureFileName(3, L"..\t"), L"03-page.png");
     EXPECT_EQ(o7::pictureFileName(4, L"Tr\u00e4ger"), L"04-Tr\u00e4ger.png");
 }

@@ -15,7 +15,7 @@ public:
     {
         const auto found = m_strings.find(id);
         return CXString::FromUtf8(found != m_strings.end() ? found->second
-                                                           : "#" + std::to_string(id));
+                                                           : std::string("#") + std::to_string(id));
     }
 
     const StringTable& table() const { return m_strings; }

@@ -12,6 +12,7 @@
 #include "uidata.h"
 #include "uifixture.h"
 #include "uimanager.h"
+#include "uistringnumbers.h"
 #include "uitab.h"
 #include "uitabmanager.h"
 
@@ -94,7 +95,7 @@ TEST_F(SheetTest, AClickChangesTheFeatureGreysAnotherAndSaysWhyAndOkKeepsIt)
     std::wstring shown;
     const bool accepted = runSheet({
         selectPage(kLayoutPage),
-        click(L"BUTTON", L"Print as a booklet"),
+        click(L"BUTTON", L"Booklet"),
         until([&](HWND) { return boolean(kBooklet); }),
         until([&](HWND sheet) {
             shown = dumped();
@@ -104,16 +105,17 @@ TEST_F(SheetTest, AClickChangesTheFeatureGreysAnotherAndSaysWhyAndOkKeepsIt)
     });
     EXPECT_TRUE(accepted);
     EXPECT_TRUE(boolean(kBooklet));
-    const auto line = shown.find(L"list \"&Pages per sheet:\"");
+    const std::wstring label = session().strings().LoadStringW(O7STR_L_PAGES_PER_SHEET).c_str();
+    const auto line = shown.find(L"list \"" + label + L"\"");
     ASSERT_NE(line, std::wstring::npos) << CXString(shown).ToUtf8();
     const std::wstring text = shown.substr(line, shown.find(L'\n', line) - line);
     EXPECT_NE(text.find(L"[disabled] because \""), std::wstring::npos) << CXString(text).ToUtf8();
-    EXPECT_NE(text.find(L"booklet"), std::wstring::npos) << CXString(text).ToUtf8();
+    EXPECT_NE(text.find(L"Booklet"), std::wstring::npos) << CXString(text).ToUtf8();
 
     runSheet({
         selectPage(kLayoutPage),
         until([](HWND sheet) {
-            const HWND box = findControl(sheet, L"BUTTON", L"Print as a booklet");
+            const HWND box = findControl(sheet, L"BUTTON", L"Booklet");
             return SendMessageW(box, BM_GETCHECK, 0, 0) == BST_CHECKED;
         }),
         click(L"BUTTON", L"Cancel"),
@@ -146,7 +148,12 @@ TEST_F(SheetTest, AMnemonicReachesItsList)
     HWND wanted = nullptr;
     runSheet({
         until([&](HWND sheet) { return (wanted = findListBehind(sheet, L"Sides:")) != nullptr; }),
-        key('S', {VK_MENU}),
+        [&](HWND) {
+            const std::wstring label = session().strings().LoadStringW(O7STR_L_SIDES).c_str();
+            const wchar_t letter = label.at(label.find(L'&') + 1);
+            sendKey(static_cast<WORD>(towupper(letter)), {VK_MENU});
+            return true;
+        },
         until([&](HWND) { return (focused = GetFocus()) == wanted; }),
         key(VK_ESCAPE),
     });

@@ -162,7 +162,7 @@ TEST_F(SheetApplyTest, PagesTellActivationFirstPaintAndCancelOnce)
     SheetRig rig(session().productData(), model(), session().strings(), data);
     const EventCounter counter(
         model(), {DataModelIds::kEventPageActivated, DataModelIds::kEventFirstPaintDone});
-    run(rig, {show(0), show(2), press(PSBTN_CANCEL)});
+    run(rig, {[](HWND sheet) { return sheet != nullptr; }, show(2), press(PSBTN_CANCEL)});
     const std::vector<int> expected{DataModelIds::kEventPageActivated,
                                     DataModelIds::kEventFirstPaintDone,
                                     DataModelIds::kEventPageActivated};
@@ -180,7 +180,7 @@ TEST_F(SheetApplyTest, ApplyIsEnabledExactlyWhileSomethingDiffers)
         return true;
     };
     const auto tick = [](HWND sheet) {
-        const HWND box = findControl(sheet, L"BUTTON", L"Collate");
+        const HWND box = findControl(sheet, L"BUTTON", L"Collate copies");
         if (box)
             PostMessageW(box, BM_CLICK, 0, 0);
         return box != nullptr;
@@ -217,7 +217,7 @@ TEST_F(SheetApplyTest, AThrowingCollaboratorIsShownAndTheSheetLivesOn)
     s_shownText.clear();
     const bool before = boolean(kCollate);
     const auto clickCollate = [](HWND sheet) {
-        const HWND box = findControl(sheet, L"BUTTON", L"Collate");
+        const HWND box = findControl(sheet, L"BUTTON", L"Collate copies");
         if (box)
             SendMessageW(box, BM_CLICK, 0, 0);
         return box != nullptr;

@@ -33,7 +33,9 @@ BOOL CALLBACK matchControl(HWND window, LPARAM parameter)
     Search& search = *reinterpret_cast<Search*>(parameter);
     wchar_t name[32] = L"";
     GetClassNameW(window, name, 32);
-    if (IsWindowVisible(window) && _wcsicmp(name, search.className) == 0 &&
+    const bool isFrame = _wcsicmp(name, L"BUTTON") == 0 &&
+                         (GetWindowLongW(window, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
+    if (!isFrame && IsWindowVisible(window) && _wcsicmp(name, search.className) == 0 &&
         o7::withoutMnemonics(o7::windowText(window)) == search.text)
         search.found = window;
     return search.found == nullptr;

@@ -69,7 +69,7 @@ HWND IdleDriver::activeDialog()
 // the thread has nothing left to do.
 LRESULT CALLBACK IdleDriver::hookProcedure(int code, WPARAM wParam, LPARAM lParam)
 {
-    if (code == HC_ACTION && wParam == PM_REMOVE && s_driver) {
+    if (code == HC_ACTION && wParam == PM_REMOVE && s_driver && !s_driver->inside_) {
         const MSG& message = *reinterpret_cast<const MSG*>(lParam);
         if (queueIsEmpty()) {
             if (message.message == kMarker || message.message == WM_TIMER)
@@ -85,10 +85,13 @@ void IdleDriver::queueRanEmpty()
 {
     if (inside_ || failed_ || next_ == steps_.size())
         return;
-    inside_ = true; // a step may pump messages itself
     if (deadline_ == 0)
         deadline_ = GetTickCount() + stepTime_;
+    // A step may pump messages itself until none come; ours must not keep it waiting.
+    inside_ = true;
+    KillTimer(nullptr, timer_);
     const bool done = steps_[next_](activeDialog());
+    timer_ = SetTimer(nullptr, 0, kWakeMilliseconds, nullptr);
     inside_ = false;
     if (done) {
         ++next_;

@@ -95,8 +95,10 @@ bool pumpUntil(const std::function<bool()>& predicate, int milliseconds)
 
 void pumpUntilQuiet(int milliseconds)
 {
+    // Timers come for ever where a button tracks the pointer over it or a caret blinks.
+    constexpr DWORD kWithoutTimers = QS_ALLINPUT & ~QS_TIMER;
     pumpMessages();
-    while (MsgWaitForMultipleObjectsEx(0, nullptr, static_cast<DWORD>(milliseconds), QS_ALLINPUT,
+    while (MsgWaitForMultipleObjectsEx(0, nullptr, static_cast<DWORD>(milliseconds), kWithoutTimers,
                                        MWMO_INPUTAVAILABLE) == WAIT_OBJECT_0)
         pumpMessages();
 }

@@ -167,9 +167,10 @@ void UITab::dump() const
     UIDump::line(
         CXString::Formatted(L"tab \"%s\" %ld x %ld", m_title.c_str(), m_width, m_height).View());
     const UIDump::Level inner;
-    if (!getWindow())
+    if (getWindow())
+        dumpMolecules();
+    else
         UIDump::line(L"not visited");
-    dumpMolecules();
 }
 
 CXString UITab::GetObserverClassNameHeirarchy() const
