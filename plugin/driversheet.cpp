@@ -12,8 +12,7 @@ constexpr DataModelIds::EventEnum kAcceptingEvents[] = {DataModelIds::kEventOk,
                                                         DataModelIds::kEventApply};
 
 /// The sheets of this process. The print system's callback has no room for a context of the
-/// caller's, so the sheet is found by the handle that comes with every call. A lock without
-/// destruction, as this module comes and goes with the sheets.
+/// caller's, so the sheet is found by the handle that comes with every call.
 SRWLOCK g_lock = SRWLOCK_INIT;
 DriverSheet* g_first = nullptr;
 

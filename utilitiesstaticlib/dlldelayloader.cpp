@@ -1,6 +1,6 @@
 #include "dlldelayloader.h"
 
-#include <new>
+#include <exception>
 
 namespace o7 {
 namespace {
@@ -13,6 +13,22 @@ HMODULE thisModule() noexcept
                            GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
                        reinterpret_cast<LPCWSTR>(&thisModule), &module);
     return module;
+}
+
+HMODULE loadFromOwnFolder(const wchar_t* fileName) noexcept
+{
+    try {
+        const std::wstring folder = folderOfThisModule();
+        if (folder.empty()) {
+            return nullptr;
+        }
+        // What the module imports is looked for beside it and in the system directory only.
+        return LoadLibraryExW((folder + L'\\' + fileName).c_str(), nullptr,
+                              LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR | LOAD_LIBRARY_SEARCH_SYSTEM32);
+    } catch (const std::exception&) {
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+        return nullptr;
+    }
 }
 
 } // namespace
@@ -37,37 +53,18 @@ std::wstring folderOfThisModule()
 
 HMODULE DllDelayLoader::load() noexcept
 {
-    if (m_module != nullptr) {
-        return m_module;
+    AcquireSRWLockExclusive(&m_lock);
+    if (m_module == nullptr) {
+        m_module = loadFromOwnFolder(m_fileName);
     }
-    try {
-        const std::wstring folder = folderOfThisModule();
-        if (folder.empty()) {
-            return nullptr;
-        }
-        // What the module imports is looked for beside it and in the system directory only.
-        m_module = LoadLibraryExW((folder + L'\\' + m_fileName).c_str(), nullptr,
-                                  LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR | LOAD_LIBRARY_SEARCH_SYSTEM32);
-    } catch (const std::bad_alloc&) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    }
-    return m_module;
-}
-
-void DllDelayLoader::release() noexcept
-{
-    if (m_module != nullptr) {
-        // What the module's functions left as the last error is meant for their caller.
-        const DWORD error = GetLastError();
-        FreeLibrary(m_module);
-        SetLastError(error);
-        m_module = nullptr;
-    }
+    HMODULE module = m_module;
+    ReleaseSRWLockExclusive(&m_lock);
+    return module;
 }
 
 DllDelayLoader::AnyFunction DllDelayLoader::address(const char* name) noexcept
 {
-    const HMODULE module = load();
+    HMODULE module = load();
     return module == nullptr ? nullptr
                              : reinterpret_cast<AnyFunction>(GetProcAddress(module, name));
 }

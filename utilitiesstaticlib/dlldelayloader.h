@@ -18,21 +18,24 @@ inline constexpr wchar_t kPluginModule[] = L"o7plimQK.dll";
 /// static library, so that is the module that links it. Empty when the system refuses the answer.
 std::wstring folderOfThisModule();
 
-/// Holds one of the driver's own modules loaded. The module is taken by its full path from the
-/// folder of the module that contains this code, together with what it imports: neither the folder
-/// of the host program nor its working directory is ever searched. Not for system libraries.
+/// Loads one of the driver's own modules when it is first needed. The module is taken by its full
+/// path from the folder of the module that contains this code, together with what it imports:
+/// neither the folder of the host program nor its working directory is ever searched. Not for
+/// system libraries.
+///
+/// A module once loaded stays until the process ends. To unload and load it again for every use
+/// would be slow, and would leak where the language runtime keeps something for each thread that
+/// used a module. So a loader is best a constant of its module; it needs no destruction.
 class DllDelayLoader
 {
 public:
     /// Loads nothing yet. `fileName` is a bare file name and is borrowed.
-    explicit DllDelayLoader(const wchar_t* fileName) noexcept : m_fileName(fileName) {}
+    explicit constexpr DllDelayLoader(const wchar_t* fileName) noexcept : m_fileName(fileName) {}
     DllDelayLoader(const DllDelayLoader&) = delete;
     DllDelayLoader& operator=(const DllDelayLoader&) = delete;
-    /// Gives the module back.
-    ~DllDelayLoader() { release(); }
 
-    /// Loads the module at the first call, and again at a later one when that failed. Not safe
-    /// against two threads at once.
+    /// Loads the module at the first call, and tries again at a later one when that failed. Any
+    /// thread.
     /// @return null when it cannot be loaded; the reason is the thread's last error.
     HMODULE load() noexcept;
 
@@ -47,17 +50,12 @@ public:
         return reinterpret_cast<Function>(address(name));
     }
 
-    /// Lets go of the module without giving it back: from now on the caller owes a `FreeLibrary`.
-    void keep() noexcept { m_module = nullptr; }
-
-    /// Gives the module back; it can be loaded again.
-    void release() noexcept;
-
 private:
     using AnyFunction = void (*)();
     AnyFunction address(const char* name) noexcept;
 
     const wchar_t* m_fileName;
+    SRWLOCK m_lock = SRWLOCK_INIT;
     HMODULE m_module = nullptr;
 };
 
