@@ -22,7 +22,6 @@ public:
           m_values(values),
           m_comparison(membership == DataModelIds::kInclude ? DataModelIds::kEqual
                                                             : DataModelIds::kNotEqual),
-          m_values(values),
           m_options(options)
     {
     }
