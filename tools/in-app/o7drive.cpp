@@ -36,7 +36,7 @@ constexpr UINT kShortEdgeText = 45142;
 constexpr int kPropertiesButton = 0x0401;
 
 // Pixels on the screen.
-constexpr SIZE kEditorSize{700, 660};
+constexpr SIZE kEditorSize{860, 620};
 constexpr POINT kSheetOffset{200, 90};
 
 std::wstring loadText(HMODULE strings, UINT number)
