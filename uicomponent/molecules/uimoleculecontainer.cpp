@@ -29,7 +29,7 @@ void UIMoleculeContainer::buildFrom(const UIContainerData& data)
 
 void UIMoleculeContainer::releaseMolecules()
 {
-    disconnectAll();
+    UIMoleculeContainer::disconnectAll(); // named: the destructor comes here too
     m_molecules.clear();
     m_container.reset(); // the controls' tips go with them, so the tip window goes after them
     m_toolTips.reset();
