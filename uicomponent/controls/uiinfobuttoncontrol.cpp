@@ -26,7 +26,7 @@ void drawParentBackground(HWND window, HDC dc)
 
 UIInfoButtonControl::UIInfoButtonControl(HWND parent, int id, UIServices& services, POINT location,
                                          SIZE size, UIToolTips* toolTips)
-    : UIControl(parent, id, services, nullptr, location, size, false), m_toolTips(toolTips)
+    : UIControl(parent, id, services, nullptr, location, size, true), m_toolTips(toolTips)
 {
     setVisibleFlag(true);
     createControlWindow(L"BUTTON", kStyle);

@@ -16,7 +16,8 @@ public:
     static constexpr std::uint32_t kInformation = 1;
     static constexpr std::uint32_t kConflict = 2;
 
-    /// @param toolTips  borrowed, may be null; must outlive the control
+    /// @param location,size  pixels
+    /// @param toolTips       borrowed, may be null; must outlive the control
     UIInfoButtonControl(HWND parent, int id, UIServices& services, POINT location, SIZE size,
                         UIToolTips* toolTips);
     ~UIInfoButtonControl() override;

@@ -196,6 +196,11 @@ void UICheckBoxMolecule::Show(bool shown)
         m_check->setShow(shown);
 }
 
+HWND UICheckBoxMolecule::InfoAnchor() const
+{
+    return m_check ? m_check->getHwnd() : nullptr;
+}
+
 void UICheckBoxMolecule::DumpControls() const
 {
     const wchar_t* const names[] = {L"unchecked", L"checked", L"indeterminate"};

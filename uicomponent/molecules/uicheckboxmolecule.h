@@ -26,6 +26,7 @@ public:
     void SetHiddenBySetting(bool hidden) { m_hiddenBySetting = hidden; }
     void DumpControls() const override;
     void Show(bool shown) override;
+    HWND InfoAnchor() const override;
     CXString GetObserverClassNameHeirarchy() const override;
 
 protected:

@@ -144,6 +144,11 @@ void UIComboBoxMolecule::Show(bool shown)
         m_combo->setShow(shown);
 }
 
+HWND UIComboBoxMolecule::InfoAnchor() const
+{
+    return m_combo ? m_combo->getHwnd() : nullptr;
+}
+
 void UIComboBoxMolecule::DumpControls() const
 {
     o7::dumpControl(L"list", LoadText(m_labelText), ShownText(), StateText(), GetInfoText());

@@ -22,6 +22,7 @@ public:
     void LookChanged() override;
     void DumpControls() const override;
     void Show(bool shown) override;
+    HWND InfoAnchor() const override;
     CXString GetObserverClassNameHeirarchy() const override;
 
 protected:

@@ -1,5 +1,6 @@
 #include "uimolecule.h"
 
+#include "dialogconversion.h"
 #include "featureservices.h"
 #include "productstringloader.h"
 #include "setofsettingids.h"
@@ -11,9 +12,7 @@
 
 namespace {
 
-// Dialog units.
-constexpr long kInfoButtonSize = 10;
-constexpr long kOneLineBox = 14;
+constexpr long kInfoButtonSize = 10; // dialog units
 
 // The messages that ProcessCommonMessage and the controls of a molecule may answer to.
 constexpr UINT kCommonMessages[] = {
@@ -168,15 +167,20 @@ void UIMolecule::UpdateInfoButton(const FeatureIdWithContext&, const Interpreted
 
 void UIMolecule::CreateInfoButton()
 {
-    if (!m_page)
+    const HWND anchor = InfoAnchor();
+    if (!m_page || !anchor)
         return;
-    const long height = m_minimumExtent.cy;
-    const long fromBottom = (kOneLineBox - kInfoButtonSize) / 2;
-    const long top = height > kInfoButtonSize ? height - kInfoButtonSize - fromBottom : 0;
+    const DialogConversion& conversion = m_site.services.getDialogConversion();
+    const SIZE size = conversion.dialogUnitsToPixels(SIZE{kInfoButtonSize, kInfoButtonSize});
+    const LONG right = m_position.x + m_width;
+    const RECT lane = conversion.dialogUnitsToPixels(RECT{0, 0, right - kInfoButtonSize, 0});
+    // The anchor's real height counts: a closed list is as high as its font wants it.
+    RECT beside{};
+    GetWindowRect(anchor, &beside);
+    MapWindowPoints(nullptr, m_page, reinterpret_cast<POINT*>(&beside), 2);
     m_infoButton = std::make_unique<UIInfoButtonControl>(
         m_page, m_infoButtonId, m_site.services,
-        POINT{m_position.x + m_width - kInfoButtonSize, m_position.y + top},
-        SIZE{kInfoButtonSize, kInfoButtonSize}, m_toolTips);
+        POINT{lane.right, (beside.top + beside.bottom - size.cy) / 2}, size, m_toolTips);
 }
 
 void UIMolecule::SetPage(UIPageWindow& page)
@@ -240,6 +244,11 @@ void UIMolecule::Inner(std::vector<UIMolecule*>&)
 void UIMolecule::Show(bool shown)
 {
     ShowInfoButton(shown);
+}
+
+HWND UIMolecule::InfoAnchor() const
+{
+    return nullptr;
 }
 
 void UIMolecule::ProcessNotification(const INotification&, unsigned int)

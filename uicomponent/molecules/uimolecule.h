@@ -105,6 +105,8 @@ public:
     virtual void Inner(std::vector<UIMolecule*>& molecules);
     /// Shows or hides all controls.
     virtual void Show(bool shown);
+    /// The window beside which the info button stands, centred on its height; null for none.
+    virtual HWND InfoAnchor() const;
 
     /// Room in dialog units for a label beside its box; 0 puts labels above. Set by the column
     /// before InitializeFromDescription.

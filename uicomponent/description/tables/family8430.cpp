@@ -116,7 +116,7 @@ constexpr UIMoleculeRecord kTrackingOffColumn[] = {text<O7STR_T_TRACKING_OFF, 2>
 constexpr UIColumnRecord kTrackingOffColumns[] = {wide(kTrackingOffColumn)};
 
 constexpr UIContainerRecord kDialogs[] = {
-    dialog(DialogId::QuickSettings, O7STR_DIALOG_QUICK, 158, kQuickColumns, kOkCancel),
+    dialog(DialogId::QuickSettings, O7STR_DIALOG_QUICK, 162, kQuickColumns, kOkCancel),
     dialog(DialogId::JobTrackingOff, O7STR_DIALOG_TRACKING_OFF, 75, kTrackingOffColumns, kOkOnly),
 };
 

@@ -10,7 +10,7 @@ namespace o7 {
 // A page for two full columns: 148 each with a gap of 6 between margins of 7, or one of 302. Wide
 // enough for the tabs to stand in one row, and low enough to leave no page half empty.
 inline constexpr std::int32_t kPageWidth = 316;
-inline constexpr std::int32_t kPageHeight = 180;
+inline constexpr std::int32_t kPageHeight = 184;
 inline constexpr std::int32_t kMargin = 7;
 inline constexpr std::int32_t kColumnWidth = 148;
 inline constexpr std::int32_t kSecondColumnX = 161;
