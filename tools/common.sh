@@ -15,7 +15,8 @@ o7_die() {
 # --- packages -------------------------------------------------------------------------------
 
 O7_PACKAGES_BUILD=(cmake ninja-build g++ g++-mingw-w64-x86-64 googletest nlohmann-json3-dev)
-O7_PACKAGES_WINE=(wine64 wine xvfb)
+# The fonts decide how wide texts are: without them a display shows other ones, or none.
+O7_PACKAGES_WINE=(wine64 wine xvfb fonts-liberation)
 O7_PACKAGES_TEST=(clang-format clang-tidy shellcheck python3 git)
 O7_PACKAGES_APP=(xdotool imagemagick)
 

@@ -101,6 +101,12 @@ TEST_F(SheetTest, AClickChangesTheFeatureGreysAnotherAndSaysWhyAndOkKeepsIt)
             shown = dumped();
             return !IsWindowEnabled(findListBehind(sheet, L"Pages per sheet:"));
         }),
+        // The mark beside it carries the reason, for the eye, the keyboard and a screen reader.
+        until([](HWND sheet) {
+            return findControl(sheet, L"BUTTON",
+                               L"Pages per sheet is set by Booklet, which prints two pages on each "
+                               L"side of the sheet.") != nullptr;
+        }),
         click(L"BUTTON", L"OK"),
     });
     EXPECT_TRUE(accepted);

@@ -19,6 +19,7 @@
 #include "uirecords.h"
 #include "uistringnumbers.h"
 #include "uitabmanager.h"
+#include "windowtext.h"
 
 namespace o7::test {
 
@@ -187,6 +188,29 @@ TEST_F(SheetApplyTest, ApplyIsEnabledExactlyWhileSomethingDiffers)
     };
     run(rig, {look, tick, look, tick, look, press(PSBTN_CANCEL)});
     EXPECT_EQ(enabled, (std::vector<bool>{false, true, false}));
+}
+
+TEST_F(SheetApplyTest, TheWarningKeepsTheSheetOpenEachTime)
+{
+    const UIData data(kThree, UIMode::PrintingPreferences, Workflow::Standard);
+    SheetRig rig(session().productData(), model(), session().strings(), data);
+    setOption(DataModelIds::kFeatureApplyResult, DataModelIds::kValueApplyRejected);
+    const CXString text = session().strings().LoadStringW(35001);
+    HWND first = nullptr;
+    int warnings = 0;
+    const auto acceptWarning = [&](HWND box) {
+        if (!box || box == first)
+            return false;
+        const HWND message = GetDlgItem(box, 0xFFFF);
+        warnings += o7::windowText(message).Find(text) >= 0 ? 1 : 0;
+        PostMessageW(box, WM_COMMAND, IDOK, 0);
+        return true;
+    };
+    const auto sheetIsBack = [&](HWND sheet) { return sheet == first; };
+    run(rig,
+        {[&](HWND sheet) { return (first = sheet) != nullptr; }, press(PSBTN_OK), acceptWarning,
+         sheetIsBack, press(PSBTN_OK), acceptWarning, sheetIsBack, press(PSBTN_CANCEL)});
+    EXPECT_EQ(warnings, 2);
 }
 
 TEST_F(SheetApplyTest, SixteenPagesFillTheSheetInOrder)

@@ -34,6 +34,16 @@ UITab::UITab(FeatureServices& featureServices, UIContext& context, UIEventProces
 UITab::~UITab()
 {
     unregisterForEvents();
+    letWindowGo();
+}
+
+// A page that outlives its manager (a host that closes its sheet too late) must find nobody instead
+// of a dead manager: its procedure then answers 0.
+void UITab::letWindowGo() const
+{
+    const auto manager = reinterpret_cast<LONG_PTR>(m_pageRecord.messageManager);
+    if (getWindow() && manager && GetWindowLongPtrW(getWindow(), GWLP_USERDATA) == manager)
+        SetWindowLongPtrW(getWindow(), GWLP_USERDATA, 0);
 }
 
 bool UITab::build(const UIContainerData& data, UINT_PTR tabId)

@@ -59,6 +59,7 @@ private:
     void setResult(const _UIWindowsMessage& message, LONG_PTR result) const;
     void registerForEvents();
     void unregisterForEvents();
+    void letWindowGo() const;
 
     UIEventProcessor& m_eventProcessor;
     ListOfFeaturesRef m_features;

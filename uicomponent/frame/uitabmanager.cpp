@@ -96,6 +96,7 @@ UITab* UITabManager::buildTab(const UIContainerData& description, HANDLE activat
     m_largestHeight = std::max<long>(m_largestHeight, description.getHeight());
 
     static_assert(sizeof(Page) == 104);
+    m_activationContext = activationContext;
     PROPSHEETPAGEW& structure = page.structure;
     structure.dwSize = sizeof(Page);
     structure.dwFlags = PSP_DLGINDIRECT | PSP_USETITLE;
@@ -205,6 +206,8 @@ bool UITabManager::offerToTabs(const _UIWindowsMessage& message) const
 
 bool UITabManager::handlePageMessage(const _UIWindowsMessage& message)
 {
+    // Controls are created while the page initialises, and marks at any time later.
+    const IsolationAware::CallerContext callerContext(m_activationContext);
     switch (message.message) {
     case WM_INITDIALOG:
         return initializePage(message);

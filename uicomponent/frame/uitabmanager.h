@@ -101,6 +101,7 @@ private:
     UIServices& m_services;
     UIMode m_mode;
     unsigned long m_option;
+    HANDLE m_activationContext = nullptr; ///< the caller's, for what the pages create
     bool m_tabFlag = false;
     bool m_firstPaintPending = true;
     bool m_modifiedShown = false;

@@ -181,6 +181,9 @@ void UIMolecule::CreateInfoButton()
     m_infoButton = std::make_unique<UIInfoButtonControl>(
         m_page, m_infoButtonId, m_site.services,
         POINT{lane.right, (beside.top + beside.bottom - size.cy) / 2}, size, m_toolTips);
+    // Created late, it would be the last in the Tab order; it belongs behind its control.
+    SetWindowPos(m_infoButton->getHwnd(), anchor, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOREDRAW);
 }
 
 void UIMolecule::SetPage(UIPageWindow& page)
