@@ -67,8 +67,7 @@ std::unique_ptr<UIComboBoxControl> makeCombo(TestPage& page)
 TEST(SubclassedWindow, StandsBeforeTheProcedureAndPassesEverythingOn)
 {
     TestPage page;
-    const HWND window = ::CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 0, 9, 9, page.page(),
-                                          nullptr, nullptr, nullptr);
+    const HWND window = o7::test::makeStatic(page);
     const LONG_PTR before = procedureOf(window);
     std::string log;
     {
@@ -95,8 +94,7 @@ TEST(SubclassedWindow, StandsBeforeTheProcedureAndPassesEverythingOn)
 TEST(SubclassedWindow, LetsGoWhenTheParentIsDestroyedFirst)
 {
     TestPage page;
-    const HWND window = ::CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 0, 9, 9, page.page(),
-                                          nullptr, nullptr, nullptr);
+    const HWND window = o7::test::makeStatic(page);
     std::string log;
     const Probe probe(window, log, 'p');
     const auto combo = makeCombo(page);
@@ -161,8 +159,7 @@ TEST(SubclassedWindow, AFaultInsideIsShownAndAnswersZero)
     const auto former = OrvikException::SetDisplayHook(
         [](const ExceptionDisplay& display) { shown = display.text.ToUtf8(); });
     TestPage page;
-    const HWND window = ::CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 0, 9, 9, page.page(),
-                                          nullptr, nullptr, nullptr);
+    const HWND window = o7::test::makeStatic(page);
     std::string log;
     const Probe probe(window, log, 'p');
     EXPECT_EQ(0, ::SendMessageW(window, WM_APP + 1, 0, 0));
