@@ -109,7 +109,7 @@
 #define O7STR_T_ACCOUNTING 33007 // "The printer asks for an account first."
 #define O7STR_T_TRACKING 33008 // "The printer reports when each of your jobs is done."
 #define O7STR_T_APPLY 33009 // "Shows a warning before changed settings take effect."
-#define O7STR_T_UNITS 33010 // "Lengths can be typed in either unit."
+#define O7STR_T_UNITS 33010 // "Used wherever the pages show a length."
 #define O7STR_T_CONTROLLER 33011 // "Secure, sample and saved jobs need it."
 #define O7STR_T_FINISHING 33012 // "Stapling and booklets need the right finisher."
 #define O7STR_T_CONNECTION 33013 // "The printer reports its options and state over it."

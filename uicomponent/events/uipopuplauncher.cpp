@@ -62,8 +62,6 @@ UIPopupLauncher::UIPopupLauncher(UIMessageManager& messageManager, HINSTANCE mod
 {
 }
 
-UIPopupLauncher::~UIPopupLauncher() = default;
-
 bool UIPopupLauncher::displayDialog(DialogId id, const ListOfFeaturesRef& features, HWND parent,
                                     bool wholeUi)
 {

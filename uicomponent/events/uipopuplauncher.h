@@ -28,7 +28,6 @@ public:
                     HANDLE activationContext, UIMode mode);
     UIPopupLauncher(const UIPopupLauncher&) = delete;
     UIPopupLauncher& operator=(const UIPopupLauncher&) = delete;
-    ~UIPopupLauncher();
 
     void setEventProcessor(UIEventProcessor* eventProcessor) { m_eventProcessor = eventProcessor; }
 

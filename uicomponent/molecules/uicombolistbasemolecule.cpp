@@ -94,14 +94,9 @@ void UIComboListBaseMolecule::SelectValue(int value)
 
 void UIComboListBaseMolecule::LoadValue()
 {
-    if (!List())
-        return;
-    if (m_entries.empty()) {
-        std::deque<Entry> entries;
-        if (ReadOptions(entries))
-            FillList(std::move(entries));
-    }
-    SelectValue(ReadValue());
+    // An empty list waits for the state, which fills it: reading the options twice costs.
+    if (List() && !m_entries.empty())
+        SelectValue(ReadValue());
 }
 
 void UIComboListBaseMolecule::ShowState(const InterpretedState& state, bool enabled)

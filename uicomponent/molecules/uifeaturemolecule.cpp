@@ -7,6 +7,7 @@
 #include "featureservices.h"
 #include "notificationbundle.h"
 #include "setofsettingids.h"
+#include "uitooltips.h"
 
 UIFeatureMolecule::~UIFeatureMolecule() = default;
 
@@ -84,12 +85,23 @@ void UIFeatureMolecule::LoadState()
     m_enabled = !m_state.IsDisabled() && !capabilities->IsReadOnly() && !IsForceDisabled();
     ShowState(m_state, m_enabled);
     UpdateInfoButton(GetBoundFeature(), m_state);
+    ShowReasonTip();
 
     const bool shown = !m_state.IsHidden() && IsShownOnPage() && !IsHiddenBySetting();
     if (shown != m_shown) {
         m_shown = shown;
         Show(shown);
     }
+}
+
+// A greyed control tells under the pointer why it is grey; an enabled one leaves that to its mark.
+void UIFeatureMolecule::ShowReasonTip()
+{
+    const CXString reason = m_enabled ? CXString() : GetInfoText();
+    if (!GetToolTips() || !InfoAnchor() || reason == m_reasonTip)
+        return;
+    m_reasonTip = reason;
+    GetToolTips()->setAreaTip(InfoAnchor(), reason);
 }
 
 CXString UIFeatureMolecule::StateText() const

@@ -35,8 +35,10 @@ protected:
 
 private:
     void ProcessChange(const INotification& notification);
+    void ShowReasonTip();
 
     InterpretedState m_state;
+    CXString m_reasonTip; ///< what the tip of the greyed control says now
     bool m_connected = false;
     bool m_enabled = true;
     bool m_shown = true;

@@ -22,13 +22,14 @@ void UIMoleculeContainer::buildFrom(const UIContainerData& data)
     m_container = std::make_unique<UIContainer>(data, m_site);
     m_molecules = m_container->getMolecules();
     m_wanted.clear();
+    m_wanted.add(WM_MOUSEMOVE);
     for (const UIMolecule* molecule : m_molecules)
         molecule->CollectWantedMessages(m_wanted);
 }
 
 void UIMoleculeContainer::releaseMolecules()
 {
-    disconnectAll();
+    UIMoleculeContainer::disconnectAll(); // named: the destructor comes here too
     m_molecules.clear();
     m_container.reset(); // the controls' tips go with them, so the tip window goes after them
     m_toolTips.reset();
@@ -127,6 +128,11 @@ bool UIMoleculeContainer::offerToMolecules(const _UIWindowsMessage& message) con
 {
     if (!m_wanted.wants(message.message))
         return false;
+    if (message.message == WM_MOUSEMOVE &&
+        m_toolTips) { // over a disabled control it comes to the page
+        m_toolTips->relayMouse(message);
+        return false;
+    }
     for (UIMolecule* molecule : m_molecules)
         if (molecule->HandleMessage(message))
             return true;
