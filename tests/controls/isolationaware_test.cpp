@@ -59,17 +59,6 @@ TEST(IsolationAware, ControlsComeFromVersionSixWithoutAManifestOfTheHost)
     EXPECT_TRUE(isVersionSix(tips.getHwnd()));
 }
 
-TEST(IsolationAware, CreatesAndDestroysPages)
-{
-    PROPSHEETPAGEW page{};
-    page.dwSize = sizeof page;
-    page.hInstance = IsolationAware::moduleInstance();
-    page.pszTemplate = MAKEINTRESOURCEW(O7_DIALOG_EMPTY_PAGE);
-    const HPROPSHEETPAGE handle = IsolationAware::createPropertySheetPage(page);
-    ASSERT_NE(nullptr, handle);
-    EXPECT_TRUE(IsolationAware::destroyPropertySheetPage(handle));
-}
-
 TEST(IsolationAware, KeepsTheErrorOfAFailedCreation)
 {
     constexpr wchar_t kNoClass[] = L"no such class";

@@ -10,14 +10,6 @@
 
 namespace {
 
-TEST(OperatingSystem, TellsWhetherThemesAreOn)
-{
-    const SystemLibrary themes(L"uxtheme.dll");
-    using Question = BOOL(WINAPI*)();
-    EXPECT_EQ(OperatingSystem::IsUiThemeEnabled(), themes.function<Question>("IsThemeActive")() &&
-                                                       themes.function<Question>("IsAppThemed")());
-}
-
 TEST(OperatingSystem, LoadsLibrariesFromTheSystemDirectoryAlone)
 {
     // A library beside the program, which the plain call would take.

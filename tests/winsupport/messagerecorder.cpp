@@ -1,8 +1,6 @@
 #include "messagerecorder.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
 #include <map>
 
 namespace o7::test {
@@ -13,35 +11,6 @@ std::map<HWND, MessageRecorder*>& recorders()
 {
     thread_local std::map<HWND, MessageRecorder*> table;
     return table;
-}
-
-std::string hexadecimal(unsigned long long value, int digits)
-{
-    std::array<char, 32> text{};
-    std::snprintf(text.data(), text.size(), "0x%0*llx", digits, value);
-    return text.data();
-}
-
-std::string textOf(const ExpectedMessage& expected)
-{
-    const auto value = [](const auto& parameter) {
-        return parameter ? hexadecimal(static_cast<unsigned long long>(*parameter), 1) : "any";
-    };
-    return hexadecimal(expected.message, 4) + "(" + value(expected.wParam) + ", " +
-           value(expected.lParam) + ")";
-}
-
-std::string textOf(const RecordedMessage& recorded)
-{
-    return textOf(ExpectedMessage{recorded.message, ExpectedMessage::Required, recorded.wParam,
-                                  recorded.lParam});
-}
-
-bool matches(const ExpectedMessage& expected, const RecordedMessage& recorded)
-{
-    return expected.message == recorded.message &&
-           expected.wParam.value_or(recorded.wParam) == recorded.wParam &&
-           expected.lParam.value_or(recorded.lParam) == recorded.lParam;
 }
 
 } // namespace
@@ -85,34 +54,6 @@ LRESULT CALLBACK MessageRecorder::procedure(HWND window, UINT message, WPARAM wP
     if (message == WM_NCDESTROY)
         recorder.restore();
     return CallWindowProcW(previous, window, message, wParam, lParam);
-}
-
-std::string MessageRecorder::compare(std::span<const ExpectedMessage> table) const
-{
-    std::string fault;
-    auto row = table.begin();
-    for (const RecordedMessage& recorded : messages_) {
-        while (row != table.end() && !matches(*row, recorded) &&
-               row->presence == ExpectedMessage::Optional)
-            ++row;
-        if (row == table.end() || !matches(*row, recorded)) {
-            fault = "expected " + (row == table.end() ? "nothing more" : textOf(*row)) + ", came " +
-                    textOf(recorded);
-            break;
-        }
-        ++row;
-    }
-    if (fault.empty()) {
-        while (row != table.end() && row->presence == ExpectedMessage::Optional)
-            ++row;
-        if (row == table.end())
-            return {};
-        fault = "expected " + textOf(*row) + ", nothing more came";
-    }
-    fault += "\nrecorded:";
-    for (const RecordedMessage& recorded : messages_)
-        fault += "\n  " + textOf(recorded);
-    return fault;
 }
 
 } // namespace o7::test
