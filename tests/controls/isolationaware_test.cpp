@@ -48,9 +48,7 @@ LONG CALLBACK readDebugOutput(EXCEPTION_POINTERS* exception)
 TEST(IsolationAware, ControlsComeFromVersionSixWithoutAManifestOfTheHost)
 {
     TestPage page;
-    const HWND plain = ::CreateWindowExW(0, L"BUTTON", L"", WS_CHILD, 0, 0, 9, 9, page.page(),
-                                         nullptr, nullptr, nullptr);
-    EXPECT_FALSE(isVersionSix(plain)) << "this host must not select it itself";
+    EXPECT_FALSE(isVersionSix(o7::test::makeStatic(page))) << "this host must not select it itself";
 
     const UICheckBoxControl check(page.page(), 1, page.services(), page.font(), {}, {50, 10},
                                   false);
@@ -59,17 +57,6 @@ TEST(IsolationAware, ControlsComeFromVersionSixWithoutAManifestOfTheHost)
     EXPECT_TRUE(isVersionSix(check.getHwnd()));
     EXPECT_TRUE(isVersionSix(combo.getHwnd()));
     EXPECT_TRUE(isVersionSix(tips.getHwnd()));
-}
-
-TEST(IsolationAware, CreatesAndDestroysPages)
-{
-    PROPSHEETPAGEW page{};
-    page.dwSize = sizeof page;
-    page.hInstance = IsolationAware::moduleInstance();
-    page.pszTemplate = MAKEINTRESOURCEW(O7_DIALOG_EMPTY_PAGE);
-    const HPROPSHEETPAGE handle = IsolationAware::createPropertySheetPage(page);
-    ASSERT_NE(nullptr, handle);
-    EXPECT_TRUE(IsolationAware::destroyPropertySheetPage(handle));
 }
 
 TEST(IsolationAware, KeepsTheErrorOfAFailedCreation)

@@ -67,8 +67,7 @@ std::unique_ptr<UIComboBoxControl> makeCombo(TestPage& page)
 TEST(SubclassedWindow, StandsBeforeTheProcedureAndPassesEverythingOn)
 {
     TestPage page;
-    const HWND window = ::CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 0, 9, 9, page.page(),
-                                          nullptr, nullptr, nullptr);
+    const HWND window = o7::test::makeStatic(page);
     const LONG_PTR before = procedureOf(window);
     std::string log;
     {
@@ -82,11 +81,9 @@ TEST(SubclassedWindow, StandsBeforeTheProcedureAndPassesEverythingOn)
         }
         EXPECT_EQ(recording, procedureOf(window));
         EXPECT_EQ(0, userDataOf(window));
-        constexpr o7::test::ExpectedMessage kExpected[] = {
-            {WM_APP, o7::test::ExpectedMessage::Required, 1, 2},
-            {WM_SETTEXT},
-        };
-        EXPECT_EQ("", recorder.compare(kExpected));
+        ASSERT_EQ(2U, recorder.messages().size());
+        EXPECT_EQ((o7::test::RecordedMessage{WM_APP, 1, 2}), recorder.messages()[0]);
+        EXPECT_EQ(UINT{WM_SETTEXT}, recorder.messages()[1].message);
     }
     EXPECT_EQ("p", log);
     EXPECT_EQ(before, procedureOf(window));
@@ -95,8 +92,7 @@ TEST(SubclassedWindow, StandsBeforeTheProcedureAndPassesEverythingOn)
 TEST(SubclassedWindow, LetsGoWhenTheParentIsDestroyedFirst)
 {
     TestPage page;
-    const HWND window = ::CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 0, 9, 9, page.page(),
-                                          nullptr, nullptr, nullptr);
+    const HWND window = o7::test::makeStatic(page);
     std::string log;
     const Probe probe(window, log, 'p');
     const auto combo = makeCombo(page);
@@ -161,8 +157,7 @@ TEST(SubclassedWindow, AFaultInsideIsShownAndAnswersZero)
     const auto former = OrvikException::SetDisplayHook(
         [](const ExceptionDisplay& display) { shown = display.text.ToUtf8(); });
     TestPage page;
-    const HWND window = ::CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 0, 9, 9, page.page(),
-                                          nullptr, nullptr, nullptr);
+    const HWND window = o7::test::makeStatic(page);
     std::string log;
     const Probe probe(window, log, 'p');
     EXPECT_EQ(0, ::SendMessageW(window, WM_APP + 1, 0, 0));

@@ -2,6 +2,7 @@
 
 #include "dialogconversion.h"
 #include "isolationaware.h"
+#include "uidump.h"
 #include "uiresourceids.h"
 
 #include <array>
@@ -38,7 +39,26 @@ void TestPage::destroyWindows()
 
 HFONT TestPage::font() const
 {
-    return reinterpret_cast<HFONT>(::SendMessageW(m_page, WM_GETFONT, 0, 0));
+    return fontOf(m_page);
+}
+
+HFONT fontOf(HWND window)
+{
+    return reinterpret_cast<HFONT>(::SendMessageW(window, WM_GETFONT, 0, 0));
+}
+
+std::wstring dumpOf(const UIControl& control)
+{
+    std::wstring dumped;
+    const UIDump collector(dumped);
+    control.dump();
+    return dumped;
+}
+
+HWND makeStatic(const TestPage& page)
+{
+    return ::CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 0, 9, 9, page.page(), nullptr, nullptr,
+                             nullptr);
 }
 
 RECT TestPage::pixels(LONG left, LONG top, LONG right, LONG bottom) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "uicontrol.h"
 #include "uihandles.h"
 #include "uiservices.h"
 #include "uiwindowsmessage.h"
@@ -51,6 +52,15 @@ private:
     HWND m_page = nullptr;
     UIServices m_services;
 };
+
+/// What the window was given by WM_SETFONT.
+HFONT fontOf(HWND window);
+
+/// What the control tells about itself.
+std::wstring dumpOf(const UIControl& control);
+
+/// A child STATIC of the page, invisible.
+HWND makeStatic(const TestPage& page);
 
 /// What a window was created with.
 struct Creation

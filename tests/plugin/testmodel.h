@@ -45,9 +45,7 @@ public:
     bool flag(DataModelIds::tagFeatureEnum feature) const
     {
         bool value = false;
-        EXPECT_TRUE(features()
-                        .GetBooleanFeature(FeatureId(feature))
-                        .GetValue(value, FeatureRef::kAssertIfUnsupported));
+        EXPECT_TRUE(features().GetBooleanFeature(FeatureId(feature)).GetValue(value, kAssert));
         return value;
     }
     bool setFlag(DataModelIds::tagFeatureEnum feature, bool value) const
@@ -57,9 +55,7 @@ public:
     int number(DataModelIds::tagFeatureEnum feature) const
     {
         int value = 0;
-        EXPECT_TRUE(features()
-                        .GetIntegerFeature(FeatureId(feature))
-                        .GetValue(value, FeatureRef::kAssertIfUnsupported));
+        EXPECT_TRUE(features().GetIntegerFeature(FeatureId(feature)).GetValue(value, kAssert));
         return value;
     }
 
@@ -71,6 +67,7 @@ private:
 
     ListOfFeaturesRef features() const { return m_model->GetFullListOfFeatures(); }
 
+    static constexpr auto kAssert = FeatureRef::kAssertIfUnsupported;
     static constexpr char kPackage[] = R"({
       "formatVersion": 1,
       "product": {"id": "test", "modelName": "Test", "uniqueId": "TEST",

@@ -117,8 +117,6 @@ TEST_F(OfficeC430, IsOneWholeProduct)
     EXPECT_GE(m_package->GetConstraintCount(), 40U);
     const ProductInfo& info = m_package->GetProductInfo();
     EXPECT_EQ(info.id.ToUtf8(), "office-c430");
-    EXPECT_EQ(info.modelName.ToUtf8(), "Orvik Office C430");
-    EXPECT_EQ(info.controllerFamily, 8430);
     std::vector<std::string> languages;
     for (const auto& language : info.languages)
         languages.push_back(language.ToUtf8());
@@ -196,16 +194,13 @@ TEST_F(OfficeC430, ExplainsEveryLimitAfterAnySingleChange)
     for (const char* language : o7::kLanguages) {
         useLanguage(language);
         for (int feature = kFirstFeature; feature <= kLastFeature; ++feature) {
-            for (const auto& option : options(feature)) {
+            std::vector<int> values{0, 1}; // of a switch
+            for (const auto& option : options(feature))
+                values.push_back(option.GetValueId().GetValueEnum());
+            for (const int value : values) {
                 m_model->RevertToAccepted();
-                set(feature, option.GetValueId().GetValueEnum());
-                expectAllExplained(std::to_string(feature) + "=" +
-                                   option.GetOptionDisplayString().ToUtf8());
-            }
-            for (const int flag : {0, 1}) {
-                m_model->RevertToAccepted();
-                set(feature, flag);
-                expectAllExplained(std::to_string(feature) + "=" + std::to_string(flag));
+                set(feature, value);
+                expectAllExplained(std::to_string(feature) + "=" + std::to_string(value));
             }
         }
     }
@@ -218,7 +213,7 @@ enum class Effect
     Cleared,
     Hidden,
     Info,
-    Conflict,
+    Conflict
 };
 
 Effect effectOf(const InterpretedState& now)
@@ -248,11 +243,7 @@ const Story kStories[] = {
     {"no finisher, no punching", {{3040, 5220}}, 3013, 0, Effect::Disabled},
     {"office finisher cannot stitch", {{3018, 1}}, 3012, 5163, Effect::Disabled},
     {"booklet finisher stitches booklets", {{3040, 5222}, {3018, 1}}, 3012, 5163, Effect::Free},
-    {"stitched booklets: booklet tray",
-     {{3040, 5222}, {3018, 1}, {3012, 5163}},
-     3015,
-     5178,
-     Effect::Free},
+    {"stitched: booklet tray", {{3040, 5222}, {3018, 1}, {3012, 5163}}, 3015, 5178, Effect::Free},
     {"black-and-white family has no colour", {{285, 8432}}, 3009, 0, Effect::Hidden},
     {"no punch kit", {{3042, 0}}, 3013, 0, Effect::Disabled},
     {"folding unit", {{3044, 1}}, 3014, 0, Effect::Free},

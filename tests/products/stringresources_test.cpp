@@ -30,12 +30,4 @@ TEST(StringResources, HoldEveryTextAsWritten)
     }
 }
 
-TEST(StringResources, FallBackToEnglishAndToTheNumber)
-{
-    const ProductStringLoader loader(8430, builtProductFolder(), CXString("xx"));
-    EXPECT_EQ(loader.GetLanguage().ToUtf8(), "en");
-    EXPECT_EQ(loader.GetStringForFeature(3012).ToUtf8(), "Stapling");
-    EXPECT_EQ(loader.LoadStringW(59999).ToUtf8(), "#59999");
-}
-
 } // namespace

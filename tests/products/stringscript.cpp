@@ -31,78 +31,44 @@ Names readNames(const std::filesystem::path& header)
     return names;
 }
 
-std::string unquote(const std::string& text)
+unsigned numberOf(const std::string& word, const Names& names)
 {
-    static const std::regex kTwoQuotes("\"\"");
-    return std::regex_replace(text, kTwoQuotes, "\"");
+    const auto named = names.find(word);
+    return named != names.end() ? named->second : static_cast<unsigned>(std::stoul(word));
 }
 
-class Reader
+void readInto(StringTable& strings, const std::filesystem::path& script, const Names& names)
 {
-public:
-    explicit Reader(Names names) : m_names(std::move(names)) {}
-
-    void read(const std::filesystem::path& script)
-    {
-        auto in = openText(script);
-        bool inTable = false;
-        std::string line;
-        for (int number = 1; std::getline(in, line); ++number) {
-            m_place = script.string() + ":" + std::to_string(number) + ": ";
-            if (line == "BEGIN" || line == "END")
-                inTable = line == "BEGIN";
-            else if (inTable)
-                addString(line);
-            else
-                followInclude(script, line);
-        }
+    static const std::regex kInclude(R"RE(#include\s+"(.*\.rc)")RE");
+    static const std::regex kString(R"RE(\s+(\w+),?\s+"((?:[^"]|"")*)"\s*)RE");
+    static const std::regex kTwoQuotes("\"\"");
+    auto in = openText(script);
+    bool inTable = false;
+    std::smatch found;
+    std::string line;
+    for (int number = 1; std::getline(in, line); ++number) {
+        if (line == "BEGIN" || line == "END")
+            inTable = line == "BEGIN";
+        else if (!inTable && std::regex_match(line, found, kInclude))
+            readInto(strings, script.parent_path() / found[1].str(), names);
+        else if (inTable && (!std::regex_match(line, found, kString) ||
+                             !strings
+                                  .emplace(numberOf(found[1], names),
+                                           std::regex_replace(found[2].str(), kTwoQuotes, "\""))
+                                  .second))
+            throw std::runtime_error(script.string() + ":" + std::to_string(number) +
+                                     ": no string, or given twice: " + line);
     }
-
-    StringTable take() { return std::move(m_strings); }
-
-private:
-    void addString(const std::string& line)
-    {
-        static const std::regex kString(R"RE(\s+(\w+),?\s+"((?:[^"]|"")*)"\s*)RE");
-        std::smatch found;
-        if (!std::regex_match(line, found, kString))
-            throw std::runtime_error(m_place + "not a string: " + line);
-        const unsigned number = numberOf(found[1]);
-        if (!m_strings.emplace(number, unquote(found[2])).second)
-            throw std::runtime_error(m_place + "given twice: " + std::to_string(number));
-    }
-
-    void followInclude(const std::filesystem::path& script, const std::string& line)
-    {
-        static const std::regex kInclude(R"RE(#include\s+"(.*\.rc)")RE");
-        std::smatch found;
-        if (std::regex_match(line, found, kInclude))
-            read(script.parent_path() / found[1].str());
-    }
-
-    unsigned numberOf(const std::string& word) const
-    {
-        if (std::isdigit(static_cast<unsigned char>(word.front())))
-            return static_cast<unsigned>(std::stoul(word));
-        const auto named = m_names.find(word);
-        if (named == m_names.end())
-            throw std::runtime_error(m_place + "unknown name: " + word);
-        return named->second;
-    }
-
-    Names m_names;
-    StringTable m_strings;
-    std::string m_place;
-};
+}
 
 } // namespace
 
 StringTable readStringScript(const std::filesystem::path& script,
                              const std::filesystem::path& names)
 {
-    Reader reader(readNames(names));
-    reader.read(script);
-    return reader.take();
+    StringTable strings;
+    readInto(strings, script, readNames(names));
+    return strings;
 }
 
 std::string mnemonicOf(const std::string& text)

@@ -14,8 +14,8 @@ using StringTable = std::map<unsigned, std::string>;
 
 /// All strings of `script` and of the scripts it includes. `names` is the header that defines the
 /// names used in place of numbers.
-/// @throws std::runtime_error naming file and line: file missing, unknown name, number given twice,
-/// or a line in a string table that is not a string.
+/// @throws std::exception: file missing, unknown name; with file and line when a number is given
+/// twice or a line in a string table is not a string.
 StringTable readStringScript(const std::filesystem::path& script,
                              const std::filesystem::path& names);
 

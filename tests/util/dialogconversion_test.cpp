@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <cwchar>
+#include <utility>
 #include <vector>
 
 #include <windows.h>
@@ -20,10 +22,7 @@ public:
         std::vector<WORD> words(sizeof header / sizeof(WORD));
         std::memcpy(words.data(), &header, sizeof header);
         words.insert(words.end(), {0, 0, 0, points});
-        for (const wchar_t* at = font; *at != L'\0'; ++at) {
-            words.push_back(static_cast<WORD>(*at));
-        }
-        words.push_back(0);
+        words.insert(words.end(), font, font + std::wcslen(font) + 1);
         m_window = CreateDialogIndirectParamW(
             GetModuleHandleW(nullptr), reinterpret_cast<const DLGTEMPLATE*>(words.data()), nullptr,
             [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; }, 0);
@@ -45,13 +44,10 @@ bool operator==(const RECT& a, const RECT& b)
 
 TEST(DialogConversion, GivesWhatTheDialogGives)
 {
-    const struct
-    {
-        const wchar_t* font;
-        WORD points;
-    } fonts[] = {{L"MS Shell Dlg", 8}, {L"Tahoma", 9}, {L"Arial", 14}};
-    for (const auto& font : fonts) {
-        const EmptyDialog dialog(font.font, font.points);
+    const std::pair<const wchar_t*, WORD> fonts[] = {
+        {L"MS Shell Dlg", WORD{8}}, {L"Tahoma", WORD{9}}, {L"Arial", WORD{14}}};
+    for (const auto& [font, points] : fonts) {
+        const EmptyDialog dialog(font, points);
         ASSERT_NE(dialog.get(), nullptr);
         DialogConversion conversion;
         ASSERT_TRUE(conversion.initDialogConversions(dialog.get()));
@@ -64,11 +60,9 @@ TEST(DialogConversion, GivesWhatTheDialogGives)
             // A dialog unit has more than one pixel, so the way back finds the very unit.
             ASSERT_TRUE(conversion.pixelsToDialogUnits(pixels) == units) << i;
             const SIZE size = conversion.dialogUnitsToPixels(SIZE{i, i + 1});
-            ASSERT_EQ(size.cx, expected.left);
-            ASSERT_EQ(size.cy, expected.top);
+            ASSERT_TRUE(size.cx == expected.left && size.cy == expected.top) << i;
             const SIZE back = conversion.pixelsToDialogUnits(size);
-            ASSERT_EQ(back.cx, i);
-            ASSERT_EQ(back.cy, i + 1);
+            ASSERT_TRUE(back.cx == i && back.cy == i + 1) << i;
         }
     }
 }

@@ -1,4 +1,3 @@
-#include "cxstring.h"
 #include "orvikexception.h"
 
 #include <gtest/gtest.h>
@@ -45,20 +44,6 @@ TEST(ExceptionBox, IsOwnedByTheActiveWindowAndStandsAlone)
     EXPECT_EQ(g_seen.owner, owner);
     EXPECT_TRUE(IsWindowEnabled(owner));
     DestroyWindow(owner);
-}
-
-TEST(CXStringWindow, SetsTheTextOfAWindow)
-{
-    HWND window = CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr,
-                                  nullptr, nullptr);
-    EXPECT_TRUE(CXString(L"Gr\u00F6\u00DFe").SetWindowTextW(window));
-    wchar_t text[16] = {};
-    GetWindowTextW(window, text, 16);
-    EXPECT_STREQ(text, L"Gr\u00F6\u00DFe");
-    EXPECT_TRUE(CXString().SetWindowTextW(window));
-    EXPECT_EQ(GetWindowTextLengthW(window), 0);
-    DestroyWindow(window);
-    EXPECT_FALSE(CXString(L"x").SetWindowTextW(window));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "cxstringprinter.h"
 #include "operatingsystem.h"
+#include "programfolder.h"
 
 #include <gtest/gtest.h>
 
@@ -8,35 +9,6 @@
 #include <windows.h>
 
 namespace {
-
-CXString programFolder()
-{
-    CXString path;
-    wchar_t* const buffer = path.GetBuffer(MAX_PATH);
-    const DWORD length = GetModuleFileNameW(nullptr, buffer, MAX_PATH);
-    path.ReleaseBuffer(static_cast<int>(length));
-    return path.Left(path.ReverseFind(L'\\'));
-}
-
-TEST(OperatingSystem, KnowsTheSystemDirectory)
-{
-    const CXString directory = OperatingSystem::SystemDirectory();
-    EXPECT_NE(GetFileAttributesW((directory + L"\\kernel32.dll").c_str()), INVALID_FILE_ATTRIBUTES)
-        << directory.ToUtf8();
-}
-
-TEST(OperatingSystem, TellsWhetherThemesAreOn)
-{
-    HMODULE themes = LoadLibraryW(L"uxtheme.dll");
-    ASSERT_NE(themes, nullptr);
-    using Question = BOOL(WINAPI*)();
-    const auto ask = [themes](const char* name) {
-        return reinterpret_cast<Question>(
-            reinterpret_cast<void (*)()>(GetProcAddress(themes, name)))();
-    };
-    EXPECT_EQ(OperatingSystem::IsUiThemeEnabled(), ask("IsThemeActive") && ask("IsAppThemed"));
-    FreeLibrary(themes);
-}
 
 TEST(OperatingSystem, LoadsLibrariesFromTheSystemDirectoryAlone)
 {

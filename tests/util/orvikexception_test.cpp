@@ -57,16 +57,14 @@ template <class Exception, class Factory> void expectRaised(Factory factory, con
 
 TEST(OrvikException, EachOfTheFamilyIsRaisedWithItsPlaceAndContext)
 {
-    expectRaised<ExceptionTabCreationFailure>(GetExceptionTabCreationFailure,
-                                              L"ExceptionTabCreationFailure");
-    expectRaised<ExceptionPagesFormat>(GetExceptionPagesFormat, L"ExceptionPagesFormat");
-    expectRaised<ExceptionPageNumberTooSmall>(GetExceptionPageNumberTooSmall,
-                                              L"ExceptionPageNumberTooSmall");
-    expectRaised<ExceptionPageNumberTooLarge>(GetExceptionPageNumberTooLarge,
-                                              L"ExceptionPageNumberTooLarge");
-    expectRaised<ExceptionDelayLoadDllLoadFailure>(GetExceptionDelayLoadDllLoadFailure,
-                                                   L"ExceptionDelayLoadDllLoadFailure");
-    expectRaised<OrvikException>(GetOrvikException, L"OrvikException");
+#define EXPECT_RAISED(name) expectRaised<name>(Get##name, L## #name)
+    EXPECT_RAISED(ExceptionTabCreationFailure);
+    EXPECT_RAISED(ExceptionPagesFormat);
+    EXPECT_RAISED(ExceptionPageNumberTooSmall);
+    EXPECT_RAISED(ExceptionPageNumberTooLarge);
+    EXPECT_RAISED(ExceptionDelayLoadDllLoadFailure);
+    EXPECT_RAISED(OrvikException);
+#undef EXPECT_RAISED
 }
 
 TEST(OrvikException, MessageThatCannotBeFormattedIsReplaced)

@@ -1,9 +1,12 @@
 #include "cxstringprinter.h"
 #include "productstringloader.h"
+#include "programfolder.h"
 #include "resourceguard.h"
 #include "textresourceloader.h"
 
 #include <gtest/gtest.h>
+
+#include <utility>
 
 #include <windows.h>
 
@@ -11,10 +14,7 @@ namespace {
 
 CXString productFolder()
 {
-    CXString path;
-    wchar_t* const buffer = path.GetBuffer(MAX_PATH);
-    path.ReleaseBuffer(static_cast<int>(GetModuleFileNameW(nullptr, buffer, MAX_PATH)));
-    return path.Left(path.ReverseFind(L'\\')) + L"\\util_test_product";
+    return programFolder() + L"\\util_test_product";
 }
 
 TEST(TextResourceLoader, GivesTheTextOrItsNumber)
@@ -29,37 +29,22 @@ TEST(TextResourceLoader, GivesTheTextOrItsNumber)
 
 TEST(ProductStringLoader, TakesTheLanguageAskedForOrEnglish)
 {
-    const struct
-    {
-        const wchar_t* asked;
-        const wchar_t* taken;
-        const wchar_t* feature;
-        const wchar_t* text7;
-    } rows[] = {
-        {L"de", L"de", L"Steuerger\u00E4t", L"#7"},
-        {L"en", L"en", L"Controller", L"Only in English"},
-        {L"xx", L"en", L"Controller", L"Only in English"},
-        {L"", L"en", L"Controller", L"Only in English"},
-        {L"..\\strings-de", L"en", L"Controller", L"Only in English"},
-    };
-    for (const auto& row : rows) {
-        const ProductStringLoader loader(8430, productFolder(), row.asked);
-        EXPECT_EQ(loader.GetLanguage(), row.taken) << CXString(row.asked).ToUtf8();
-        EXPECT_EQ(loader.GetStringForFeature(285), row.feature);
-        EXPECT_EQ(loader.LoadStringW(7), row.text7);
-        EXPECT_EQ(loader.GetControllerFamily(), 8430);
+    const std::pair<const wchar_t*, const wchar_t*> rows[] = {
+        {L"de", L"de"}, {L"en", L"en"}, {L"xx", L"en"}, {L"", L"en"}, {L"..\\strings-de", L"en"}};
+    for (const auto& [asked, taken] : rows) {
+        const ProductStringLoader loader(8430, productFolder(), asked);
+        const bool isGerman = loader.GetLanguage() == L"de";
+        EXPECT_EQ(loader.GetLanguage(), taken) << CXString(asked).ToUtf8();
+        EXPECT_EQ(loader.GetStringForFeature(285), isGerman ? L"Steuerger\u00E4t" : L"Controller");
+        EXPECT_EQ(loader.LoadStringW(7), isGerman ? L"#7" : L"Only in English");
     }
     const ProductStringLoader german(8430, productFolder(), L"de");
     EXPECT_EQ(german.GetStringForValue(9579), L"Eigenes Papier");
     EXPECT_EQ(german.GetStringForValue(1), L"#40001");
     EXPECT_EQ(german.GetStringForFeature(-1), L"#19999");
-}
-
-TEST(ProductStringLoader, WithoutAnyLanguageEveryTextIsItsNumber)
-{
-    const ProductStringLoader loader(8430, productFolder() + L"\\nowhere", L"de");
-    EXPECT_TRUE(loader.GetLanguage().IsEmpty());
-    EXPECT_EQ(loader.LoadStringW(100), L"#100"); // not the program's own text
+    const ProductStringLoader none(8430, productFolder() + L"\\nowhere", L"de");
+    EXPECT_TRUE(none.GetLanguage().IsEmpty());
+    EXPECT_EQ(none.LoadStringW(100), L"#100"); // not the program's own text
 }
 
 TEST(ProductStringLoader, LeavesNothingBehind)

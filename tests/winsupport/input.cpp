@@ -1,6 +1,5 @@
 #include "input.h"
 
-#include <string>
 #include <vector>
 
 namespace o7::test {
@@ -16,15 +15,6 @@ INPUT keyInput(WORD key, DWORD flags)
     return input;
 }
 
-INPUT characterInput(wchar_t character, DWORD flags)
-{
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wScan = static_cast<WORD>(character);
-    input.ki.dwFlags = KEYEVENTF_UNICODE | flags;
-    return input;
-}
-
 INPUT buttonInput(DWORD flags)
 {
     INPUT input{};
@@ -37,29 +27,6 @@ void send(std::vector<INPUT> inputs)
 {
     SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
     pumpUntilQuiet();
-}
-
-struct Search
-{
-    std::wstring_view title;
-    HWND found;
-};
-
-BOOL CALLBACK matchTitle(HWND window, LPARAM parameter)
-{
-    auto& search = *reinterpret_cast<Search*>(parameter);
-    DWORD process = 0;
-    GetWindowThreadProcessId(window, &process);
-    if (process != GetCurrentProcessId() || !IsWindowVisible(window))
-        return TRUE;
-    // InternalGetWindowText never waits for the thread of the window.
-    std::wstring text(search.title.size() + 2, L'\0');
-    const int length = InternalGetWindowText(window, text.data(), static_cast<int>(text.size()));
-    text.resize(static_cast<std::size_t>(length));
-    if (text != search.title)
-        return TRUE;
-    search.found = window;
-    return FALSE;
 }
 
 } // namespace
@@ -126,28 +93,6 @@ void sendKey(WORD virtualKey, std::initializer_list<WORD> held)
     for (const WORD key : held)
         inputs.push_back(keyInput(key, KEYEVENTF_KEYUP));
     send(std::move(inputs));
-}
-
-void typeText(std::wstring_view text)
-{
-    std::vector<INPUT> inputs;
-    for (const wchar_t character : text) {
-        inputs.push_back(characterInput(character, 0));
-        inputs.push_back(characterInput(character, KEYEVENTF_KEYUP));
-    }
-    send(std::move(inputs));
-}
-
-HWND waitForWindow(std::wstring_view title, int milliseconds)
-{
-    Search search{title, nullptr};
-    pumpUntil(
-        [&search] {
-            EnumWindows(matchTitle, reinterpret_cast<LPARAM>(&search));
-            return search.found != nullptr;
-        },
-        milliseconds);
-    return search.found;
 }
 
 } // namespace o7::test

@@ -4,7 +4,6 @@
 
 #include <functional>
 #include <initializer_list>
-#include <string_view>
 
 namespace o7::test {
 
@@ -31,11 +30,5 @@ void sendClick(HWND window);
 /// Presses and releases a virtual key while the given ones (VK_SHIFT, VK_CONTROL, VK_MENU) are
 /// held.
 void sendKey(WORD virtualKey, std::initializer_list<WORD> held = {});
-
-/// Types the text into whatever has the focus, independent of the keyboard layout.
-void typeText(std::wstring_view text);
-
-/// The visible top-level window of this process with this title, waited for; null when none came.
-HWND waitForWindow(std::wstring_view title, int milliseconds = 5000);
 
 } // namespace o7::test

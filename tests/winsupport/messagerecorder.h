@@ -3,9 +3,6 @@
 #include <windows.h>
 
 #include <initializer_list>
-#include <optional>
-#include <span>
-#include <string>
 #include <vector>
 
 namespace o7::test {
@@ -16,22 +13,7 @@ struct RecordedMessage
     UINT message;
     WPARAM wParam;
     LPARAM lParam;
-};
-
-/// One row of a table of messages that a window has to get, in order. A parameter that is not given
-/// matches anything; an optional row may be missing (what differs between systems).
-struct ExpectedMessage
-{
-    enum Presence
-    {
-        Required,
-        Optional
-    };
-
-    UINT message = 0;
-    Presence presence = Required;
-    std::optional<WPARAM> wParam{};
-    std::optional<LPARAM> lParam{};
+    bool operator==(const RecordedMessage&) const = default;
 };
 
 /// Records the messages of one window, sent and posted ones, by standing before its window
@@ -48,10 +30,6 @@ public:
 
     const std::vector<RecordedMessage>& messages() const { return messages_; }
     void clear() { messages_.clear(); }
-
-    /// Empty when the recorded messages are those of the table; otherwise what was expected, what
-    /// came instead, and the whole recording, for EXPECT_EQ(recorder.compare(table), "").
-    std::string compare(std::span<const ExpectedMessage> table) const;
 
 private:
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

@@ -6,6 +6,7 @@
 #include <array>
 #include <cstddef>
 #include <string_view>
+#include <utility>
 
 namespace o7::test {
 namespace {
@@ -107,26 +108,15 @@ constexpr unsigned stockBit = 0x80;
 
 const wchar_t* gdiTypeName(unsigned unique)
 {
-    switch (unique & 0x7f) {
-    case 0x01:
-        return L"device context";
-    case 0x04:
-        return L"region";
-    case 0x05:
-    case 0x09:
-        return L"bitmap";
-    case 0x08:
-        return L"palette";
-    case 0x0a:
-        return L"font";
-    case 0x10:
-        return L"brush";
-    case 0x30:
-    case 0x50:
-        return L"pen";
-    default:
-        return L"other GDI object";
+    constexpr std::pair<unsigned, const wchar_t*> kTypes[] = {
+        {0x01, L"device context"}, {0x04, L"region"},  {0x05, L"bitmap"},
+        {0x09, L"bitmap"},         {0x08, L"palette"}, {0x0a, L"font"},
+        {0x10, L"brush"},          {0x30, L"pen"},     {0x50, L"pen"}};
+    for (const auto& [type, name] : kTypes) {
+        if (type == (unique & 0x7f))
+            return name;
     }
+    return L"other GDI object";
 }
 
 bool underWine()
@@ -156,23 +146,6 @@ struct HandleTable
 };
 
 constexpr int systemExtendedHandleInformation = 64;
-
-class SnapshotHandle
-{
-public:
-    explicit SnapshotHandle(HANDLE handle) : handle_(handle) {}
-    ~SnapshotHandle()
-    {
-        if (handle_ != INVALID_HANDLE_VALUE)
-            CloseHandle(handle_);
-    }
-    SnapshotHandle(const SnapshotHandle&) = delete;
-    SnapshotHandle& operator=(const SnapshotHandle&) = delete;
-    HANDLE get() const { return handle_; }
-
-private:
-    HANDLE handle_;
-};
 
 } // namespace
 
@@ -240,14 +213,15 @@ ProcessResources::Items kernelHandlesOfThisProcess()
 ProcessResources::Items threadsOfThisProcess()
 {
     ProcessResources::Items items;
-    const SnapshotHandle snapshot(CreateToolhelp32Snapshot(TH32CS_SNAPTHREAD, 0));
+    HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPTHREAD, 0);
     THREADENTRY32 entry{};
     entry.dwSize = sizeof(entry);
-    for (BOOL more = Thread32First(snapshot.get(), &entry); more != FALSE;
-         more = Thread32Next(snapshot.get(), &entry)) {
+    for (BOOL more = Thread32First(snapshot, &entry); more != FALSE;
+         more = Thread32Next(snapshot, &entry)) {
         if (entry.th32OwnerProcessID == GetCurrentProcessId())
             items.push_back({entry.th32ThreadID, L"thread"});
     }
+    CloseHandle(snapshot);
     return items;
 }
 

@@ -12,24 +12,31 @@ using o7::test::ResourceGuard;
 
 namespace {
 
+using GiveBack = std::function<void()>;
+
 HWND makeWindow(HWND parent, DWORD style)
 {
-    return CreateWindowExW(0, L"STATIC", L"leak", style, 0, 0, 10, 10, parent, nullptr,
-                           GetModuleHandleW(nullptr), nullptr);
+    return CreateWindowExW(0, L"STATIC", L"leak", style, 0, 0, 10, 10, parent, nullptr, nullptr,
+                           nullptr);
 }
 
-// One way to take something, and to give it back; counted is how much the reading must grow by.
-struct Case
+GiveBack windows(HWND parent, DWORD style, int below)
 {
-    const char* name;
-    ProcessResources::Items (*read)();
-    std::size_t counted;
-    std::function<std::function<void()>()> take;
-};
+    HWND window = makeWindow(parent, style);
+    for (HWND at = window; below > 0; --below)
+        at = makeWindow(at, WS_CHILD);
+    return [window] { DestroyWindow(window); };
+}
 
-std::function<void()> gdi(HGDIOBJ object)
+GiveBack gdi(HGDIOBJ object)
 {
     return [object] { DeleteObject(object); };
+}
+
+GiveBack startEvent()
+{
+    HANDLE event = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+    return [event] { CloseHandle(event); };
 }
 
 DWORD WINAPI waitFor(void* event)
@@ -38,7 +45,7 @@ DWORD WINAPI waitFor(void* event)
     return 0;
 }
 
-std::function<void()> startThread()
+GiveBack startThread()
 {
     HANDLE event = CreateEventW(nullptr, TRUE, FALSE, nullptr);
     HANDLE thread = CreateThread(nullptr, 0, waitFor, event, 0, nullptr);
@@ -50,110 +57,78 @@ std::function<void()> startThread()
     };
 }
 
-std::vector<Case> cases()
+/// One way to take something; `counted` is how much its reading must grow by.
+struct Case
 {
-    using o7::test::gdiObjectsOfThisProcess;
-    using o7::test::kernelHandlesOfThisProcess;
-    using o7::test::threadsOfThisProcess;
-    using o7::test::windowsOfThisProcess;
-    return {
-        {"top-level window", windowsOfThisProcess, 1,
-         [] {
-             HWND window = makeWindow(nullptr, WS_POPUP);
-             return [window] { DestroyWindow(window); };
-         }},
-        {"window with child and grandchild", windowsOfThisProcess, 3,
-         [] {
-             HWND window = makeWindow(nullptr, WS_POPUP);
-             makeWindow(makeWindow(window, WS_CHILD), WS_CHILD);
-             return [window] { DestroyWindow(window); };
-         }},
-        {"message-only window", windowsOfThisProcess, 1,
-         [] {
-             HWND window = makeWindow(HWND_MESSAGE, 0);
-             return [window] { DestroyWindow(window); };
-         }},
-        {"brush", gdiObjectsOfThisProcess, 1, [] { return gdi(CreateSolidBrush(RGB(1, 2, 3))); }},
-        {"pen", gdiObjectsOfThisProcess, 1, [] { return gdi(CreatePen(PS_SOLID, 3, 0)); }},
-        {"font", gdiObjectsOfThisProcess, 1,
-         [] {
-             const LOGFONTW font{};
-             return gdi(CreateFontIndirectW(&font));
-         }},
-        {"bitmap", gdiObjectsOfThisProcess, 1,
-         [] { return gdi(CreateBitmap(4, 4, 1, 1, nullptr)); }},
-        {"region", gdiObjectsOfThisProcess, 1, [] { return gdi(CreateRectRgn(0, 0, 4, 4)); }},
-        {"memory device context", gdiObjectsOfThisProcess, 1,
-         [] {
-             HDC memory = CreateCompatibleDC(nullptr);
-             return [memory] { DeleteDC(memory); };
-         }},
-        {"event", kernelHandlesOfThisProcess, 1,
-         [] {
-             HANDLE event = CreateEventW(nullptr, TRUE, FALSE, nullptr);
-             return [event] { CloseHandle(event); };
-         }},
-        {"handles of a thread and its event", kernelHandlesOfThisProcess, 2, startThread},
-        {"thread", threadsOfThisProcess, 1, startThread},
-    };
-}
+    const char* name;
+    ProcessResources::Items (*read)();
+    std::size_t counted;
+    GiveBack (*take)();
+};
+
+constexpr auto kWindows = &o7::test::windowsOfThisProcess;
+constexpr auto kGdi = &o7::test::gdiObjectsOfThisProcess;
+constexpr auto kHandles = &o7::test::kernelHandlesOfThisProcess;
+
+const Case kCases[] = {
+    {"window", kWindows, 1, [] { return windows(nullptr, WS_POPUP, 0); }},
+    {"window with child and grandchild", kWindows, 3, [] { return windows(nullptr, WS_POPUP, 2); }},
+    {"message-only window", kWindows, 1, [] { return windows(HWND_MESSAGE, 0, 0); }},
+    {"brush", kGdi, 1, [] { return gdi(CreateSolidBrush(RGB(1, 2, 3))); }},
+    {"pen", kGdi, 1, [] { return gdi(CreatePen(PS_SOLID, 3, 0)); }},
+    {"font", kGdi, 1, [] { return gdi(CreateFontW(9, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, L"")); }},
+    {"bitmap", kGdi, 1, [] { return gdi(CreateBitmap(4, 4, 1, 1, nullptr)); }},
+    {"region", kGdi, 1, [] { return gdi(CreateRectRgn(0, 0, 4, 4)); }},
+    {"memory device context", kGdi, 1, [] { return gdi(CreateCompatibleDC(nullptr)); }},
+    {"event", kHandles, 1, startEvent},
+    {"handles of a thread and its event", kHandles, 2, startThread},
+    {"thread", &o7::test::threadsOfThisProcess, 1, startThread},
+};
 
 TEST(ResourceGuard, EveryReadingSeesExactlyWhatIsTakenAndGivenBack)
 {
-    for (const Case& one : cases()) {
+    for (const Case& one : kCases) {
         SCOPED_TRACE(one.name);
         one.take()(); // the first time the system may keep something for itself
+        const ResourceGuard guard;
         const std::size_t before = one.read().size();
-        std::vector<std::function<void()>> giveBack;
-        for (std::size_t taken = 1; taken <= 3; ++taken) {
-            giveBack.push_back(one.take());
-            EXPECT_EQ(one.read().size(), before + taken * one.counted);
+        std::vector<GiveBack> taken;
+        for (std::size_t count = 1; count <= 3; ++count) {
+            taken.push_back(one.take());
+            EXPECT_EQ(one.read().size(), before + count * one.counted);
         }
-        for (const auto& give : giveBack)
-            give();
-        EXPECT_EQ(one.read().size(), before);
+        for (const GiveBack& giveBack : taken)
+            giveBack();
     }
 }
 
-TEST(ResourceGuard, SaysWhatWasNotGivenBack)
+TEST(ResourceGuard, SaysWhatWasNotGivenBackOfTheKindsAskedFor)
 {
     startThread()();
-    HBRUSH brush = nullptr;
-    HWND window = nullptr;
+    GiveBack brush;
+    GiveBack window;
+    const auto leak = [](GiveBack& kept, GiveBack taken) { kept = std::move(taken); };
     EXPECT_NONFATAL_FAILURE(
         {
             const ResourceGuard guard;
-            brush = CreateSolidBrush(RGB(9, 9, 9));
+            leak(brush, gdi(CreateSolidBrush(RGB(9, 9, 9))));
         },
         "came: brush");
     EXPECT_NONFATAL_FAILURE(
         {
             const ResourceGuard guard;
-            window = makeWindow(nullptr, WS_POPUP);
+            leak(window, windows(nullptr, WS_POPUP, 0));
         },
         "window 'Static' \"leak\"");
     EXPECT_NONFATAL_FAILURE(
         {
             const ResourceGuard guard;
-            DestroyWindow(window);
+            window();
         },
         "went: window");
-    DeleteObject(brush);
-}
-
-TEST(ResourceGuard, IsSilentWhenEverythingWasGivenBack)
-{
-    const ResourceGuard guard;
-    for (const Case& one : cases())
-        one.take()();
-}
-
-TEST(ResourceGuard, ComparesOnlyTheKindsAskedFor)
-{
     ResourceGuard guard(ResourceGuard::Windows | ResourceGuard::Threads);
-    HBRUSH brush = CreateSolidBrush(RGB(4, 4, 4));
+    brush();
     EXPECT_EQ(guard.compare(), "");
-    DeleteObject(brush);
 }
 
 } // namespace
