@@ -55,7 +55,7 @@ IdleDriver::Step key(WORD virtualKey, std::initializer_list<WORD> held = {})
     };
 }
 
-IdleDriver::Step until(std::function<bool(HWND)> condition)
+IdleDriver::Step until(const std::function<bool(HWND)>& condition)
 {
     return [=](HWND dialog) { return dialog && condition(dialog); };
 }
