@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
 
 namespace {
 
@@ -126,41 +125,6 @@ TEST(Package, TellsAboutFilesThatCannotBeRead)
     EXPECT_EQ(o7::LoadProductPackage("no/such/folder", errors), nullptr);
     ASSERT_EQ(errors.size(), 1U);
     EXPECT_EQ(errors[0].line, 0U);
-
-    const auto folder = std::filesystem::temp_directory_path() / "o7-package-test";
-    std::filesystem::create_directories(folder);
-    std::ofstream(folder / "package.json", std::ios::binary) << test::PackageText();
-    errors.clear();
-    EXPECT_NE(o7::LoadProductPackage(folder, errors), nullptr);
-    EXPECT_NE(o7::LoadProductPackage(folder / "package.json", errors), nullptr);
-    std::filesystem::remove_all(folder);
-}
-
-TEST(Package, EveryShippedProductIsSound)
-{
-    int products = 0;
-    for (const auto& entry : std::filesystem::directory_iterator(O7_PRODUCTS_FOLDER)) {
-        if (!std::filesystem::exists(entry.path() / "package.json"))
-            continue;
-        ++products;
-        std::vector<o7::PackageError> errors;
-        const auto package = o7::LoadProductPackage(entry.path(), errors);
-        for (const auto& error : errors)
-            ADD_FAILURE() << error.ToString();
-        test::Strings strings;
-        ASSERT_NE(package, nullptr);
-        // At its defaults a product must not contradict itself.
-        const auto model = o7::CreateDataModel(*package, strings);
-        const auto all = model->GetFullListOfFeatures();
-        for (std::size_t i = 0; i < all.GetNode()->GetNumChildren(); ++i) {
-            const auto child = all.GetNode()->GetChild(i);
-            EXPECT_FALSE(child->GetCapabilities()->GetInterpretedState().HasCbrBtnMsg())
-                << test::Narrow(child->GetId().Dump(true));
-        }
-        std::vector<std::uint8_t> block;
-        EXPECT_TRUE(model->ExportSettings(block));
-    }
-    EXPECT_GT(products, 0);
 }
 
 } // namespace

@@ -62,6 +62,9 @@ class PreviewProgram : public testing::Test
 protected:
     PreviewProgram()
     {
+        // The desktop's own process starts with the first who asks for it, and would keep the
+        // program's error stream open.
+        GetDesktopWindow();
         fs::remove_all(m_folder);
         fs::create_directories(m_folder);
     }
