@@ -40,14 +40,14 @@ const std::pair<const char*, std::function<void()>> kRows[] = {
 
 TEST_F(UIGuard, ShowsWhateverIsThrownAndAnswersNothing)
 {
-    for (const auto& [shown, thrower] : kRows) {
+    for (const auto& row : kRows) {
         s_text.clear();
         const auto answer = o7::guarded<long long>(L"TheProcedure", L"thesource", [&]() {
-            thrower();
+            row.second();
             return 5LL;
         });
         EXPECT_EQ(0, answer);
-        EXPECT_NE(std::string::npos, s_text.find(shown)) << s_text;
+        EXPECT_NE(std::string::npos, s_text.find(row.first)) << s_text;
         EXPECT_NE(std::string::npos, s_text.find("TheProcedure")) << s_text;
         EXPECT_NE(std::string::npos, s_title.find("thesource")) << s_title;
     }

@@ -25,7 +25,7 @@ public:
             whenAsked();
         }
         if (m_claims) {
-            message.result = m_name;
+            message.result = static_cast<unsigned char>(m_name);
         }
         return m_claims;
     }

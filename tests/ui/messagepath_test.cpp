@@ -115,14 +115,15 @@ TEST_F(MessagePathTest, EveryProcedureRoutesItsKindAndSwallowsWhatIsThrown)
             {[] { throw std::bad_alloc(); }, "bad allocation"},
             {[] { throw 5; }, ""},
         };
-        for (const auto& [throwIt, text] : throwers) {
+        for (const auto& thrown : throwers) {
             s_shown.clear();
             handler.answer = [&](const _UIWindowsMessage&) -> bool {
-                throwIt();
+                thrown.first();
                 return true;
             };
             EXPECT_EQ(route.call(window(), WM_USER, 1, 2), 0) << route.name;
-            EXPECT_NE(s_shown.find(text), std::string::npos) << route.name << ": " << s_shown;
+            EXPECT_NE(s_shown.find(thrown.second), std::string::npos)
+                << route.name << ": " << s_shown;
             EXPECT_NE(s_shown.find(route.name), std::string::npos) << s_shown;
         }
         route.connect(window(), nullptr);
