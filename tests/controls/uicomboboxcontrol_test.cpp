@@ -164,11 +164,11 @@ TEST_F(UIComboBox, ArrowKeysPassOverUnavailableEntries)
 {
     struct Row
     {
-        const char* what;
-        std::initializer_list<const wchar_t*> entries; ///< in capitals: unavailable
-        int selected;
-        WPARAM key;
-        int expected;
+        const char* what = "";
+        std::initializer_list<const wchar_t*> entries{}; ///< in capitals: unavailable
+        int selected = 0;
+        WPARAM key = 0;
+        int expected = 0;
     };
     const Row rows[] = {
         {"down over two", {L"a", L"B", L"C", L"d"}, 0, VK_DOWN, 3},

@@ -207,7 +207,7 @@ TEST_F(DriverSheets, WriteTheSettingsWithOkOnly)
 
 TEST_F(DriverSheets, LeaveNothingInTheProcess)
 {
-    for (const WPARAM button : {PSBTN_OK, PSBTN_CANCEL}) {
+    for (const WPARAM button : {WPARAM{PSBTN_OK}, WPARAM{PSBTN_CANCEL}}) {
         // What the system makes once and keeps comes with the first opening.
         openAndPress("DrvDocumentPropertySheets", &m_header, button);
         const test::ResourceGuard guard;
