@@ -3,6 +3,7 @@
 #include <new>
 #include <utility>
 
+#include "printerstandin.h"
 #include "uimanager.h"
 
 namespace o7 {
@@ -83,6 +84,9 @@ void DriverSheet::addPages(const PROPSHEETUI_INFO& info)
             m_callback(m_comPropSheet, CPSFUNC_DELETE_HCOMPROPSHEET, page, 0);
         }
         throw;
+    }
+    if (PrinterStandIn* const standIn = printerStandIn()) {
+        standIn->pagesAdded(*m_manager);
     }
 }
 

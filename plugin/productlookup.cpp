@@ -5,8 +5,10 @@
 #include <vector>
 
 #include "dlldelayloader.h"
+#include "printerstandin.h"
 #include "printerstore.h"
 #include "printsystemrecord.h"
+#include "productfeatures.h"
 #include "throworvik.h"
 
 namespace o7 {
@@ -63,17 +65,20 @@ fs::path driverDataFile(HANDLE printer)
                : fs::path(driver.get()->pDataFile);
 }
 
-std::unique_ptr<ProductSession> openProductOf(HANDLE printer)
+std::unique_ptr<ProductSession> openProductOf(HANDLE printer, const wchar_t* printerName)
 {
     constexpr wchar_t kName[] = L"OrvikException";
+    const PrinterStandIn* const standIn = printer == nullptr ? printerStandIn() : nullptr;
     const std::wstring folder = folderOfThisModule();
-    const fs::path package = findPackage(folder, driverDataFile(printer));
+    const fs::path package = standIn != nullptr ? fs::path(standIn->package())
+                                                : findPackage(folder, driverDataFile(printer));
     if (package.empty()) {
         throwOrvik(GetOrvikException, kName, {L"o7::openProductOf"},
                    L"There is no product package in %s.", folder.c_str());
     }
     std::vector<CXString> errors;
-    auto session = ProductSession::open(package, CXString(), errors);
+    auto session =
+        ProductSession::open(package, standIn != nullptr ? standIn->language() : L"", errors);
     if (!session) {
         CXString text;
         for (const CXString& error : errors) {
@@ -83,6 +88,10 @@ std::unique_ptr<ProductSession> openProductOf(HANDLE printer)
         throwOrvik(GetOrvikException, kName, {L"o7::openProductOf"}, L"%s", text.c_str());
     }
     loadDeviceSettings(printer, session->model());
+    if (printerName != nullptr && *printerName != L'\0') {
+        session->model().GetOptionFeatureRef(kPrinterName).SetValue(CXString(printerName));
+        session->model().CommitAccepted();
+    }
     return session;
 }
 
