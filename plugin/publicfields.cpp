@@ -173,7 +173,7 @@ bool followLengths(const ListOfFeaturesRef& features, const PublicFields& fields
         return paper != kCustomPaper &&
                isSize(sizeOfPaper(features, paper), fields.paperWidth, fields.paperLength);
     });
-    std::ranges::stable_partition(fitting, [&](const ValueId& paper) {
+    std::stable_partition(fitting.begin(), fitting.end(), [&](const ValueId& paper) {
         return fields.has(kPaperSizeField) &&
                systemNumber(DocumentField::PaperSize, paper) == fields.paperSize;
     });
