@@ -52,6 +52,7 @@ public:
 
     // For the nodes and the transactions.
     FeatureNode* FindNode(const FeatureIdWithContext& feature) const;
+    const ConstraintEngine& Engine() const { return m_engine; }
     StateInterpreter& Interpreter() { return m_interpreter; }
     bool SetValue(FeatureNode& feature, const FeatureValue& value);
     bool SetSpecified(FeatureNode& feature, bool specified);
