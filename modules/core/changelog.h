@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace o7 {
@@ -39,6 +40,7 @@ public:
         std::shared_ptr<FeatureNode> feature; ///< What changed; for items the list.
         FeatureValue value;
         bool specified = false;
+        bool followsDefault = false;
         std::shared_ptr<FeatureNode> item;
         std::size_t index = 0;
     };
@@ -54,16 +56,25 @@ public:
 
     /// Notes a change on the innermost level; once per feature and level.
     void Note(FeatureNode& feature, unsigned bits);
-    /// Records how to take a change back; forgotten at once outside transactions.
-    void Record(Undo undo);
+    /// Records how to take a change back; to be asked for with IsRecording() first, because outside
+    /// transactions nothing is taken back.
+    void Record(Undo undo) { m_levels.back().undo.push_back(std::move(undo)); }
+    bool IsRecording() const { return IsAnyOpen() && !m_muted; }
+    /// While muted, changes are neither noted nor recorded: somebody tries something and takes it
+    /// back by itself.
+    void SetMuted(bool muted) { m_muted = muted; }
 
     /// The id of the new level; never 0.
     std::uint64_t Open();
     bool IsOpen(std::uint64_t id) const;
     bool IsAnyOpen() const { return m_levels.size() > 1; }
     Level& Innermost() { return m_levels.back(); }
+    /// Takes the innermost level's records of how to take it back.
+    std::vector<Undo> TakeUndo() { return std::exchange(m_levels.back().undo, {}); }
     /// Removes the innermost transaction. With `keep` its undo records go to the level below.
     std::vector<Change> Pop(bool keep);
+    /// Hands a delivered list back, so that the next level need not allocate one.
+    void Recycle(std::vector<Change> changes);
     /// Takes what the base level has gathered.
     std::vector<Change> TakeBase();
     /// Puts changes back for a later delivery.
@@ -71,7 +82,9 @@ public:
 
 private:
     std::uint64_t m_nextId = 1;
+    bool m_muted = false;
     std::vector<Level> m_levels;
+    Level m_spare; ///< Empty lists with their memory.
 };
 
 } // namespace o7

@@ -3,8 +3,9 @@
 
 #include "capabilitiesnode.h"
 #include "dimension.h"
-#include "featurevalue.h"
+#include "effectkind.h"
 #include "productinfo.h"
+#include "valuetest.h"
 
 #include <cstddef>
 #include <filesystem>
@@ -24,23 +25,14 @@ struct OptionDescription
 {
     ValueEnum number = DataModelIds::kNoValue;
     CXString name;
+    std::optional<std::pair<Dimension, Dimension>> size; ///< Of a medium: width and height.
 };
 
 struct ConditionDescription
 {
     FeatureEnum feature = DataModelIds::kNoFeature;
-    Comparison comparison = DataModelIds::kEqual;
-    std::vector<FeatureValue> values;
-    bool holdsWithoutValue = false;
-};
-
-enum class EffectKind
-{
-    Disable,
-    Clear, ///< Disabled and shown as having no value.
-    Hide,
-    Info,
-    Conflict,
+    ValueTest test;
+    bool holdsWithoutValue = false; ///< Also where the test itself does not.
 };
 
 struct ConstraintDescription
@@ -48,9 +40,17 @@ struct ConstraintDescription
     std::string id;
     std::vector<ConditionDescription> when; ///< All must hold; the first is the cause.
     FeatureEnum target = DataModelIds::kNoFeature;
-    std::vector<FeatureValue> values; ///< The values affected; empty for the whole feature.
+    ValueTest affected; ///< The values affected; no values in it: the whole feature.
     EffectKind kind = EffectKind::Disable;
     unsigned reason = 0;
+    unsigned line = 0;
+};
+
+/// A default that counts while its conditions hold.
+struct AdaptingDefault
+{
+    std::vector<ConditionDescription> when;
+    FeatureValue value;
     unsigned line = 0;
 };
 
@@ -67,6 +67,7 @@ struct FeatureDescription
     std::optional<std::pair<Dimension, Dimension>> limits;
     std::size_t maxLength = 4096; ///< In UTF-16 units.
     FeatureValue defaultValue;    ///< monostate: starts unspecified.
+    std::vector<AdaptingDefault> defaults; ///< Before that one; the first that holds counts.
     CapabilityFlags flags;
     bool userDefinedValues = false;
     bool savedInTicket = true;
@@ -74,6 +75,7 @@ struct FeatureDescription
     std::shared_ptr<const ListDescription> list;    ///< ListOfFeatures: its members.
     std::shared_ptr<const FeatureDescription> item; ///< ListOfValues: what its items are.
     std::size_t maxItems = 1000;
+    unsigned line = 0;
 
     bool IsPrivate() const;
     /// Whether the feature is a setting of the job that can be kept outside the process.

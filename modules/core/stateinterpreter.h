@@ -6,8 +6,12 @@
 
 #include <memory>
 #include <unordered_map>
+#include <vector>
 
 namespace o7 {
+
+/// The active constraints on a feature in the order in which they are told.
+std::vector<const Constraint*> ActiveInOrder(const FeatureNode& feature);
 
 /// Puts the active constraints of a feature into words: states, messages and capability snapshots.
 /// Texts come from the string source, each once.
@@ -28,6 +32,8 @@ public:
 private:
     void AddValueEffect(const FeatureNode& feature, const Constraint& constraint,
                         InterpretedState& state);
+    InterpretedState OptionState(const std::vector<const Constraint*>& active,
+                                 const ValueId& option);
     InterpretedState UnspecifiedState(const FeatureNode& feature, const InterpretedState& state);
     std::unique_ptr<CapabilitiesNode> OptionCapabilities(const FeatureNode& feature,
                                                          const CapabilitiesNode& base);

@@ -7,6 +7,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <map>
 #include <regex>
 #include <set>
@@ -132,16 +133,25 @@ TEST_F(OfficeC430, HasEveryTextItNeedsAndNoReasonWithoutUse)
         EXPECT_TRUE(strings.count(number)) << "missing: " << number;
     for (const unsigned number : {1357U, 1358U, 11014U, 11015U, 35000U, 35001U, 35002U})
         EXPECT_TRUE(strings.count(number)) << "missing: " << number;
-    for (auto at = strings.lower_bound(60000); at != strings.end(); ++at)
+    for (auto at = strings.lower_bound(60000); at != strings.lower_bound(60600); ++at)
         EXPECT_TRUE(neededSet.count(at->first)) << "never used: " << at->first;
+}
+
+/// The names of settings that some product has; what this one needs is looked at by itself.
+bool isSharedName(unsigned number)
+{
+    return (number > 20000 && number < 30000) || (number > 45000 && number < 61000);
 }
 
 TEST_F(OfficeC430, SaysTheSameInEveryLanguage)
 {
     const StringTable english = o7::officeC430Strings("en");
+    const auto needed = m_package->GetStringNumbers();
     for (const char* language : o7::kLanguages) {
         const StringTable other = o7::officeC430Strings(language);
         for (const auto& [number, text] : english) {
+            if (isSharedName(number) && !std::ranges::binary_search(needed, number))
+                continue;
             SCOPED_TRACE(std::string(language) + " " + std::to_string(number));
             const auto found = other.find(number);
             ASSERT_NE(found, other.end());
