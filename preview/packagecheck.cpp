@@ -14,6 +14,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// Features below are the driver's own; the private ones of them have no names.
+constexpr int kFirstNamedFeature = 3000;
 constexpr unsigned kFirstReason = 60000;
 constexpr unsigned kPastReasons = 60632; // texts of the values from 20632 on
 constexpr UIMode kModes[] = {UIMode::PrintingPreferences, UIMode::DeviceSettings,
@@ -68,19 +70,23 @@ void collectFeatures(const IFeatureNode& list, std::set<int>& numbers)
 class PackageChecker
 {
 public:
-    PackageChecker(PackageReport& report, const BuiltTexts& built) : m_report(report), m_built(built)
+    PackageChecker(PackageReport& report, const BuiltTexts& built)
+        : m_report(report), m_built(built)
     {
     }
 
     void run()
     {
-        m_package = LoadProductPackage(m_report.file, m_report.mistakes);
+        m_package = InspectProductPackage(m_report.file, m_report.mistakes);
+        readAllTexts();
         if (m_package) {
-            checkRules();
+            collectFeatures();
             checkPages();
+        }
+        if (isSound()) {
+            checkRules();
             checkPapers();
         }
-        readAllTexts();
         for (const auto& [language, texts] : m_texts) {
             checkTexts(language, texts);
         }
@@ -103,36 +109,70 @@ private:
         errors.erase(same.begin(), same.end());
     }
 
+    /// Whether the package can be more than listed.
+    bool isSound() const { return m_package && m_package->GetProductInfo().validated; }
+
+    DataModelIds::tagValueEnum family() const
+    {
+        return static_cast<DataModelIds::tagValueEnum>(
+            m_package->GetProductInfo().controllerFamily);
+    }
+
+    void collectFeatures()
+    {
+        // Each feature has a name, but for those that only the pages themselves know.
+        for (const unsigned number : m_package->GetStringNumbers()) {
+            if (number >= kFeatureStringBase && number < kValueStringBase) {
+                m_features.insert(static_cast<int>(number - kFeatureStringBase));
+            }
+        }
+        if (isSound()) {
+            NoTexts texts;
+            const auto model = CreateDataModel(*m_package, texts);
+            o7::collectFeatures(*model->GetFullListOfFeatures().GetNode(), m_features);
+        }
+    }
+
     void checkRules()
     {
         for (const PackageFinding& finding : AnalyseProductPackage(*m_package)) {
-            m_report.mistakes.push_back({m_report.file, finding.line,
-                                         std::string(NameOf(finding.kind)) + ": " + finding.message});
+            m_report.mistakes.push_back(
+                {m_report.file, finding.line,
+                 std::string(NameOf(finding.kind)) + ": " + finding.message});
         }
     }
 
     void checkPages()
     {
-        NoTexts texts;
-        const auto model = CreateDataModel(*m_package, texts);
-        std::set<int> features;
-        collectFeatures(*model->GetFullListOfFeatures().GetNode(), features);
-        const int family = m_package->GetProductInfo().controllerFamily;
         for (const UIMode mode : kModes) {
-            const UIData data(mode, static_cast<DataModelIds::tagValueEnum>(family),
-                              Workflow::Standard);
+            const UIData data(mode, family(), Workflow::Standard);
             const PageCheck pages(data);
             std::ranges::copy(pages.textNumbers(), std::inserter(m_pageTexts, m_pageTexts.end()));
             pages.forEachFeature([&](DataModelIds::tagFeatureEnum feature, unsigned page) {
-                if (!features.contains(feature)) {
+                if (!m_features.contains(feature) && (isSound() || feature >= kFirstNamedFeature)) {
                     m_report.mistakes.push_back(
                         {m_report.file, 0,
-                         "the pages of family " + std::to_string(family) + " show feature " +
-                             std::to_string(feature) + " (page " + std::to_string(page) +
+                         "the page " + quoted(page) + " of family " + std::to_string(family()) +
+                             " shows feature " + std::to_string(feature) + " (" +
+                             quoted(kFeatureStringBase + static_cast<unsigned>(feature)) +
                              "), which the package does not have"});
                 }
             });
         }
+    }
+
+    /// A text in the package's first language.
+    std::string quoted(unsigned number) const
+    {
+        const auto found =
+            m_texts.empty() ? PackageTexts::const_iterator() : m_texts.front().second.find(number);
+        std::string text = "\"";
+        if (m_texts.empty() || found == m_texts.front().second.end()) {
+            text.append("#").append(std::to_string(number));
+        } else {
+            text.append(found->second.text);
+        }
+        return text.append("\"");
     }
 
     void checkPapers()
@@ -179,8 +219,7 @@ private:
         for (const std::string& language : languages()) {
             std::error_code none;
             if (fs::is_directory(folder() / "strings", none)) {
-                m_texts.emplace_back(language,
-                                     readTextScript(script(language), m_report.mistakes));
+                m_texts.emplace_back(language, readTextScript(script(language), m_report.mistakes));
             } else if (auto texts = m_built ? m_built(folder(), language) : std::nullopt) {
                 m_texts.emplace_back(language, std::move(*texts));
             } else {
@@ -232,18 +271,15 @@ private:
     {
         for (const auto& [number, text] : texts) {
             if (text.file == script(language) && text.line != 0 && !needed.contains(number)) {
-                m_report.hints.push_back(
-                    {text.file, text.line, "nothing shows " + whatIs(number)});
+                m_report.hints.push_back({text.file, text.line, "nothing shows " + whatIs(number)});
             }
         }
     }
 
     void checkKeys(const PackageTexts& texts)
     {
-        const auto family =
-            static_cast<DataModelIds::tagValueEnum>(m_package->GetProductInfo().controllerFamily);
         for (const UIMode mode : kModes) {
-            const UIData data(mode, family, Workflow::Standard);
+            const UIData data(mode, family(), Workflow::Standard);
             PageCheck(data).checkMnemonics(texts, m_report.mistakes);
         }
     }
@@ -260,16 +296,19 @@ private:
             }
         }
         if (mnemonicOf(text.text).empty() != mnemonicOf(original.text).empty()) {
-            fail(mnemonicOf(text.text).empty() ? "has no key, unlike the text in \"" + language + "\""
-                                               : "has a key, unlike the text in \"" + language + "\"");
+            fail(mnemonicOf(text.text).empty()
+                     ? "has no key, unlike the text in \"" + language + "\""
+                     : "has a key, unlike the text in \"" + language + "\"");
         }
     }
 
     PackageReport& m_report;
     const BuiltTexts& m_built;
     std::unique_ptr<ProductPackage> m_package;
+    std::set<int> m_features;
     std::set<unsigned> m_pageTexts;
-    std::vector<std::pair<std::string, PackageTexts>> m_texts; ///< by language, the first is the model
+    std::vector<std::pair<std::string, PackageTexts>>
+        m_texts; ///< by language, the first is the model
 };
 
 } // namespace

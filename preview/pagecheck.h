@@ -20,8 +20,8 @@ public:
     std::vector<unsigned> textNumbers() const;
 
     /// Calls for each feature that the pages show or carry, with a page's title number.
-    void forEachFeature(
-        const std::function<void(DataModelIds::tagFeatureEnum feature, unsigned page)>& visit) const;
+    void forEachFeature(const std::function<void(DataModelIds::tagFeatureEnum feature,
+                                                 unsigned page)>& visit) const;
 
     /// Adds the keys that cannot be used, or that two controls of a page share.
     void checkMnemonics(const PackageTexts& texts, std::vector<PackageError>& mistakes) const;

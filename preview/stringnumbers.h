@@ -4,7 +4,8 @@
 
 namespace o7 {
 
-/// The header in which the texts of the pages have their numbers, as this program was built with it.
+/// The header in which the texts of the pages have their numbers, as this program was built with
+/// it.
 std::string_view stringNumberDefinitions();
 
 } // namespace o7

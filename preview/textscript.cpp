@@ -131,7 +131,8 @@ private:
         const auto number = named != names().end() ? named->second : numberIn(word);
         const auto text = quoted(row);
         if (!number) {
-            fail(script, line, "\"" + std::string(word) + "\" is neither a number nor a name of one");
+            fail(script, line,
+                 "\"" + std::string(word) + "\" is neither a number nor a name of one");
         } else if (!text) {
             fail(script, line, "expected one text in quotation marks, found " + std::string(row));
         } else if (const auto [known, isNew] = m_texts.try_emplace(*number); isNew) {
