@@ -8,7 +8,7 @@
 
 namespace o7 {
 
-inline constexpr const char* kLanguages[] = {"en", "de"};
+inline constexpr const char* kLanguages[] = {"en", "de", "fr", "es", "ja", "ar"};
 
 inline std::filesystem::path officeC430Folder()
 {
