@@ -30,17 +30,6 @@ std::optional<int> systemNumber(DocumentField field, const ValueId& value);
 /// Whether `number` is another way to say the value: small A4 for A4, the upper bin for tray 1.
 bool isOtherNumber(DocumentField field, const ValueId& value, int number);
 
-/// Lengths in tenths of a millimetre, upright: width is the smaller one.
-struct PaperSize
-{
-    int width = 0;
-    int height = 0;
-};
-
-/// The size of a paper that is known by its name, or whose name ends in its size
-/// ("label-100x150mm", "photo-4x6in").
-std::optional<PaperSize> paperSize(const CXString& valueName);
-
 struct DotsPerInch
 {
     int across = 0;

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <functional>
+#include <optional>
 
 #include "productfeatures.h"
 #include "systemnumbers.h"
@@ -146,7 +147,21 @@ PaperWish paperWish(const ListOfFeaturesRef& features, const PublicFields& field
     return PaperWish::None;
 }
 
-bool setCustomSize(const ListOfFeaturesRef& features, int width, int length)
+/// The size that the package states for a paper.
+std::optional<PaperSize> fixedSize(const ListOfFeaturesRef& features, const ValueId& paper)
+{
+    std::optional<PaperSize> size;
+    forEachOption(featureOf(features, DocumentField::PaperSize), [&](const OptionWithState&
+                                                                         option) {
+        if (option.GetValueId() == paper && option.GetMediaSize()) {
+            size = {tenths(option.GetMediaSize()->width), tenths(option.GetMediaSize()->height)};
+        }
+    });
+    return size;
+}
+
+/// Chooses a paper without a size of its own, with these lengths.
+bool setCustomSize(const ListOfFeaturesRef& features, const ValueId& paper, int width, int length)
 {
     const auto set = [&](DataModelIds::tagFeatureEnum id, int size) {
         return dimension(features, id)
@@ -154,7 +169,7 @@ bool setCustomSize(const ListOfFeaturesRef& features, int width, int length)
     };
     const PaperSize before = sizeOfPaper(features, kCustomPaper);
     if (set(kCustomWidth, width) && set(kCustomLength, length) &&
-        featureOf(features, DocumentField::PaperSize).SetValue(kCustomPaper)) {
+        featureOf(features, DocumentField::PaperSize).SetValue(paper)) {
         return true;
     }
     set(kCustomWidth, before.width);
@@ -162,25 +177,36 @@ bool setCustomSize(const ListOfFeaturesRef& features, int width, int length)
     return false;
 }
 
-/// A paper of that size, the one that has the number too before others; else the custom size.
+/// The paper that the number means, when it has that size or can have any.
+bool followNumberOfSize(const ListOfFeaturesRef& features, const PublicFields& fields)
+{
+    OptionFeatureRef papers = featureOf(features, DocumentField::PaperSize);
+    const auto meant = optionsWhere(papers, [&](const ValueId& paper) {
+        return fields.has(kPaperSizeField) &&
+               systemNumber(DocumentField::PaperSize, paper) == fields.paperSize;
+    });
+    return std::ranges::any_of(meant, [&](const ValueId& paper) {
+        const auto size = fixedSize(features, paper);
+        return size ? isSize(*size, fields.paperWidth, fields.paperLength) && papers.SetValue(paper)
+                    : setCustomSize(features, paper, fields.paperWidth, fields.paperLength);
+    });
+}
+
+/// The paper that the number means too, else any paper of that size, else the custom size.
 bool followLengths(const ListOfFeaturesRef& features, const PublicFields& fields)
 {
-    if (saysAlready(PaperWish::Lengths, features, fields)) {
+    if (followNumberOfSize(features, fields) || saysAlready(PaperWish::Lengths, features, fields)) {
         return true;
     }
     const OptionFeatureRef papers = featureOf(features, DocumentField::PaperSize);
-    auto fitting = optionsWhere(papers, [&](const ValueId& paper) {
-        return paper != kCustomPaper &&
-               isSize(sizeOfPaper(features, paper), fields.paperWidth, fields.paperLength);
-    });
-    std::stable_partition(fitting.begin(), fitting.end(), [&](const ValueId& paper) {
-        return fields.has(kPaperSizeField) &&
-               systemNumber(DocumentField::PaperSize, paper) == fields.paperSize;
+    const auto fitting = optionsWhere(papers, [&](const ValueId& paper) {
+        return isSize(fixedSize(features, paper).value_or(PaperSize{}), fields.paperWidth,
+                      fields.paperLength);
     });
     if (!fitting.empty()) {
         return setFirstOf(papers, fitting);
     }
-    return setCustomSize(features, fields.paperWidth, fields.paperLength) ||
+    return setCustomSize(features, kCustomPaper, fields.paperWidth, fields.paperLength) ||
            (fields.has(kPaperSizeField) &&
             followNumber(papers, DocumentField::PaperSize, fields.paperSize));
 }
@@ -216,7 +242,8 @@ void writePaper(const ListOfFeaturesRef& features, PublicFields& fields)
     const PaperSize size = sizeOfPaper(features, paper);
     // The field is a short; a roll may be longer.
     constexpr int kLongest = 32767;
-    if (size.width > 0 && size.height <= kLongest) {
+    const bool isUsers = paper.GetValueEnum() >= DataModelIds::kValueFirstUserText;
+    if (size.width > 0 && size.height <= kLongest && !isUsers) {
         fields.paperWidth = size.width;
         fields.paperLength = size.height;
         if (fields.paperSize >= kFirstOwnPaper) {
@@ -313,8 +340,8 @@ OptionFeatureRef featureOf(const ListOfFeaturesRef& features, DocumentField fiel
 
 PaperSize sizeOfPaper(const ListOfFeaturesRef& features, const ValueId& paper)
 {
-    if (paper != kCustomPaper) {
-        return paperSize(paper.GetValueName()).value_or(PaperSize{});
+    if (const auto size = fixedSize(features, paper)) {
+        return *size;
     }
     Dimension width;
     Dimension length;

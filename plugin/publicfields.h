@@ -36,8 +36,15 @@ struct FieldChoice
 };
 std::vector<FieldChoice> fieldChoices(const ListOfFeaturesRef& features, DocumentField field);
 
-/// The size of a paper of this product in tenths of a millimetre; that of the custom paper is what
-/// the custom lengths say. Zeros when nothing is known of it.
+/// Lengths in tenths of a millimetre.
+struct PaperSize
+{
+    int width = 0;
+    int height = 0;
+};
+
+/// The size of a paper of this product. For papers without one in the package (custom sizes, a
+/// roll) it is what the custom lengths say. Zeros when nothing is known of it.
 PaperSize sizeOfPaper(const ListOfFeaturesRef& features, const ValueId& paper);
 
 /// The smallest or the largest custom size; zeros for a product without custom sizes.

@@ -4,10 +4,8 @@
 #include <set>
 #include <utility>
 
-#include "documentvalues.h"
 #include "packageanalysis.h"
 #include "pagecheck.h"
-#include "productfeatures.h"
 
 namespace o7 {
 namespace {
@@ -85,7 +83,6 @@ public:
         }
         if (isSound()) {
             checkRules();
-            checkPapers();
         }
         for (const auto& [language, texts] : m_texts) {
             checkTexts(language, texts);
@@ -173,25 +170,6 @@ private:
             text.append(found->second.text);
         }
         return text.append("\"");
-    }
-
-    void checkPapers()
-    {
-        NoTexts texts;
-        const auto model = CreateDataModel(*m_package, texts);
-        const auto papers = model->GetFullListOfFeatures()
-                                .GetOptionFeature(FeatureId(kPaperSize))
-                                .GetOptionCapabilities();
-        for (std::size_t i = 0; i < papers->GetNumberOfValues(); ++i) {
-            const ValueId paper = papers->GetOptionWithState(i).GetValueId();
-            if (paper != kCustomPaper && !paperSize(paper.GetValueName())) {
-                m_report.hints.push_back(
-                    {m_report.file, 0,
-                     "the size of the paper \"" + paper.GetValueName().ToUtf8() +
-                         "\" is not known, so programs are told 0 by 0; let its name end in its "
-                         "size, such as -100x150mm"});
-            }
-        }
     }
 
     /// The languages that the package names or, when it did not load, those that have a script.

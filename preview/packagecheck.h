@@ -31,7 +31,7 @@ using BuiltTexts = std::function<std::optional<PackageTexts>(const std::filesyst
 ///  - in each language: texts that are missing or empty, differing placeholders and mnemonics, keys
 ///    that two controls of a page share;
 ///  - pages that show a feature which the package does not have;
-///  - (hints) texts of the product's own that nothing shows, papers whose size is not known.
+///  - (hints) texts of the product's own that nothing shows.
 /// @param package  the folder, or package.json in it. When the folder has `strings/<language>.rc`,
 ///                 the scripts are read, and mistakes are told by their lines.
 /// @param built    asked for the texts where there are no scripts; may be empty.

@@ -83,7 +83,7 @@ const FieldCase kFieldCases[] = {
     {"A3",         &PublicFields::paperSize,   kPaperSizeField,   kPaperSize,   5110, 8},
     {"letter",     &PublicFields::paperSize,   kPaperSizeField,   kPaperSize,   5113, 1},
     {"tray 2",     &PublicFields::source,      kSourceField,      kPaperTray,   5122, 258},
-    {"cassette",   &PublicFields::source,      kSourceField,      kPaperTray,   5313, 256 + 256 + 312},
+    {"large tray", &PublicFields::source,      kSourceField,      kPaperTray,   5313, 14},
     {"long edge",  &PublicFields::duplex,      kDuplexField,      kSides,       5141, 2},
     {"short edge", &PublicFields::duplex,      kDuplexField,      kSides,       5142, 3},
     {"mono",       &PublicFields::colour,      kColourField,      kColourMode,  5152, 1},

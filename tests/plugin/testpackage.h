@@ -11,8 +11,8 @@ inline constexpr char kTestPackage[] = R"({
               "controllerFamily": 8430, "languages": ["en"]},
   "features": [
     {"enum": 3002, "name": "odrv-paper-size", "kind": "option", "default": 5111, "options": [
-      {"enum": 5110, "name": "a3"}, {"enum": 5111, "name": "a4"},
-      {"enum": 5113, "name": "letter"}, {"enum": 5250, "name": "custom"}]},
+      {"enum": 5110, "name": "a3", "size": [297, 420]}, {"enum": 5111, "name": "a4", "size": [210, 297]},
+      {"enum": 5113, "name": "letter", "size": [215.9, 279.4]}, {"enum": 5250, "name": "custom"}]},
     {"enum": 3103, "name": "odrv-custom-width", "kind": "dimension", "unit": "mm",
       "default": 100, "range": {"min": 90, "max": 330}},
     {"enum": 3104, "name": "odrv-custom-length", "kind": "dimension", "unit": "mm",

@@ -97,7 +97,7 @@ TEST_F(FaultyPackage, IsToldEveryMistakeAtOnceWithFileAndLine)
     expectIn(all(report.hints), {"en.rc:9: nothing shows reason 60301"});
 }
 
-TEST_F(FaultyPackage, IsToldOfRulesThatCannotBeMeantAndOfPapersWithoutASize)
+TEST_F(FaultyPackage, IsToldOfRulesThatCannotBeMeant)
 {
     writePackage(kPaper, R"({ "id": "never-odd", "when": [{ "feature": 3002, "is": ["a4"] }],
   "effect": { "feature": 3002, "options": ["odd"], "kind": "disable" }, "reason": 60300 },
@@ -105,7 +105,6 @@ TEST_F(FaultyPackage, IsToldOfRulesThatCannotBeMeantAndOfPapersWithoutASize)
   "effect": { "feature": 3002, "options": ["odd"], "kind": "disable" }, "reason": 60300 })");
     const PackageReport report = checkPackage(m_folder);
     expectIn(all(report.mistakes), {"package.json", "unreachable option", "en.rc: cannot be read"});
-    expectIn(all(report.hints), {"the size of the paper \"odd\" is not known"});
 }
 
 TEST_F(FaultyPackage, IsToldOfKeysThatCannotBeUsed)
