@@ -9,6 +9,7 @@
 
 #include "console.h"
 #include "cxstring.h"
+#include "packagecheckrun.h"
 #include "previewoptions.h"
 #include "previewrun.h"
 
@@ -57,6 +58,11 @@ o7::ExitCode runPreview(const std::vector<std::wstring>& words)
     if (parsed.options.help) {
         o7::print(o7::previewUsage());
         return o7::ExitCode::Done;
+    }
+    if (!parsed.options.checkedPackage.empty()) {
+        const std::filesystem::path products(parsed.options.productsDirectory);
+        return o7::runPackageCheck(parsed.options,
+                                   products.empty() ? programFolder() / "products" : products);
     }
     const ComApartment apartment;
     return o7::PreviewRun(parsed.options, programFolder()).run();

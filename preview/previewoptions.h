@@ -28,6 +28,7 @@ struct PreviewOptions
     std::wstring snapshotFile;   ///< empty: no snapshot
     std::wstring userDirectory;  ///< empty: the person's application directory
     std::optional<int> family;   ///< another value of feature 285
+    std::wstring checkedPackage; ///< not empty: check this package instead of opening anything
     bool help = false;
 
     /// The mode to open: as given, else the one that the entry shows something in.

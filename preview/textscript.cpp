@@ -132,7 +132,7 @@ private:
         const auto text = quoted(row);
         if (!number) {
             fail(script, line,
-                 "\"" + std::string(word) + "\" is neither a number nor a name of one");
+                 std::string("\"").append(word).append("\" is neither a number nor a name of one"));
         } else if (!text) {
             fail(script, line, "expected one text in quotation marks, found " + std::string(row));
         } else if (const auto [known, isNew] = m_texts.try_emplace(*number); isNew) {
