@@ -1,7 +1,7 @@
 // The texts of the pages in every language: none missing, and no two controls of a page that
 // answer to the same key.
 
-#include "officec430.h"
+#include "products.h"
 #include "uidata.h"
 
 #include <gtest/gtest.h>
@@ -73,15 +73,14 @@ void checkPages(const StringTable& strings, const UIData& data, const std::strin
 TEST(PageTexts, AreThereAndHaveDistinctMnemonics)
 {
     for (const std::string language : o7::kLanguages) {
-        const StringTable strings = o7::officeC430Strings(language);
-        for (const int family : {8430, 8431, 8432, 8433, 8434}) {
+        for (const auto& product : o7::kProducts) {
+            const StringTable strings = o7::productStrings(product.name, language);
             for (const int mode : {1, 2, 3, 4}) {
                 const UIData data(static_cast<UIMode>(mode),
-                                  static_cast<DataModelIds::tagValueEnum>(family),
+                                  static_cast<DataModelIds::tagValueEnum>(product.family),
                                   Workflow::Standard);
                 checkPages(strings, data,
-                           language + ' ' + std::to_string(family) + " mode " +
-                               std::to_string(mode));
+                           language + ' ' + product.name + " mode " + std::to_string(mode));
             }
         }
     }
