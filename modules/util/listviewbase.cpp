@@ -10,8 +10,9 @@
 
 namespace {
 
-constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER | LVS_REPORT |
-                         LVS_SHOWSELALWAYS | LVS_OWNERDATA;
+constexpr DWORD kStyle =
+    WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER | LVS_REPORT | LVS_SHOWSELALWAYS | LVS_OWNERDATA;
+static_assert(kStyle == 0x50811009);
 constexpr DWORD kExtendedStyle = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER;
 
 /// In the order of the user's language, as its dictionaries have it.

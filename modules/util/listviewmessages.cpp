@@ -60,8 +60,8 @@ bool ListViewBase::notified(LPARAM notification, LRESULT& result)
         clicked(*reinterpret_cast<const NMITEMACTIVATE*>(notification), header.code == NM_DBLCLK);
         break;
     case LVN_KEYDOWN:
-        answer = notificationAs(
-            keyPressed(reinterpret_cast<const NMLVKEYDOWN*>(notification)->wVKey));
+        answer =
+            notificationAs(keyPressed(reinterpret_cast<const NMLVKEYDOWN*>(notification)->wVKey));
         break;
     case NM_RETURN:
         activate(static_cast<int>(send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED)));
@@ -230,9 +230,8 @@ void ListViewBase::toggleChecks(int index)
     if (std::find(ids.begin(), ids.end(), clicked) == ids.end()) {
         ids = {clicked};
     }
-    std::erase_if(ids, [&](int id) {
-        return m_rows.at(m_rows.indexOf(id))->isChecked == isChecked;
-    });
+    std::erase_if(ids,
+                  [&](int id) { return m_rows.at(m_rows.indexOf(id))->isChecked == isChecked; });
     {
         const Update update(*this);
         for (const int id : ids) {

@@ -46,7 +46,17 @@ UIListViewControl::~UIListViewControl()
 
 bool UIListViewControl::handleMessage(const _UIWindowsMessage& message)
 {
-    return processWindowsMessage(message.message, message.wParam, message.lParam, message.result);
+    LRESULT result = 0;
+    if (!processWindowsMessage(message.message, message.wParam, message.lParam, result)) {
+        return false;
+    }
+    if (message.kind == UIMessageKind::TabPage && message.message == WM_NOTIFY) {
+        // What a page answers to a notification counts as a yes; the answer itself stands here.
+        ::SetWindowLongPtrW(message.window, DWLP_MSGRESULT, result);
+        result = TRUE;
+    }
+    message.result = result;
+    return true;
 }
 
 void UIListViewControl::dump() const
@@ -72,7 +82,8 @@ void UIListViewControl::dump() const
         for (const CXString& text : row.texts) {
             line += quoted(text);
         }
-        const bool isSelected = std::find(selected.begin(), selected.end(), row.id) != selected.end();
+        const bool isSelected =
+            std::find(selected.begin(), selected.end(), row.id) != selected.end();
         line += isSelected ? L" selected" : L"";
         line += row.isChecked ? L" checked" : L"";
         line += row.isUnavailable ? L" unavailable" : L"";
@@ -234,8 +245,8 @@ int UIListViewControl::rowAt(POINT place) const
 
 int UIListViewControl::focusedIndex() const
 {
-    return static_cast<int>(::SendMessageW(getHwnd(), LVM_GETNEXTITEM, static_cast<WPARAM>(-1),
-                                           LVNI_FOCUSED));
+    return static_cast<int>(
+        ::SendMessageW(getHwnd(), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED));
 }
 
 /// Where a cell's text has room, in pixels of the client area.
