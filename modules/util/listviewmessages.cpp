@@ -61,7 +61,7 @@ bool ListViewBase::notified(LPARAM notification, LRESULT& result)
         break;
     case LVN_KEYDOWN:
         answer =
-            notificationAs(keyPressed(reinterpret_cast<const NMLVKEYDOWN*>(notification)->wVKey));
+            notificationAs(pressKey(reinterpret_cast<const NMLVKEYDOWN*>(notification)->wVKey));
         break;
     case NM_RETURN:
         activate(static_cast<int>(send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED)));
@@ -197,7 +197,7 @@ void ListViewBase::clicked(const NMITEMACTIVATE& click, bool isDouble)
     }
 }
 
-bool ListViewBase::keyPressed(UINT virtualKey)
+bool ListViewBase::pressKey(UINT virtualKey)
 {
     const int focused =
         static_cast<int>(send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED));

@@ -139,13 +139,14 @@ protected:
         const RECT row = rowOnScreen(index);
         o7::test::sendClick((row.left + row.right) / 2, (row.top + row.bottom) / 2);
     }
-    void clickTitle(int index) const
+    /// @param aside  keeps two clicks from making a double click
+    void clickTitle(int index, int aside = 0) const
     {
         RECT title{};
         ::SendMessageW(header(), HDM_GETITEMRECT, static_cast<WPARAM>(index),
                        reinterpret_cast<LPARAM>(&title));
         ::MapWindowPoints(header(), nullptr, reinterpret_cast<POINT*>(&title), 2);
-        o7::test::sendClick((title.left + title.right) / 2, (title.top + title.bottom) / 2);
+        o7::test::sendClick((title.left + title.right) / 2 + aside, (title.top + title.bottom) / 2);
     }
     int arrowOf(int index) const
     {
@@ -190,6 +191,7 @@ protected:
     {
         const RECT row = rowOnScreen(index);
         ::SetCursorPos(row.left + 20, (row.top + row.bottom) / 2);
+        o7::test::pumpUntilQuiet();
         return o7::test::pumpUntil([this] { return isTipShown(); }, 500);
     }
 
@@ -367,7 +369,7 @@ TEST_F(UIListView, AClickOnATitleSortsAndTurnsTheArrow)
     clickTitle(1);
     EXPECT_EQ("11 10 12", ids());
     EXPECT_EQ(HDF_SORTUP, arrowOf(1));
-    clickTitle(1);
+    clickTitle(1, 10);
     EXPECT_EQ("12 10 11", ids());
     EXPECT_EQ(HDF_SORTDOWN, arrowOf(1));
     clickTitle(0);
@@ -604,7 +606,7 @@ TEST_F(UIListView, IsHarmlessWithoutItsWindow)
     }
 }
 
-TEST_F(UIListView, TwoHundredCyclesLeaveNothingBehind)
+TEST_F(UIListView, FiftyCyclesLeaveNothingBehind)
 {
     const auto cycle = [this] {
         UIListViewControl list(m_page.page(), kId, m_page.services(), m_page.font(), {7, 7},
@@ -619,7 +621,7 @@ TEST_F(UIListView, TwoHundredCyclesLeaveNothingBehind)
         o7::test::pumpMessages();
     }
     const o7::test::ResourceGuard guard;
-    for (int i = 0; i < 200; ++i) {
+    for (int i = 0; i < 50; ++i) {
         cycle();
     }
 }

@@ -145,6 +145,11 @@ LRESULT UIListViewControl::subclassWindowProcedure(HWND window, UINT message, WP
         break;
     case WM_KEYDOWN:
         return keyDown(window, message, wParam, lParam);
+    case WM_CHAR:
+        if (wParam == L' ' && hasCheckBoxes()) {
+            return 0; // no text to search for
+        }
+        break;
     case WM_SIZE: {
         const LRESULT result = callSavedProcedure(window, message, wParam, lParam);
         fitColumns();
@@ -174,6 +179,11 @@ LRESULT UIListViewControl::subclassWindowProcedure(HWND window, UINT message, WP
 /// A key that moves the focus to another row shows that row's tip, as resting on it does.
 LRESULT UIListViewControl::keyDown(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (wParam == VK_SPACE && hasCheckBoxes()) {
+        // The window would also select this one row, and no other any more.
+        pressKey(VK_SPACE);
+        return 0;
+    }
     const int before = focusedIndex();
     const LRESULT result = callSavedProcedure(window, message, wParam, lParam);
     const int after = focusedIndex();
