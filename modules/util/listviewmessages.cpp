@@ -15,6 +15,16 @@ LRESULT notificationAs(bool taken) noexcept
     return taken ? TRUE : FALSE;
 }
 
+/// Wine buffers a picture without regard to the window's layout, so that mirrored lists come out in
+/// mirror writing; on Windows the buffer has that layout already.
+void mirrorAsWindow(HDC dc, HWND window) noexcept
+{
+    const bool isMirrored = (::GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
+    if (isMirrored && (::GetLayout(dc) & LAYOUT_RTL) == 0) {
+        ::SetLayout(dc, LAYOUT_RTL);
+    }
+}
+
 } // namespace
 
 bool ListViewBase::processWindowsMessage(const UINT message, const WPARAM wParam,
@@ -123,6 +133,7 @@ LRESULT ListViewBase::findRow(const NMLVFINDITEMW& wanted) const
 LRESULT ListViewBase::customDraw(NMLVCUSTOMDRAW& drawing) const
 {
     if (drawing.nmcd.dwDrawStage == CDDS_PREPAINT) {
+        mirrorAsWindow(drawing.nmcd.hdc, m_window);
         const bool wantsText = m_rows.count() == 0 && !m_emptyText.IsEmpty();
         return wantsText ? CDRF_NOTIFYPOSTPAINT : CDRF_NOTIFYITEMDRAW;
     }
@@ -136,7 +147,6 @@ LRESULT ListViewBase::customDraw(NMLVCUSTOMDRAW& drawing) const
             // Grey is readable on the window's ground, not on that of the selection.
             drawing.nmcd.uItemState &= ~UINT{CDIS_SELECTED};
             drawing.clrText = ::GetSysColor(COLOR_GRAYTEXT);
-            drawing.clrTextBk = ::GetSysColor(COLOR_WINDOW);
         }
     }
     return CDRF_DODEFAULT;

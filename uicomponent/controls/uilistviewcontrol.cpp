@@ -155,6 +155,12 @@ LRESULT UIListViewControl::subclassWindowProcedure(HWND window, UINT message, WP
         fitColumns();
         return result;
     }
+    case WM_ENABLE:
+    case WM_SYSCOLORCHANGE: {
+        const LRESULT result = callSavedProcedure(window, message, wParam, lParam);
+        showGround();
+        return result;
+    }
     case WM_MOUSEMOVE:
         mouseMoved({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
         break;
@@ -174,6 +180,17 @@ LRESULT UIListViewControl::subclassWindowProcedure(HWND window, UINT message, WP
         break;
     }
     return callSavedProcedure(window, message, wParam, lParam);
+}
+
+/// A disabled list has the ground of its page, as other disabled fields do.
+void UIListViewControl::showGround() const
+{
+    const int colour = ::IsWindowEnabled(getHwnd()) != FALSE ? COLOR_WINDOW : COLOR_BTNFACE;
+    const auto ground = static_cast<LPARAM>(::GetSysColor(colour));
+    for (const UINT message : {LVM_SETBKCOLOR, LVM_SETTEXTBKCOLOR}) {
+        ::SendMessageW(getHwnd(), message, 0, ground);
+    }
+    ::InvalidateRect(getHwnd(), nullptr, TRUE);
 }
 
 /// A key that moves the focus to another row shows that row's tip, as resting on it does.
