@@ -142,7 +142,8 @@ protected:
     void detachListView() noexcept { m_window = nullptr; }
     bool hasCheckBoxes() const noexcept { return m_hasCheckBoxes; }
     /// What a key does, as far as it is not the window's own doing: Space turns the check mark of
-    /// the row with the focus. Then the observer is told. True when the key is used up.
+    /// the row with the focus, Ctrl+A selects all rows. Then the observer is told. True when the
+    /// key is used up.
     bool pressKey(std::uint32_t virtualKey);
 
 private:
@@ -157,6 +158,7 @@ private:
     std::intptr_t send(std::uint32_t message, std::uintptr_t wParam = 0,
                        std::intptr_t lParam = 0) const;
     HWND__* headerWindow() const;
+    bool isForOneRow() const;
     void showChange();
     void showCount();
     void repaintRows();

@@ -15,14 +15,21 @@ LRESULT notificationAs(bool taken) noexcept
     return taken ? TRUE : FALSE;
 }
 
-/// Wine buffers a picture without regard to the window's layout, so that mirrored lists come out in
-/// mirror writing; on Windows the buffer has that layout already.
+/// Wine draws into a buffer that has not the window's layout, so that mirrored lists come out in
+/// mirror writing. On Windows the buffer has it already, and nothing is done here.
 void mirrorAsWindow(HDC dc, HWND window) noexcept
 {
     const bool isMirrored = (::GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
-    if (isMirrored && (::GetLayout(dc) & LAYOUT_RTL) == 0) {
-        ::SetLayout(dc, LAYOUT_RTL);
+    if (!isMirrored || (::GetLayout(dc) & LAYOUT_RTL) != 0) {
+        return;
     }
+    // The clipping and the erased ground are where the area would be without mirroring.
+    RECT area{};
+    ::GetClipBox(dc, &area);
+    ::SetLayout(dc, LAYOUT_RTL);
+    ::SelectClipRgn(dc, nullptr);
+    ::SetDCBrushColor(dc, static_cast<COLORREF>(::SendMessageW(window, LVM_GETBKCOLOR, 0, 0)));
+    ::FillRect(dc, &area, static_cast<HBRUSH>(::GetStockObject(DC_BRUSH)));
 }
 
 } // namespace
@@ -212,11 +219,15 @@ bool ListViewBase::pressKey(UINT virtualKey)
     const int focused =
         static_cast<int>(send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED));
     const bool toggles = virtualKey == VK_SPACE && m_hasCheckBoxes && focused >= 0;
+    const bool selectsAll = virtualKey == L'A' && ::GetKeyState(VK_CONTROL) < 0 &&
+                            ::GetKeyState(VK_MENU) >= 0 && !isForOneRow();
     if (toggles) {
         toggleChecks(focused);
+    } else if (selectsAll) {
+        setRowState(-1, LVIS_SELECTED, LVIS_SELECTED);
     }
     const bool isTaken = m_observer != nullptr && m_observer->listKeyPressed(virtualKey);
-    return toggles || isTaken;
+    return toggles || selectsAll || isTaken;
 }
 
 void ListViewBase::activate(int index)

@@ -174,6 +174,8 @@ LRESULT UIListViewControl::subclassWindowProcedure(HWND window, UINT message, WP
     case WM_VSCROLL:
     case WM_HSCROLL:
     case WM_KILLFOCUS:
+    case LVM_SETITEMCOUNT: // the row may stand elsewhere now, or say something else
+    case LVM_REDRAWITEMS:
         hideTip();
         break;
     default:
