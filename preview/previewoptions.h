@@ -11,7 +11,7 @@ namespace o7 {
 enum class PreviewEntry
 {
     Sheet,  ///< the module shows a property sheet of its own
-    Cpsui,  ///< the pages go to the print system's common property sheet
+    Cpsui,  ///< the driver's plug-in adds the pages to the print system's common property sheet
     Dialog, ///< one modal dialog, no pages
     Child,  ///< the pages go to a property sheet that the preview has opened
 };

@@ -146,10 +146,10 @@ TEST_F(DriverEntries, AnswerCapabilitiesTwiceTheSame)
     ASSERT_GE(count, 8U);
     std::vector<WORD> papers(count);
     EXPECT_EQ(ask(DC_PAPERS, papers.data()), count);
-    EXPECT_EQ(papers.front(), DMPAPER_A3);
+    EXPECT_EQ(papers.front(), DMPAPER_A4);
     std::vector<wchar_t> names(std::size_t{64} * count, L'x');
     EXPECT_EQ(ask(DC_PAPERNAMES, names.data()), count);
-    EXPECT_STREQ(names.data() + 64, L"A4 (210 × 297 mm)");
+    EXPECT_STREQ(names.data(), L"A4 (210 × 297 mm)");
     EXPECT_EQ(ask(DC_EXTRA, nullptr) + ask(DC_SIZE, nullptr), kDevModeSize);
     // The fields of the settings at hand, not of the defaults.
     m_header.pdmOut = &devMode();
