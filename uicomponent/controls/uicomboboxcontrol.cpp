@@ -88,6 +88,12 @@ bool UIComboBoxControl::isOpen() const
     return send(CB_GETDROPPEDSTATE) != FALSE;
 }
 
+int UIComboBoxControl::entriesPerPage() const
+{
+    // A list that was never open has no height yet.
+    return isOpen() ? UIEntryListControl::entriesPerPage() : m_minVisible;
+}
+
 void UIComboBoxControl::notifySelected()
 {
     constexpr int kNotifications[] = {CBN_SELENDOK, CBN_SELCHANGE};

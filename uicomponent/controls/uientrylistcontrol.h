@@ -96,6 +96,8 @@ protected:
     virtual HWND entryWindow() const = 0;
     /// True while the entries can be seen.
     virtual bool isOpen() const = 0;
+    /// How many entries a page is, for Page Up and Page Down.
+    virtual int entriesPerPage() const;
     /// Tells the parent that input has changed the selection, as the window itself would.
     virtual void notifySelected() = 0;
 
@@ -122,7 +124,6 @@ private:
     bool findTyped(wchar_t character);
     int findAvailable(const CXString& beginning, int start) const;
     void select(int index);
-    int entriesPerPage() const;
     int entryAt(HWND list, LPARAM position) const;
     void pointAt(HWND list, LPARAM position, bool isOverGrey, int index);
     void showReason(int index);
