@@ -105,8 +105,14 @@ struct Row
 };
 
 const Row kRows[] = {
-    {"place", nullptr, [](UIControl& c) { c.setLocation({30, 40}); }},
-    {"size", nullptr, [](UIControl& c) { c.setSize({60, 40}); }},
+    {"place", nullptr,
+     [](UIControl& c) {
+         c.setLocation({30, 40});
+     }},
+    {"size", nullptr,
+     [](UIControl& c) {
+         c.setSize({60, 40});
+     }},
     {"greyed", nullptr, [](UIControl& c) { c.setEnable(false); }},
     {"text", makeText, on<UITextControl>([](auto& c) { c.setText(L"text"); })},
     {"bold", makeText, on<UITextControl>([](auto& c) { c.boldText(true); })},

@@ -39,12 +39,11 @@ public:
     {
         if (kind == Kind::ListBox) {
             list = std::make_unique<UIListBoxControl>(m_page.page(), kId, m_page.services(),
-                                                      m_page.font(), POINT{10, 10}, SIZE{60, 90},
-                                                      0, true);
+                                                      m_page.font(), POINT{10, 10}, SIZE{60, 90}, 0,
+                                                      true);
         } else {
-            list =
-                std::make_unique<UIComboBoxControl>(m_page.page(), kId, m_page.services(),
-                                                    m_page.font(), POINT{10, 10}, SIZE{60, 14});
+            list = std::make_unique<UIComboBoxControl>(m_page.page(), kId, m_page.services(),
+                                                       m_page.font(), POINT{10, 10}, SIZE{60, 14});
         }
         m_page.onMessage = [this](const _UIWindowsMessage& message) {
             if (list) {

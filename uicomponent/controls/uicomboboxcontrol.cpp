@@ -108,8 +108,7 @@ LRESULT UIComboBoxControl::subclassWindowProcedure(HWND window, UINT message, WP
 {
     // The list asks for its colours before it is seen for the first time.
     if (message == WM_CTLCOLORLISTBOX && m_droppedList == nullptr) {
-        m_droppedList =
-            std::make_unique<o7::DroppedList>(*this, reinterpret_cast<HWND>(lParam));
+        m_droppedList = std::make_unique<o7::DroppedList>(*this, reinterpret_cast<HWND>(lParam));
     }
     return UIEntryListControl::subclassWindowProcedure(window, message, wParam, lParam);
 }

@@ -65,9 +65,9 @@ void UIControl::setShow(bool show)
 void UIControl::move(POINT delta, bool inPixels)
 {
     const RECT distance = toPixels({0, 0, std::abs(delta.x), std::abs(delta.y)}, inPixels);
-    placeWindow({m_x + withSignOf(delta.x, distance.right),
-                 m_y + withSignOf(delta.y, distance.bottom)},
-                {m_width, m_height});
+    placeWindow(
+        {m_x + withSignOf(delta.x, distance.right), m_y + withSignOf(delta.y, distance.bottom)},
+        {m_width, m_height});
 }
 
 void UIControl::setLocation(POINT location, bool inPixels)

@@ -34,9 +34,9 @@ struct EntryListMessages
 /// hand it to handleMessage or draw.
 ///
 /// A grey entry cannot be reached by input: arrow keys, Page, Home, End, the wheel and typing the
-/// beginning of a text pass over it, and the mouse neither highlights nor takes it. Under the mouse,
-/// or when a key has passed over it in an open list, it tells its reason as a tip. From code, and by
-/// the data model, a grey entry can be the selected one.
+/// beginning of a text pass over it, and the mouse neither highlights nor takes it. Under the
+/// mouse, or when a key has passed over it in an open list, it tells its reason as a tip. From
+/// code, and by the data model, a grey entry can be the selected one.
 ///
 /// For lists of which one entry at a time is selected. Selecting from code is silent; input sends
 /// the notifications that Windows sends.
