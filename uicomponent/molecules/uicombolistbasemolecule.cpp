@@ -136,6 +136,18 @@ CXString UIComboListBaseMolecule::ShownText() const
     return m_shownIndex < 0 ? CXString() : m_entries[static_cast<std::size_t>(m_shownIndex)].text;
 }
 
+void UIComboListBaseMolecule::ShowChoice()
+{
+    if (List())
+        List()->setSelection(m_shownIndex);
+}
+
+CXString UIComboListBaseMolecule::ReasonOf(int index) const
+{
+    const auto entry = static_cast<std::size_t>(index);
+    return index >= 0 && entry < m_entries.size() ? m_entries[entry].reason : CXString();
+}
+
 void UIComboListBaseMolecule::DumpOptions() const
 {
     const UIDump::Level inner;

@@ -33,8 +33,12 @@ protected:
 
     /// The user chose an entry: writes it in a transaction and shows what was read back.
     void ChooseEntry(int index);
+    /// Selects what was chosen last once more, after the user has left the list without a choice.
+    void ShowChoice();
     /// The text of the option now shown; empty when cleared or without a value.
     CXString ShownText() const;
+    /// Why the entry cannot be taken; empty when it can.
+    CXString ReasonOf(int index) const;
     /// One line per option: text and, when it cannot be taken, why.
     void DumpOptions() const;
 
