@@ -130,9 +130,12 @@ bool UIComboBoxMolecule::HandleNotification(int notification)
         m_choiceCancelled = true;
         return true;
     case CBN_CLOSEUP:
-        // The mouse moves the highlight of an open list, and it may stay where it was left.
+        // The mouse moves the selection of an open list without a word. Not every system tells when
+        // Enter then takes it, or puts it back when Escape does not.
         if (std::exchange(m_choiceCancelled, false))
             ShowChoice();
+        else
+            ChooseEntry(m_combo->getSelection(true));
         return true;
     default:
         return false;

@@ -117,7 +117,8 @@ void UIComboListBaseMolecule::ShowState(const InterpretedState& state, bool enab
 
 void UIComboListBaseMolecule::ChooseEntry(int index)
 {
-    if (!List() || index < 0 || index >= static_cast<int>(m_entries.size()))
+    if (!List() || index < 0 || index >= static_cast<int>(m_entries.size()) ||
+        index == m_shownIndex)
         return;
     m_shownIndex = index; // what the list shows by now
     const auto value = static_cast<DataModelIds::tagValueEnum>(

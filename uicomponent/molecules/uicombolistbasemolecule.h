@@ -31,7 +31,8 @@ protected:
     /// Runs the filling of the list; a subclass may make it cheaper.
     virtual void FillTogether(const std::function<void()>& fill) { fill(); }
 
-    /// The user chose an entry: writes it in a transaction and shows what was read back.
+    /// The user chose an entry: writes it in a transaction and shows what was read back. Nothing
+    /// happens when it is the one that is shown.
     void ChooseEntry(int index);
     /// Selects what was chosen last once more, after the user has left the list without a choice.
     void ShowChoice();
