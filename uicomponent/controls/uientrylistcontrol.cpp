@@ -402,7 +402,7 @@ void UIEntryListControl::hideReason()
 {
     if (m_reasonIndex >= 0) {
         m_reasonIndex = -1;
-        m_toolTips->hideBeside(m_reasonList);
+        m_toolTips->hidePlaced(m_reasonList);
     }
 }
 
