@@ -199,6 +199,7 @@ void UIToolTips::showPlaced(HWND window, const CXString& text,
 {
     hidePlaced(window);
     TTTOOLINFOW info = placedTool(window);
+    info.uFlags |= isRightToLeft(m_owner) ? UINT{TTF_RTLREADING} : 0U; // a dropped list is not
     info.lpszText = const_cast<wchar_t*>(text.c_str());
     if (text.IsEmpty() || send(getHwnd(), TTM_ADDTOOLW, 0, info) == FALSE) {
         return;
