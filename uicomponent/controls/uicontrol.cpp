@@ -1,5 +1,6 @@
 #include "uicontrol.h"
 
+#include "accessibility.h"
 #include "dialogconversion.h"
 #include "isolationaware.h"
 #include "uidump.h"
@@ -84,6 +85,35 @@ void UIControl::setSize(SIZE size, bool inPixels)
     m_width = place.right;
     m_height = place.bottom;
     placeWindow();
+}
+
+void UIControl::setAccessibleName(const CXString& name)
+{
+    if (m_window) {
+        accessibility().setName(name);
+    }
+}
+
+void UIControl::setAccessibleRole(LONG role, LONG state)
+{
+    if (m_window) {
+        accessibility().setRole(role, state);
+    }
+}
+
+void UIControl::onAccessibilityMessage(UINT message) noexcept
+{
+    if (m_accessibility) {
+        m_accessibility->handleMessage(message);
+    }
+}
+
+o7::Accessibility& UIControl::accessibility()
+{
+    if (!m_accessibility) {
+        m_accessibility = std::make_unique<o7::Accessibility>(getHwnd());
+    }
+    return *m_accessibility;
 }
 
 void UIControl::createControlWindow(const wchar_t* className, DWORD style)

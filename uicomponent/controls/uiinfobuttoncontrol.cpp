@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "paintbuffer.h"
+#include "parentbackground.h"
 #include "uidump.h"
 #include "uitooltips.h"
 #include "uiwindowsmessage.h"
@@ -9,18 +11,6 @@
 namespace {
 
 constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW;
-
-/// Lets the parent paint what lies behind the button: the tab's texture, or its plain colour.
-void drawParentBackground(HWND window, HDC dc)
-{
-    const HWND parent = GetParent(window);
-    POINT corner{};
-    MapWindowPoints(window, parent, &corner, 1);
-    POINT former{};
-    OffsetWindowOrgEx(dc, corner.x, corner.y, &former);
-    SendMessageW(parent, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc), 0);
-    SetWindowOrgEx(dc, former.x, former.y, nullptr);
-}
 
 } // namespace
 
@@ -44,7 +34,7 @@ void UIInfoButtonControl::setMessage(std::uint32_t style, const CXString& text,
     m_title = title;
     if (style != m_style) {
         m_style = style;
-        InvalidateRect(getHwnd(), nullptr, TRUE);
+        InvalidateRect(getHwnd(), nullptr, FALSE);
     }
     if (text == m_text)
         return;
@@ -87,7 +77,8 @@ void UIInfoButtonControl::showMessage() const
 
 void UIInfoButtonControl::draw(const DRAWITEMSTRUCT& item) const
 {
-    drawParentBackground(getHwnd(), item.hDC);
+    const o7::PaintBuffer buffer(item.hDC, item.rcItem);
+    o7::drawParentBackground(getHwnd(), buffer.dc());
     const int side = static_cast<int>(std::min(item.rcItem.right - item.rcItem.left,
                                                item.rcItem.bottom - item.rcItem.top)) -
                      2;
@@ -97,9 +88,9 @@ void UIInfoButtonControl::draw(const DRAWITEMSTRUCT& item) const
                                       IMAGE_ICON, 0, 0, LR_SHARED | LR_DEFAULTSIZE));
     const int x = item.rcItem.left + (item.rcItem.right - item.rcItem.left - side) / 2;
     const int y = item.rcItem.top + (item.rcItem.bottom - item.rcItem.top - side) / 2;
-    DrawIconEx(item.hDC, x, y, icon, side, side, 0, nullptr, DI_NORMAL);
+    DrawIconEx(buffer.dc(), x, y, icon, side, side, 0, nullptr, DI_NORMAL);
     if (item.itemState & ODS_FOCUS)
-        DrawFocusRect(item.hDC, &item.rcItem);
+        DrawFocusRect(buffer.dc(), &item.rcItem);
 }
 
 void UIInfoButtonControl::dump() const
