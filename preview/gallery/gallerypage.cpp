@@ -18,7 +18,7 @@ namespace {
 
 // All in dialog units.
 constexpr LONG kMargin = 7;
-constexpr LONG kNameWidth = 56;
+constexpr LONG kNameWidth = 60;
 constexpr LONG kColumnPitch = 50;
 constexpr LONG kColumnWidth = 46;
 constexpr LONG kTextHeight = 8;
