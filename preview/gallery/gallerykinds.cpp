@@ -1,5 +1,7 @@
 #include "gallerykinds.h"
 
+#include <commctrl.h>
+
 #include <array>
 
 #include "cxstring.h"
@@ -10,12 +12,18 @@
 #include "uicheckboxcontrol.h"
 #include "uicomboboxcontrol.h"
 #include "uidrawingsurfacecontrol.h"
+#include "uieditcontrol.h"
 #include "uigroupboxcontrol.h"
 #include "uihyperlinktextcontrol.h"
 #include "uiimagecontrol.h"
 #include "uiinfobuttoncontrol.h"
+#include "uilistboxcontrol.h"
+#include "uilistviewcontrol.h"
+#include "uiradiobuttoncontrol.h"
 #include "uiresourceids.h"
 #include "uiservices.h"
+#include "uislidercontrol.h"
+#include "uispincontrol.h"
 #include "uitextcontrol.h"
 
 namespace o7 {
@@ -27,13 +35,20 @@ template <class... States> constexpr unsigned states(States... state)
 {
     return ((1U << static_cast<int>(state)) | ...);
 }
-constexpr unsigned kStill =
-    states(GalleryState::Normal, GalleryState::Disabled, GalleryState::RightToLeft);
-constexpr unsigned kLive =
-    kStill | states(GalleryState::Hot, GalleryState::Pressed, GalleryState::Focused);
+constexpr unsigned kHot = states(GalleryState::Hot);
+constexpr unsigned kPressed = states(GalleryState::Pressed);
+constexpr unsigned kFocused = states(GalleryState::Focused);
 constexpr unsigned kCleared = states(GalleryState::Cleared);
 constexpr unsigned kLabel = states(GalleryState::Truncated);
+constexpr unsigned kStill =
+    states(GalleryState::Normal, GalleryState::Disabled, GalleryState::RightToLeft);
+constexpr unsigned kLive = kStill | kHot | kPressed | kFocused;
+constexpr unsigned kField = kStill | kFocused | kCleared;
 constexpr unsigned kEntries = states(GalleryState::Unavailable, GalleryState::Truncated);
+
+constexpr wchar_t kReason[] = L"Needs the office finisher.";
+/// Of a list's entries the one that is made unavailable.
+constexpr int kUnavailableEntry = 1;
 
 /// The least that a drawing surface can be: a bar of the system's own colours.
 class ColourBar final : public UIDrawingSurfaceControl
@@ -48,8 +63,8 @@ public:
 
     void draw(HWND window, HDC dc) override
     {
-        constexpr std::array<int, 3> kEnabled{COLOR_HIGHLIGHT, COLOR_WINDOWTEXT, COLOR_INFOBK};
-        constexpr std::array<int, 3> kDisabled{COLOR_BTNSHADOW, COLOR_GRAYTEXT, COLOR_BTNFACE};
+        constexpr std::array<int, 3> kEnabled{COLOR_HIGHLIGHT, COLOR_WINDOWTEXT, COLOR_BTNSHADOW};
+        constexpr std::array<int, 3> kDisabled{COLOR_BTNSHADOW, COLOR_GRAYTEXT, COLOR_BTNSHADOW};
         const auto& colours = IsWindowEnabled(window) ? kEnabled : kDisabled;
         RECT bar{};
         GetClientRect(window, &bar);
@@ -100,6 +115,11 @@ template <bool threeState> std::unique_ptr<UIControl> makeCheckBox(const Gallery
     return make<UICheckBoxControl>(place, threeState);
 }
 
+std::unique_ptr<UIControl> makeRadioButton(const GalleryPlace& place)
+{
+    return make<UIRadioButtonControl>(place, place.groupStyle);
+}
+
 std::unique_ptr<UIControl> makeGroupBox(const GalleryPlace& place)
 {
     return make<UIGroupBoxControl>(place, CXString());
@@ -135,9 +155,49 @@ std::unique_ptr<UIControl> makeImage(const GalleryPlace& place)
     return make<UIImageControl>(place, DWORD{0}, true);
 }
 
+template <DWORD style> std::unique_ptr<UIControl> makeEdit(const GalleryPlace& place)
+{
+    return make<UIEditControl>(place, style, true, 100);
+}
+
+/// Says why its grey entry is grey.
+template <class List>
+std::unique_ptr<UIControl> withReasons(std::unique_ptr<UIControl> control,
+                                       const GalleryPlace& place)
+{
+    static_cast<List&>(*control).setUnavailableReasons(&place.toolTips,
+                                                       [](int) { return CXString(kReason); });
+    return control;
+}
+
 std::unique_ptr<UIControl> makeComboBox(const GalleryPlace& place)
 {
-    return make<UIComboBoxControl>(place);
+    return withReasons<UIComboBoxControl>(make<UIComboBoxControl>(place), place);
+}
+
+std::unique_ptr<UIControl> makeListBox(const GalleryPlace& place)
+{
+    return withReasons<UIListBoxControl>(
+        make<UIListBoxControl>(place, DWORD{LBS_NOINTEGRALHEIGHT}, true), place);
+}
+
+std::unique_ptr<UIControl> makeListView(const GalleryPlace& place)
+{
+    auto list = std::make_unique<UIListViewControl>(place.parent, place.id, place.services,
+                                                    place.font, place.location, place.size,
+                                                    DWORD{LVS_SINGLESEL}, place.toolTips);
+    list->setEnableTooltips(true);
+    return list;
+}
+
+std::unique_ptr<UIControl> makeSlider(const GalleryPlace& place)
+{
+    return make<UISliderControl>(place, DWORD{TBS_HORZ}, 0, 10);
+}
+
+std::unique_ptr<UIControl> makeSpin(const GalleryPlace& place)
+{
+    return make<UISpinControl>(place, DWORD{0}, true, 1, 99);
 }
 
 void fillWindowText(GallerySample& sample, const wchar_t* text)
@@ -150,21 +210,31 @@ void fillButton(GallerySample& sample, const wchar_t* text)
     as<UIButtonControl>(sample).setButtonDisplayName(text);
 }
 
+template <class Text> void fillText(GallerySample& sample, const wchar_t* text)
+{
+    as<Text>(sample).setText(text);
+}
+
 template <int state> void fillCheckBox(GallerySample& sample, const wchar_t* text)
 {
     fillWindowText(sample, text);
     as<UICheckBoxControl>(sample).setCheck(state);
 }
 
+void fillRadioButton(GallerySample& sample, const wchar_t* text)
+{
+    as<UIRadioButtonControl>(sample).setText(text);
+    as<UIRadioButtonControl>(sample).setCheck(BST_CHECKED);
+}
+
 template <std::uint32_t style> void fillMark(GallerySample& sample, const wchar_t* /*text*/)
 {
-    as<UIInfoButtonControl>(sample).setMessage(
-        style, L"Stapling needs the office finisher, which is not installed.", L"Staple");
+    as<UIInfoButtonControl>(sample).setMessage(style, kReason, L"Staple");
 }
 
 void fillBoldText(GallerySample& sample, const wchar_t* text)
 {
-    fillWindowText(sample, text);
+    fillText<UITextControl>(sample, text);
     as<UITextControl>(sample).boldText(true);
 }
 
@@ -191,6 +261,19 @@ template <class List> void fillList(GallerySample& sample, const wchar_t* text)
     list.setSelection(0);
 }
 
+void fillListView(GallerySample& sample, const wchar_t* text)
+{
+    auto& list = as<UIListViewControl>(sample);
+    list.setColumnsInDialogUnits({{.title = L"Finish"}});
+    list.setRows({{.id = 0, .texts = {text}}, {.id = kUnavailableEntry, .texts = {L"Staple"}}});
+    list.selectRow(0);
+}
+
+void fillSlider(GallerySample& sample, const wchar_t* /*text*/)
+{
+    as<UISliderControl>(sample).setPosition(5);
+}
+
 void clearWindowText(UIControl& control)
 {
     SetWindowTextW(control.getHwnd(), L"");
@@ -201,6 +284,11 @@ void clearCheckBox(UIControl& control)
     static_cast<UICheckBoxControl&>(control).setCheck(BST_UNCHECKED);
 }
 
+void clearRadioButton(UIControl& control)
+{
+    static_cast<UIRadioButtonControl&>(control).setCheck(BST_UNCHECKED);
+}
+
 void clearImage(UIControl& control)
 {
     constexpr int kNoPicture = 0;
@@ -208,9 +296,34 @@ void clearImage(UIControl& control)
                                                    kNoPicture);
 }
 
-template <class List> void clearList(UIControl& control)
+/// A closed list then shows nothing, and is what it was when it is enabled again.
+void clearComboBox(UIControl& control)
 {
-    static_cast<List&>(control).setSelection(-1);
+    static_cast<UIComboBoxControl&>(control).setSelection(-1);
+}
+
+void clearListBox(UIControl& control)
+{
+    static_cast<UIListBoxControl&>(control).removeAllItems();
+}
+
+void clearListView(UIControl& control)
+{
+    static_cast<UIListViewControl&>(control).removeAllRows();
+}
+
+template <class List> void showUnavailable(UIControl& control)
+{
+    auto& list = static_cast<List&>(control);
+    list.setItemUnavailable(true, kUnavailableEntry);
+    list.setSelection(kUnavailableEntry);
+}
+
+void showUnavailableRow(UIControl& control)
+{
+    auto& list = static_cast<UIListViewControl&>(control);
+    list.setRowUnavailable(kUnavailableEntry, true);
+    list.selectRow(kUnavailableEntry);
 }
 
 constexpr SIZE kButtonSize{46, 14};
@@ -221,42 +334,59 @@ constexpr SIZE kFrameSize{46, 24};
 
 // clang-format off
 constexpr GalleryKind kButtons[] = {
-    // name, text, size, states, how it is pressed, kind of its label, create, fill, clear
+    // name, text, size, states, how it is pressed, kind of its label,
+    // create, fill, clear, showUnavailable
     {L"Push button", L"Save & go", kButtonSize, kLive | kLabel, GalleryPress::ByMessage,
-     ControlType::Button, makeButton<false>, fillButton, nullptr},
+     ControlType::Button, makeButton<false>, fillButton, nullptr, nullptr},
     {L"Default button", L"Print", kButtonSize, kLive | kLabel, GalleryPress::ByMessage,
-     ControlType::Button, makeButton<true>, fillButton, nullptr},
+     ControlType::Button, makeButton<true>, fillButton, nullptr, nullptr},
     {L"Bitmap button", nullptr, {20, 16}, kLive, GalleryPress::ByMessage,
-     ControlType::Button, makeBitmapButton, fillNothing, nullptr},
+     ControlType::Button, makeBitmapButton, fillNothing, nullptr, nullptr},
     {L"Check box", L"&Collate", kLineSize, kLive | kCleared | kLabel, GalleryPress::ByMessage,
-     ControlType::Button, makeCheckBox<false>, fillCheckBox<BST_CHECKED>, clearCheckBox},
+     ControlType::Button, makeCheckBox<false>, fillCheckBox<BST_CHECKED>, clearCheckBox, nullptr},
     {L"Three states", L"&Rotate", kLineSize, kLive | kCleared | kLabel, GalleryPress::ByMessage,
-     ControlType::Button, makeCheckBox<true>, fillCheckBox<BST_INDETERMINATE>, clearCheckBox},
+     ControlType::Button, makeCheckBox<true>, fillCheckBox<BST_INDETERMINATE>, clearCheckBox,
+     nullptr},
+    {L"Radio button", L"&Duplex", kLineSize, kLive | kCleared | kLabel, GalleryPress::ByMessage,
+     ControlType::Button, makeRadioButton, fillRadioButton, clearRadioButton, nullptr},
     {L"Group box", L"&Paper", kFrameSize, kStill | kLabel, GalleryPress::ByMessage,
-     ControlType::Button, makeGroupBox, fillWindowText, nullptr},
+     ControlType::Button, makeGroupBox, fillWindowText, nullptr, nullptr},
     {L"Information", nullptr, kMarkSize, kLive, GalleryPress::ByMessage,
-     ControlType::Other, makeMark, fillMark<UIInfoButtonControl::kInformation>, nullptr},
+     ControlType::Other, makeMark, fillMark<UIInfoButtonControl::kInformation>, nullptr, nullptr},
     {L"Conflict", nullptr, kMarkSize, kLive, GalleryPress::ByMessage,
-     ControlType::Other, makeMark, fillMark<UIInfoButtonControl::kConflict>, nullptr},
+     ControlType::Other, makeMark, fillMark<UIInfoButtonControl::kConflict>, nullptr, nullptr},
 };
 
 constexpr GalleryKind kTexts[] = {
     {L"Text", L"&Output:", kTextSize, kStill | kCleared | kLabel, GalleryPress::ByMessage,
-     ControlType::StaticText, makeText, fillWindowText, clearWindowText},
+     ControlType::StaticText, makeText, fillText<UITextControl>, clearWindowText, nullptr},
     {L"Bold text", L"Summary", kTextSize, kStill | kCleared | kLabel, GalleryPress::ByMessage,
-     ControlType::StaticText, makeText, fillBoldText, clearWindowText},
-    {L"Link", L"Help", kTextSize,
-     kStill | kCleared | kLabel | states(GalleryState::Hot, GalleryState::Focused),
-     GalleryPress::ByMessage, ControlType::StaticText, makeLink, fillWindowText, clearWindowText},
-    {L"Drawing surface", nullptr, {46, 14}, kStill, GalleryPress::ByMessage,
-     ControlType::Other, makeDrawing, fillNothing, nullptr},
+     ControlType::StaticText, makeText, fillBoldText, clearWindowText, nullptr},
+    {L"Link", L"Help", kTextSize, kField | kLabel | kHot, GalleryPress::ByMessage,
+     ControlType::StaticText, makeLink, fillText<UIHyperlinkTextControl>, clearWindowText, nullptr},
+    {L"Edit", L"Invoice", kButtonSize, kField | kLabel, GalleryPress::ByMessage,
+     ControlType::Other, makeEdit<ES_AUTOHSCROLL>, fillText<UIEditControl>, clearWindowText, nullptr},
+    {L"Edit, lines", L"Invoice\r\nMay", kFrameSize, kField, GalleryPress::ByMessage,
+     ControlType::Other, makeEdit<ES_MULTILINE>, fillText<UIEditControl>, clearWindowText, nullptr},
+    {L"Drawing", nullptr, kButtonSize, kStill, GalleryPress::ByMessage,
+     ControlType::Other, makeDrawing, fillNothing, nullptr, nullptr},
     {L"Image", nullptr, kFrameSize, kStill | kCleared, GalleryPress::ByMessage,
-     ControlType::Other, makeImage, fillImage, clearImage},
+     ControlType::Other, makeImage, fillImage, clearImage, nullptr},
 };
 
 constexpr GalleryKind kLists[] = {
     {L"Combo box", L"Punch", kButtonSize, kLive | kCleared | kEntries, GalleryPress::AtMiddle,
-     ControlType::Other, makeComboBox, fillList<UIComboBoxControl>, clearList<UIComboBoxControl>},
+     ControlType::Other, makeComboBox, fillList<UIComboBoxControl>, clearComboBox,
+     showUnavailable<UIComboBoxControl>},
+    {L"List box", L"Punch", {46, 34}, kField | kEntries, GalleryPress::ByMessage,
+     ControlType::Other, makeListBox, fillList<UIListBoxControl>, clearListBox,
+     showUnavailable<UIListBoxControl>},
+    {L"List view", L"Punch", {46, 44}, kField | kEntries | kHot, GalleryPress::ByMessage,
+     ControlType::Other, makeListView, fillListView, clearListView, showUnavailableRow},
+    {L"Slider", nullptr, {46, 15}, kLive, GalleryPress::AtMiddle,
+     ControlType::Other, makeSlider, fillSlider, nullptr, nullptr},
+    {L"Spin", nullptr, {12, 14}, kStill | kHot | kPressed, GalleryPress::AtTop,
+     ControlType::Other, makeSpin, fillNothing, nullptr, nullptr},
 };
 // clang-format on
 

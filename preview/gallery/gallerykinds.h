@@ -42,6 +42,7 @@ struct GalleryPlace
     UIToolTips& toolTips;
     POINT location;
     SIZE size;
+    DWORD groupStyle; ///< WS_GROUP and WS_TABSTOP for the first of a group, otherwise 0
 };
 
 /// One control that is shown, with what belongs to whoever filled it.
@@ -75,6 +76,8 @@ struct GalleryKind
     void (*fill)(GallerySample&, const wchar_t* text);
     /// Takes its content away again; null for a control that is never cleared.
     void (*clear)(UIControl&);
+    /// Makes one of its entries unavailable and shows that one; null for a control without entries.
+    void (*showUnavailable)(UIControl&);
 
     bool has(GalleryState state) const { return (states >> static_cast<int>(state) & 1U) != 0; }
 };

@@ -3,13 +3,14 @@
 #include <uxtheme.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "cxstring.h"
 #include "dialogconversion.h"
 #include "gallerytemplate.h"
-#include "icombolistcontrol.h"
 #include "uidump.h"
 #include "uiguard.h"
+#include "uiradiobuttoncontrol.h"
 #include "uitextcontrol.h"
 #include "uiwindowsmessage.h"
 
@@ -26,8 +27,6 @@ constexpr LONG kRowGap = 7;
 
 constexpr wchar_t kNoSuchState[] = L"\u2013";
 constexpr wchar_t kLongText[] = L"Keep the order of pages";
-/// Of a list's entries the one that is made unavailable.
-constexpr int kUnavailableEntry = 1;
 
 LONG columnLeft(int column)
 {
@@ -76,7 +75,8 @@ GalleryPage::GalleryPage(HWND parent, const GallerySection& section, const Look&
 
 GalleryPage::~GalleryPage()
 {
-    m_cells.clear();
+    // Windows tell their parent that they go: nobody is to be asked any more by then.
+    std::exchange(m_cells, {}).clear();
     m_labels.clear();
     m_toolTips.reset();
     if (m_dialog) {
@@ -133,8 +133,7 @@ void GalleryPage::createContent()
     m_toolTips = std::make_unique<UIToolTips>(m_dialog);
     for (int column = 0; column < kGalleryStateCount; ++column) {
         createLabel(galleryStateName(static_cast<GalleryState>(column)),
-                    {columnLeft(column), kMargin}, {kColumnPitch, kTextHeight}, SS_LEFTNOWORDWRAP,
-                    true);
+                    {columnLeft(column), kMargin}, {kColumnPitch, kTextHeight}, 0, true);
     }
     LONG top = kMargin + kTextHeight + kRowGap;
     for (const GalleryKind& kind : m_section.kinds) {
@@ -147,15 +146,17 @@ void GalleryPage::createRow(const GalleryKind& kind, LONG top)
 {
     const LONG textTop =
         top + std::max<LONG>(0, (std::min<LONG>(kind.size.cy, 14) - kTextHeight) / 2);
-    createLabel(kind.name, {kMargin, textTop}, {kNameWidth - 4, kTextHeight}, SS_LEFTNOWORDWRAP,
-                false);
+    // Labels first: the cells of a row stand side by side for the arrow keys as well.
+    createLabel(kind.name, {kMargin, textTop}, {kNameWidth - 4, kTextHeight}, WS_GROUP, false);
     for (int column = 0; column < kGalleryStateCount; ++column) {
-        const auto state = static_cast<GalleryState>(column);
-        if (kind.has(state)) {
+        if (!kind.has(static_cast<GalleryState>(column))) {
+            createLabel(kNoSuchState, {columnLeft(column), textTop}, {kColumnWidth, kTextHeight}, 0,
+                        false);
+        }
+    }
+    for (int column = 0; column < kGalleryStateCount; ++column) {
+        if (const auto state = static_cast<GalleryState>(column); kind.has(state)) {
             createCell(kind, state, {columnLeft(column), top});
-        } else {
-            createLabel(kNoSuchState, {columnLeft(column), textTop}, {kColumnWidth, kTextHeight},
-                        SS_LEFT, false);
         }
     }
 }
@@ -165,12 +166,16 @@ void GalleryPage::createCell(const GalleryKind& kind, GalleryState state, POINT 
     HWND parent = m_dialog;
     if (state == GalleryState::RightToLeft) {
         // A small dialog of its own: layout is a matter of the parent.
-        parent = createDialog(m_dialog, location, kind.size, WS_VISIBLE, true);
+        parent = createDialog(m_dialog, location, kind.size, WS_VISIBLE | WS_GROUP, true);
         location = {0, 0};
     }
     m_cells.push_back({&kind, state, {}});
     GalleryCell& cell = m_cells.back();
-    cell.sample.control = kind.create(placeAt(parent, location, kind.size));
+    GalleryPlace place = placeAt(parent, location, kind.size);
+    if (state == GalleryState::Normal || parent != m_dialog) {
+        place.groupStyle = WS_GROUP | WS_TABSTOP;
+    }
+    cell.sample.control = kind.create(place);
     show(cell);
 }
 
@@ -204,12 +209,9 @@ void GalleryPage::show(GalleryCell& cell)
         cell.kind->clear(control);
         control.setEnable(false);
         break;
-    case GalleryState::Unavailable: {
-        auto& list = dynamic_cast<IComboListControl&>(control);
-        list.setItemUnavailable(true, kUnavailableEntry);
-        list.setSelection(kUnavailableEntry);
+    case GalleryState::Unavailable:
+        cell.kind->showUnavailable(control);
         break;
-    }
     case GalleryState::Truncated:
         m_toolTips->AddToolTipAndTruncatedLabel(cell.kind->tipType, control.getHwnd(), 0,
                                                 control.getDimensionInPixels(), text, m_font);
@@ -221,7 +223,8 @@ void GalleryPage::show(GalleryCell& cell)
 
 GalleryPlace GalleryPage::placeAt(HWND parent, POINT location, SIZE size)
 {
-    return {parent, m_nextId++, m_services, m_font, m_boldFont.get(), *m_toolTips, location, size};
+    return {parent,      m_nextId++, m_services, m_font, m_boldFont.get(),
+            *m_toolTips, location,   size,       0};
 }
 
 INT_PTR CALLBACK GalleryPage::procedure(HWND window, UINT message, WPARAM wParam,
@@ -244,6 +247,9 @@ INT_PTR GalleryPage::route(HWND window, UINT message, WPARAM wParam, LPARAM lPar
         m_dialog = nullptr;
     }
     const _UIWindowsMessage packed{UIMessageKind::Dialog, window, message, wParam, lParam, 0};
+    if (message == WM_COMMAND && HIWORD(wParam) == BN_CLICKED) {
+        checkOnly(reinterpret_cast<HWND>(lParam));
+    }
     if (!offer(packed)) {
         return FALSE;
     }
@@ -252,6 +258,21 @@ INT_PTR GalleryPage::route(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     }
     SetWindowLongPtrW(window, DWLP_MSGRESULT, packed.result);
     return TRUE;
+}
+
+/// Of the radio buttons in a row only the one that was clicked stays checked.
+void GalleryPage::checkOnly(HWND radio)
+{
+    const auto clicked = std::ranges::find(m_cells, radio, &GalleryCell::window);
+    if (clicked == m_cells.end()) {
+        return;
+    }
+    for (const GalleryCell& cell : m_cells) {
+        auto* button = dynamic_cast<UIRadioButtonControl*>(cell.sample.control.get());
+        if (button && cell.kind == clicked->kind && GetParent(cell.window()) == GetParent(radio)) {
+            button->setCheck(cell.window() == radio ? BST_CHECKED : BST_UNCHECKED);
+        }
+    }
 }
 
 bool GalleryPage::offer(const _UIWindowsMessage& message)

@@ -67,6 +67,7 @@ private:
     void createCell(const GalleryKind& kind, GalleryState state, POINT location);
     void createLabel(const wchar_t* text, POINT location, SIZE size, DWORD style, bool bold);
     void show(GalleryCell& cell);
+    void checkOnly(HWND radio);
     GalleryPlace placeAt(HWND parent, POINT location, SIZE size);
 
     const GallerySection& m_section;
