@@ -1,8 +1,14 @@
 // What every control does: creation, place, state, text, its end.
 
+#include "uibuttoncontrol.h"
 #include "uicheckboxcontrol.h"
 #include "uicomboboxcontrol.h"
+#include "uieditcontrol.h"
 #include "uigroupboxcontrol.h"
+#include "uilistboxcontrol.h"
+#include "uiradiobuttoncontrol.h"
+#include "uislidercontrol.h"
+#include "uispincontrol.h"
 #include "uitextcontrol.h"
 
 #include "cxstring.h"
@@ -11,6 +17,7 @@
 #include "resourceguard.h"
 #include "testpage.h"
 
+#include <commctrl.h>
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -46,6 +53,41 @@ ControlPtr makeCombo(TestPage& page, bool)
                                                kLocation, kSize);
 }
 
+ControlPtr makeButton(TestPage& page, bool isDefault)
+{
+    return std::make_unique<UIButtonControl>(page.page(), kId, page.services(), page.font(),
+                                             kLocation, kSize, isDefault);
+}
+ControlPtr makeRadio(TestPage& page, bool)
+{
+    return std::make_unique<UIRadioButtonControl>(page.page(), kId, page.services(), page.font(),
+                                                  kLocation, kSize, WS_GROUP | WS_TABSTOP);
+}
+ControlPtr makeEdit(TestPage& page, bool bordered)
+{
+    return std::make_unique<UIEditControl>(page.page(), kId, page.services(), page.font(),
+                                           kLocation, kSize, bordered ? ES_NUMBER : WS_CHILD,
+                                           bordered, 5);
+}
+ControlPtr makeList(TestPage& page, bool bordered)
+{
+    return std::make_unique<UIListBoxControl>(page.page(), kId, page.services(), page.font(),
+                                              kLocation, kSize,
+                                              bordered ? LBS_NOINTEGRALHEIGHT : WS_CHILD, bordered);
+}
+ControlPtr makeSlider(TestPage& page, bool)
+{
+    return std::make_unique<UISliderControl>(page.page(), kId, page.services(), page.font(),
+                                             kLocation, kSize, TBS_BOTH | TBS_VERT | TBS_TOOLTIPS,
+                                             -10, 10);
+}
+ControlPtr makeSpin(TestPage& page, bool defaultStyle)
+{
+    return std::make_unique<UISpinControl>(
+        page.page(), kId, page.services(), page.font(), kLocation, kSize,
+        UDS_SETBUDDYINT | UDS_AUTOBUDDY | UDS_WRAP | WS_CHILD, defaultStyle, 1, 99999);
+}
+
 struct Kind
 {
     const char* what;
@@ -64,6 +106,19 @@ constexpr Kind kKinds[] = {
     {"three-state", makeCheck, true, L"Button", 0x50010006, true, L"check 1234 \"\" unchecked\n"},
     {"group box", makeGroup, false, L"Button", 0x50000007, true, L"group 1234 \"Paper\"\n"},
     {"combo box", makeCombo, false, L"ComboBox", 0x50210213, true, L"combo 1234 \"\"\n"},
+    {"button", makeButton, false, L"Button", 0x50010300, true, L"button 1234 \"\"\n"},
+    {"default button", makeButton, true, L"Button", 0x50010301, true, L"button 1234 \"\"\n"},
+    {"radio", makeRadio, false, L"Button", 0x50030004, true, L"radio 1234 \"\" unchecked\n"},
+    {"plain edit", makeEdit, false, L"Edit", 0x50000000, true, L"edit 1234 \"\"\n"},
+    {"edit", makeEdit, true, L"Edit", 0x50812040, true, L"edit 1234 \"\"\n"},
+    {"plain list", makeList, false, L"ListBox", 0x50000000, true, L"list 1234 \"\"\n"},
+    {"list", makeList, true, L"ListBox", 0x50A10151, true, L"list 1234 \"\"\n"},
+    {"slider", makeSlider, false, L"msctls_trackbar32", 0x50010109, true,
+     L"slider 1234 \"\" -10 of -10 to 10\n"},
+    {"plain spin", makeSpin, false, L"msctls_updown32", 0x50000013, true,
+     L"spin 1234 \"\" 1 of 1 to 99999\n"},
+    {"spin", makeSpin, true, L"msctls_updown32", 0x508000A1, true,
+     L"spin 1234 \"\" 1 of 1 to 99999\n"},
 };
 
 TEST(UIControl, CreatesItsWindowAsDescribedOnceAndAtItsFinalPlace)

@@ -3,6 +3,7 @@
 #include "cxstring.h"
 #include "isolationaware.h"
 #include "textmeasure.h"
+#include "tipplacement.h"
 #include "uiwindowsmessage.h"
 #include "windowtext.h"
 
@@ -33,6 +34,11 @@ TTTOOLINFOW windowTool(HWND owner, HWND tool, HINSTANCE instance, INT_PTR text)
     info.hinst = instance;
     info.lpszText = reinterpret_cast<wchar_t*>(text);
     return info;
+}
+
+bool isRightToLeft(HWND window)
+{
+    return (::GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
 }
 
 LRESULT send(HWND window, UINT message, WPARAM wParam, TTTOOLINFOW& info)
@@ -174,6 +180,31 @@ void UIToolTips::relayMouse(const _UIWindowsMessage& message)
     event.wParam = message.wParam;
     event.lParam = message.lParam;
     ::SendMessageW(getHwnd(), TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&event));
+}
+
+void UIToolTips::showBeside(HWND window, const RECT& part, const CXString& text)
+{
+    hideBeside(window);
+    const bool isMirrored = isRightToLeft(m_owner);
+    TTTOOLINFOW info = toolInfo(m_owner, window,
+                                TTF_TRACK | TTF_ABSOLUTE | (isMirrored ? TTF_RTLREADING : 0U));
+    info.lpszText = const_cast<wchar_t*>(text.c_str());
+    send(getHwnd(), TTM_ADDTOOLW, 0, info);
+    const auto extent = static_cast<DWORD>(send(getHwnd(), TTM_GETBUBBLESIZE, 0, info));
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    ::GetMonitorInfoW(::MonitorFromRect(&part, MONITOR_DEFAULTTONEAREST), &monitor);
+    const POINT place = o7::placeBeside(part, {LOWORD(extent), HIWORD(extent)}, monitor.rcWork,
+                                        isMirrored);
+    ::SendMessageW(getHwnd(), TTM_TRACKPOSITION, 0, MAKELPARAM(place.x, place.y));
+    send(getHwnd(), TTM_TRACKACTIVATE, TRUE, info);
+}
+
+void UIToolTips::hideBeside(HWND window)
+{
+    TTTOOLINFOW info = toolInfo(m_owner, window, TTF_TRACK | TTF_ABSOLUTE);
+    send(getHwnd(), TTM_TRACKACTIVATE, FALSE, info);
+    send(getHwnd(), TTM_DELTOOLW, 0, info);
 }
 
 LRESULT UIToolTips::subclassWindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)

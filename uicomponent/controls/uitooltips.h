@@ -60,6 +60,13 @@ public:
     /// Hands a mouse message of the owner window to the tip window; other messages are ignored.
     void relayMouse(const _UIWindowsMessage& message);
 
+    /// Shows a text beside a part of a window, such as an entry of a list, until hideBeside: after
+    /// it in the direction of reading, otherwise before or below it, always inside the work area.
+    /// @param part  pixels of the screen
+    void showBeside(HWND window, const RECT& part, const CXString& text);
+    /// Takes the text away; harmless when none is shown.
+    void hideBeside(HWND window);
+
     /// Passes every message on to the tip window's own procedure.
     LRESULT subclassWindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
