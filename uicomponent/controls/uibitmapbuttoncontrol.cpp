@@ -9,6 +9,7 @@
 #include "uiwindowsmessage.h"
 #include "windowtext.h"
 
+#include <oleacc.h>
 #include <uxtheme.h>
 #include <vssym32.h>
 
@@ -93,6 +94,7 @@ UIBitmapButtonControl::UIBitmapButtonControl(HWND parent, int id, UIServices& se
     createControlWindow(L"BUTTON", kStyle);
     askTheme();
     subclassWindow(getHwnd());
+    setAccessibleRole(ROLE_SYSTEM_PUSHBUTTON);
     load(m_normal, normalBitmap);
     load(m_disabled, disabledBitmap);
 }

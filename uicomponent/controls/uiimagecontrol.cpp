@@ -102,7 +102,9 @@ void UIImageControl::releasePicture() noexcept
 {
     m_source.Empty();
     if (getHwnd() != nullptr) {
+        // Taken over as it is: with some compilers Attach adds a reference of its own.
         UIImageUtility::Picture picture;
-        picture.Attach(static_cast<IPicture*>(::RemovePropW(getHwnd(), kPictureProperty)));
+        *picture.GetAddressOf() =
+            static_cast<IPicture*>(::RemovePropW(getHwnd(), kPictureProperty));
     }
 }

@@ -8,8 +8,11 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
+#include <iterator>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace {
 
@@ -51,6 +54,60 @@ bool isDecodable(HGLOBAL memory)
     return lock.get() != nullptr &&
            o7::isDecodablePicture(
                {static_cast<const std::uint8_t*>(lock.get()), ::GlobalSize(memory)});
+}
+
+bool isSide(DWORD length)
+{
+    return length >= 1 && length <= kMaxSide;
+}
+
+BITMAPINFO describe(LONG width, LONG height)
+{
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = width;
+    info.bmiHeader.biHeight = -height; // rows from the top down
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    info.bmiHeader.biCompression = BI_RGB;
+    return info;
+}
+
+std::size_t pixelCount(int width, int height)
+{
+    return static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+}
+
+/// A bitmap of 32 bits a pixel, selected into a DC of its own; false when there is no memory for
+/// it.
+class MemoryImage
+{
+public:
+    MemoryImage(int width, int height) noexcept : m_dc(::CreateCompatibleDC(nullptr))
+    {
+        const BITMAPINFO info = describe(width, height);
+        void* bits = nullptr;
+        m_bitmap.reset(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+        m_bits = static_cast<std::uint32_t*>(bits);
+        if (*this) {
+            m_selected.emplace(m_dc.get(), m_bitmap.get());
+        }
+    }
+
+    explicit operator bool() const noexcept { return m_dc && m_bitmap; }
+    HDC dc() const noexcept { return m_dc.get(); }
+    std::uint32_t* bits() const noexcept { return m_bits; }
+
+private:
+    o7::UniqueMemoryDc m_dc;
+    o7::UniqueBitmap m_bitmap;
+    std::uint32_t* m_bits = nullptr;
+    std::optional<o7::SelectedObject> m_selected; // put back before bitmap and DC go
+};
+
+int naturalPixels(HDC dc, int resolution, LONG himetric)
+{
+    return ::MulDiv(himetric, ::GetDeviceCaps(dc, resolution), kHimetricPerInch);
 }
 
 /// Sets how a DC shrinks and stretches pictures, and puts it back.
@@ -117,20 +174,44 @@ bool renderStretched(HDC dc, const RECT& area, IPicture& picture, const Himetric
                                     -size.height, nullptr));
 }
 
-/// Over what is there already, put together in memory first.
-bool renderTransparent(HDC dc, const RECT& area, IPicture& picture, const HimetricSize& size)
+/// A picture in natural size as it comes out on black or on white; empty when that fails.
+std::vector<std::uint32_t> renderOn(int ground, int width, int height, IPicture& picture,
+                                    const HimetricSize& size)
 {
-    const int width = area.right - area.left;
-    const int height = area.bottom - area.top;
-    const o7::UniqueMemoryDc memory(::CreateCompatibleDC(dc));
-    const o7::UniqueBitmap bitmap(::CreateCompatibleBitmap(dc, width, height));
-    if (!memory || !bitmap) {
-        return false;
+    const MemoryImage memory(width, height);
+    if (!memory) {
+        return {};
     }
-    const o7::SelectedObject selected(memory.get(), bitmap.get());
-    ::BitBlt(memory.get(), 0, 0, width, height, dc, area.left, area.top, SRCCOPY);
-    return renderStretched(memory.get(), {0, 0, width, height}, picture, size) &&
-           ::BitBlt(dc, area.left, area.top, width, height, memory.get(), 0, 0, SRCCOPY) != FALSE;
+    const RECT all{0, 0, width, height};
+    ::FillRect(memory.dc(), &all, static_cast<HBRUSH>(::GetStockObject(ground)));
+    if (!renderStretched(memory.dc(), all, picture, size)) {
+        return {};
+    }
+    ::GdiFlush();
+    return {memory.bits(), memory.bits() + pixelCount(width, height)};
+}
+
+/// Finds out by two grounds how far each pixel covers them, and scales that with the picture: the
+/// system would scale picture and mask each by itself, and leave seams of wrong colours.
+o7::PixelImage readTransparent(HDC dc, IPicture& picture, const HimetricSize& size)
+{
+    const int width = naturalPixels(dc, LOGPIXELSX, size.width);
+    const int height = naturalPixels(dc, LOGPIXELSY, size.height);
+    if (!isSide(static_cast<DWORD>(width)) || !isSide(static_cast<DWORD>(height))) {
+        return {};
+    }
+    o7::PixelImage image{width, height, renderOn(BLACK_BRUSH, width, height, picture, size)};
+    const auto onWhite = renderOn(WHITE_BRUSH, width, height, picture, size);
+    if (onWhite.size() != image.pixels.size()) {
+        return {};
+    }
+    std::transform(image.pixels.begin(), image.pixels.end(), onWhite.begin(), image.pixels.begin(),
+                   [](std::uint32_t black, std::uint32_t white) {
+                       const std::uint32_t dark = black & 0xFFU;
+                       const std::uint32_t gap = std::max(white & 0xFFU, dark) - dark;
+                       return (black & ~kOpaque) | (255U - gap) << 24U;
+                   });
+    return image;
 }
 
 bool isTransparent(IPicture& picture)
@@ -138,18 +219,6 @@ bool isTransparent(IPicture& picture)
     DWORD attributes = 0;
     return SUCCEEDED(picture.get_Attributes(&attributes)) &&
            (attributes & PICTURE_TRANSPARENT) != 0;
-}
-
-BITMAPINFO describe(LONG width, LONG height)
-{
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = width;
-    info.bmiHeader.biHeight = -height; // rows from the top down
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    info.bmiHeader.biCompression = BI_RGB;
-    return info;
 }
 
 std::uint32_t premultiplied(std::uint32_t colour)
@@ -179,7 +248,7 @@ o7::PixelImage readBitmap(HBITMAP bitmap, int width, int height)
         return {};
     }
     o7::PixelImage image{width, height, {}};
-    image.pixels.reserve(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+    image.pixels.reserve(pixelCount(width, height));
     for (std::size_t y = 0; y < static_cast<std::size_t>(height); ++y) {
         const auto row = all.begin() + static_cast<std::ptrdiff_t>(y * rowLength);
         std::transform(row, row + width, std::back_inserter(image.pixels), premultiplied);
@@ -187,26 +256,21 @@ o7::PixelImage readBitmap(HBITMAP bitmap, int width, int height)
     return image;
 }
 
+/// Draws the image in the size of the area, over what is there.
 bool drawImage(HDC dc, const RECT& area, const o7::PixelImage& image)
 {
-    const BITMAPINFO info = describe(image.width, image.height);
-    void* bits = nullptr;
-    const o7::UniqueBitmap bitmap(
-        ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
-    const o7::UniqueMemoryDc memory(::CreateCompatibleDC(dc));
-    if (!bitmap || !memory) {
+    const int width = area.right - area.left;
+    const int height = area.bottom - area.top;
+    const MemoryImage memory(width, height);
+    if (image.pixels.empty() || !memory) {
         return false;
     }
-    std::memcpy(bits, image.pixels.data(), image.pixels.size() * sizeof image.pixels[0]);
-    const o7::SelectedObject selected(memory.get(), bitmap.get());
+    const bool fits = image.width == width && image.height == height;
+    const auto& pixels = fits ? image.pixels : o7::scaled(image, width, height).pixels;
+    std::copy(pixels.begin(), pixels.end(), memory.bits());
     const BLENDFUNCTION blend{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
-    return ::GdiAlphaBlend(dc, area.left, area.top, image.width, image.height, memory.get(), 0, 0,
-                           image.width, image.height, blend) != FALSE;
-}
-
-bool isSide(DWORD length)
-{
-    return length >= 1 && length <= kMaxSide;
+    return ::GdiAlphaBlend(dc, area.left, area.top, width, height, memory.dc(), 0, 0, width, height,
+                           blend) != FALSE;
 }
 
 } // namespace
@@ -291,16 +355,20 @@ bool UIImageUtility::XStretchDrawPicture(HDC dc, int x, int y, int cx, int cy, I
         return false;
     }
     if (cx == -1) {
-        cx = ::MulDiv(size.width, ::GetDeviceCaps(dc, LOGPIXELSX), kHimetricPerInch);
+        cx = naturalPixels(dc, LOGPIXELSX, size.width);
     }
     if (cy == -1) {
-        cy = ::MulDiv(size.height, ::GetDeviceCaps(dc, LOGPIXELSY), kHimetricPerInch);
+        cy = naturalPixels(dc, LOGPIXELSY, size.height);
+    }
+    if (!isSide(static_cast<DWORD>(cx)) || !isSide(static_cast<DWORD>(cy))) {
+        return false;
     }
     const o7::UnmirroredDc unmirrored(dc, {x, y, x + cx, y + cy});
+    if (keepTransparency != 0 && isTransparent(*picture)) {
+        return drawImage(dc, unmirrored.area(), readTransparent(dc, *picture, size));
+    }
     const PaletteScope palette(dc, *picture);
-    return keepTransparency != 0 && isTransparent(*picture)
-               ? renderTransparent(dc, unmirrored.area(), *picture, size)
-               : renderStretched(dc, unmirrored.area(), *picture, size);
+    return renderStretched(dc, unmirrored.area(), *picture, size);
 }
 
 bool UIImageUtility::TransBlt(HBITMAP bitmap, HDC dc, DWORD x, DWORD y, DWORD width, DWORD height)
@@ -314,14 +382,8 @@ bool UIImageUtility::TransStretchBlt(HBITMAP bitmap, HDC dc, DWORD x, DWORD y, D
     if (!isSide(srcWidth) || !isSide(srcHeight) || !isSide(dstWidth) || !isSide(dstHeight)) {
         return false;
     }
-    o7::PixelImage image =
+    const o7::PixelImage image =
         readBitmap(bitmap, static_cast<int>(srcWidth), static_cast<int>(srcHeight));
-    if (image.pixels.empty()) {
-        return false;
-    }
-    if (srcWidth != dstWidth || srcHeight != dstHeight) {
-        image = o7::scaled(image, static_cast<int>(dstWidth), static_cast<int>(dstHeight));
-    }
     const auto left = static_cast<LONG>(x);
     const auto top = static_cast<LONG>(y);
     const o7::UnmirroredDc unmirrored(

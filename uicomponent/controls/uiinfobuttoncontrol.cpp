@@ -1,5 +1,7 @@
 #include "uiinfobuttoncontrol.h"
 
+#include <oleacc.h>
+
 #include <algorithm>
 
 #include "paintbuffer.h"
@@ -20,6 +22,7 @@ UIInfoButtonControl::UIInfoButtonControl(HWND parent, int id, UIServices& servic
 {
     setVisibleFlag(true);
     createControlWindow(L"BUTTON", kStyle);
+    setAccessibleRole(ROLE_SYSTEM_PUSHBUTTON);
 }
 
 UIInfoButtonControl::~UIInfoButtonControl()
