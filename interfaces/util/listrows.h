@@ -40,7 +40,7 @@ struct ListColumn
 
 struct ListRow
 {
-    int id = 0; ///< any number; stays with the row wherever it stands
+    int id = 0;                    ///< any number; stays with the row wherever it stands
     std::vector<CXString> texts{}; ///< one a column; missing ones are empty, further ones are kept
     bool isUnavailable = false;    ///< shown grey
     bool isChecked = false;

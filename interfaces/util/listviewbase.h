@@ -140,6 +140,11 @@ protected:
     void attachListView(HWND__* window);
     /// The window is gone, or about to go.
     void detachListView() noexcept { m_window = nullptr; }
+    bool hasCheckBoxes() const noexcept { return m_hasCheckBoxes; }
+    /// What a key does, as far as it is not the window's own doing: Space turns the check mark of
+    /// the row with the focus, Ctrl+A selects all rows. Then the observer is told. True when the
+    /// key is used up.
+    bool pressKey(std::uint32_t virtualKey);
 
 private:
     /// Selection and focus, by id.
@@ -153,6 +158,7 @@ private:
     std::intptr_t send(std::uint32_t message, std::uintptr_t wParam = 0,
                        std::intptr_t lParam = 0) const;
     HWND__* headerWindow() const;
+    bool isForOneRow() const;
     void showChange();
     void showCount();
     void repaintRows();
@@ -170,7 +176,6 @@ private:
     void drawEmptyText(HDC__* dc) const;
     void columnClicked(int column);
     void clicked(const tagNMITEMACTIVATE& click, bool isDouble);
-    bool keyPressed(std::uint32_t virtualKey);
     void activate(int index);
     void toggleChecks(int index);
     void statesChanged(std::uint32_t oldState, std::uint32_t newState);

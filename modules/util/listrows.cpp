@@ -237,9 +237,8 @@ bool ListRows::isBefore(const ListRow& a, const ListRow& b) const
     const CXString none;
     const CXString& textA = column < a.texts.size() ? a.texts[column] : none;
     const CXString& textB = column < b.texts.size() ? b.texts[column] : none;
-    const int difference = m_columns[column].sort == ListSort::Number
-                               ? compareNatural(textA, textB)
-                               : m_compare(textA, textB);
+    const int difference = m_columns[column].sort == ListSort::Number ? compareNatural(textA, textB)
+                                                                      : m_compare(textA, textB);
     return m_order.isDescending ? difference > 0 : difference < 0;
 }
 
@@ -251,9 +250,9 @@ bool ListRows::canSortBy(int column) const noexcept
 
 std::size_t ListRows::sortedPlace(const ListRow& row) const
 {
-    const auto place = std::upper_bound(
-        m_rows.begin(), m_rows.end(), row,
-        [this](const ListRow& a, const ListRow& b) { return isBefore(a, b); });
+    const auto place =
+        std::upper_bound(m_rows.begin(), m_rows.end(), row,
+                         [this](const ListRow& a, const ListRow& b) { return isBefore(a, b); });
     return static_cast<std::size_t>(place - m_rows.begin());
 }
 
@@ -261,9 +260,8 @@ std::size_t ListRows::sortedPlace(const ListRow& row) const
 ListChange ListRows::takeOver(std::vector<ListRow> rows)
 {
     if (isSorted()) {
-        std::stable_sort(rows.begin(), rows.end(), [this](const ListRow& a, const ListRow& b) {
-            return isBefore(a, b);
-        });
+        std::stable_sort(rows.begin(), rows.end(),
+                         [this](const ListRow& a, const ListRow& b) { return isBefore(a, b); });
     }
     m_rows.swap(rows);
     const std::vector<ListRow>& before = rows;

@@ -10,8 +10,9 @@
 
 namespace {
 
-constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER | LVS_REPORT |
-                         LVS_SHOWSELALWAYS | LVS_OWNERDATA;
+constexpr DWORD kStyle =
+    WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER | LVS_REPORT | LVS_SHOWSELALWAYS | LVS_OWNERDATA;
+static_assert(kStyle == 0x50811009);
 constexpr DWORD kExtendedStyle = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER;
 
 /// In the order of the user's language, as its dictionaries have it.
@@ -194,11 +195,10 @@ std::optional<int> ListViewBase::getSelectedRow() const
 void ListViewBase::selectRows(const std::vector<int>& ids)
 {
     const Update update(*this);
-    const bool isForOneRow = (::GetWindowLongPtrW(m_window, GWL_STYLE) & LVS_SINGLESEL) != 0;
     m_marks.selected.clear();
     m_reveal.reset();
     for (const int id : ids) {
-        const bool isTaken = m_rows.indexOf(id) >= 0 && !(isForOneRow && m_reveal);
+        const bool isTaken = m_rows.indexOf(id) >= 0 && !(isForOneRow() && m_reveal);
         if (isTaken) {
             m_marks.selected.push_back(id);
             m_reveal = m_reveal.value_or(id);
@@ -264,6 +264,11 @@ LRESULT ListViewBase::send(UINT message, WPARAM wParam, LPARAM lParam) const
 HWND ListViewBase::headerWindow() const
 {
     return reinterpret_cast<HWND>(send(LVM_GETHEADER));
+}
+
+bool ListViewBase::isForOneRow() const
+{
+    return (::GetWindowLongPtrW(m_window, GWL_STYLE) & LVS_SINGLESEL) != 0;
 }
 
 /// The window draws nothing before it is asked to paint, so that several changes of count, state

@@ -15,6 +15,23 @@ LRESULT notificationAs(bool taken) noexcept
     return taken ? TRUE : FALSE;
 }
 
+/// Wine draws into a buffer that has not the window's layout, so that mirrored lists come out in
+/// mirror writing. On Windows the buffer has it already, and nothing is done here.
+void mirrorAsWindow(HDC dc, HWND window) noexcept
+{
+    const bool isMirrored = (::GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
+    if (!isMirrored || (::GetLayout(dc) & LAYOUT_RTL) != 0) {
+        return;
+    }
+    // The clipping and the erased ground are where the area would be without mirroring.
+    RECT area{};
+    ::GetClipBox(dc, &area);
+    ::SetLayout(dc, LAYOUT_RTL);
+    ::SelectClipRgn(dc, nullptr);
+    ::SetDCBrushColor(dc, static_cast<COLORREF>(::SendMessageW(window, LVM_GETBKCOLOR, 0, 0)));
+    ::FillRect(dc, &area, static_cast<HBRUSH>(::GetStockObject(DC_BRUSH)));
+}
+
 } // namespace
 
 bool ListViewBase::processWindowsMessage(const UINT message, const WPARAM wParam,
@@ -60,8 +77,8 @@ bool ListViewBase::notified(LPARAM notification, LRESULT& result)
         clicked(*reinterpret_cast<const NMITEMACTIVATE*>(notification), header.code == NM_DBLCLK);
         break;
     case LVN_KEYDOWN:
-        answer = notificationAs(
-            keyPressed(reinterpret_cast<const NMLVKEYDOWN*>(notification)->wVKey));
+        answer =
+            notificationAs(pressKey(reinterpret_cast<const NMLVKEYDOWN*>(notification)->wVKey));
         break;
     case NM_RETURN:
         activate(static_cast<int>(send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED)));
@@ -123,6 +140,7 @@ LRESULT ListViewBase::findRow(const NMLVFINDITEMW& wanted) const
 LRESULT ListViewBase::customDraw(NMLVCUSTOMDRAW& drawing) const
 {
     if (drawing.nmcd.dwDrawStage == CDDS_PREPAINT) {
+        mirrorAsWindow(drawing.nmcd.hdc, m_window);
         const bool wantsText = m_rows.count() == 0 && !m_emptyText.IsEmpty();
         return wantsText ? CDRF_NOTIFYPOSTPAINT : CDRF_NOTIFYITEMDRAW;
     }
@@ -136,7 +154,6 @@ LRESULT ListViewBase::customDraw(NMLVCUSTOMDRAW& drawing) const
             // Grey is readable on the window's ground, not on that of the selection.
             drawing.nmcd.uItemState &= ~UINT{CDIS_SELECTED};
             drawing.clrText = ::GetSysColor(COLOR_GRAYTEXT);
-            drawing.clrTextBk = ::GetSysColor(COLOR_WINDOW);
         }
     }
     return CDRF_DODEFAULT;
@@ -197,16 +214,20 @@ void ListViewBase::clicked(const NMITEMACTIVATE& click, bool isDouble)
     }
 }
 
-bool ListViewBase::keyPressed(UINT virtualKey)
+bool ListViewBase::pressKey(UINT virtualKey)
 {
     const int focused =
         static_cast<int>(send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED));
     const bool toggles = virtualKey == VK_SPACE && m_hasCheckBoxes && focused >= 0;
+    const bool selectsAll = virtualKey == L'A' && ::GetKeyState(VK_CONTROL) < 0 &&
+                            ::GetKeyState(VK_MENU) >= 0 && !isForOneRow();
     if (toggles) {
         toggleChecks(focused);
+    } else if (selectsAll) {
+        setRowState(-1, LVIS_SELECTED, LVIS_SELECTED);
     }
     const bool isTaken = m_observer != nullptr && m_observer->listKeyPressed(virtualKey);
-    return toggles || isTaken;
+    return toggles || selectsAll || isTaken;
 }
 
 void ListViewBase::activate(int index)
@@ -230,9 +251,8 @@ void ListViewBase::toggleChecks(int index)
     if (std::find(ids.begin(), ids.end(), clicked) == ids.end()) {
         ids = {clicked};
     }
-    std::erase_if(ids, [&](int id) {
-        return m_rows.at(m_rows.indexOf(id))->isChecked == isChecked;
-    });
+    std::erase_if(ids,
+                  [&](int id) { return m_rows.at(m_rows.indexOf(id))->isChecked == isChecked; });
     {
         const Update update(*this);
         for (const int id : ids) {

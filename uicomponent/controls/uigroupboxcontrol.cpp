@@ -1,6 +1,7 @@
 #include "uigroupboxcontrol.h"
 
 #include "cxstring.h"
+#include "windowtext.h"
 
 namespace {
 
@@ -23,4 +24,9 @@ UIGroupBoxControl::~UIGroupBoxControl() = default;
 void UIGroupBoxControl::dump() const
 {
     dumpWindow(L"group", {});
+}
+
+void UIGroupBoxControl::setCaption(const CXString& caption)
+{
+    o7::setWindowTextIfDifferent(getHwnd(), caption);
 }

@@ -7,7 +7,8 @@ class O7UI_API UIListBoxControl : public UIEntryListControl
 {
 public:
     /// @param style     added to WS_VISIBLE (LBS_... bits; all that it needs, unless bordered)
-    /// @param bordered  a child with border and scroll bar that Tab stops at, that tells its parent,
+    /// @param bordered  a child with border and scroll bar that Tab stops at, that tells its
+    /// parent,
     ///                  and whose entries the control draws
     UIListBoxControl(HWND parent, int id, UIServices& services, HFONT font, POINT location,
                      SIZE size, DWORD style, bool bordered);

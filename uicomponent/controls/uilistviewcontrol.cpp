@@ -46,7 +46,17 @@ UIListViewControl::~UIListViewControl()
 
 bool UIListViewControl::handleMessage(const _UIWindowsMessage& message)
 {
-    return processWindowsMessage(message.message, message.wParam, message.lParam, message.result);
+    LRESULT result = 0;
+    if (!processWindowsMessage(message.message, message.wParam, message.lParam, result)) {
+        return false;
+    }
+    if (message.kind == UIMessageKind::TabPage && message.message == WM_NOTIFY) {
+        // What a page answers to a notification counts as a yes; the answer itself stands here.
+        ::SetWindowLongPtrW(message.window, DWLP_MSGRESULT, result);
+        result = TRUE;
+    }
+    message.result = result;
+    return true;
 }
 
 void UIListViewControl::dump() const
@@ -72,7 +82,8 @@ void UIListViewControl::dump() const
         for (const CXString& text : row.texts) {
             line += quoted(text);
         }
-        const bool isSelected = std::find(selected.begin(), selected.end(), row.id) != selected.end();
+        const bool isSelected =
+            std::find(selected.begin(), selected.end(), row.id) != selected.end();
         line += isSelected ? L" selected" : L"";
         line += row.isChecked ? L" checked" : L"";
         line += row.isUnavailable ? L" unavailable" : L"";
@@ -134,9 +145,20 @@ LRESULT UIListViewControl::subclassWindowProcedure(HWND window, UINT message, WP
         break;
     case WM_KEYDOWN:
         return keyDown(window, message, wParam, lParam);
+    case WM_CHAR:
+        if (wParam == L' ' && hasCheckBoxes()) {
+            return 0; // no text to search for
+        }
+        break;
     case WM_SIZE: {
         const LRESULT result = callSavedProcedure(window, message, wParam, lParam);
         fitColumns();
+        return result;
+    }
+    case WM_ENABLE:
+    case WM_SYSCOLORCHANGE: {
+        const LRESULT result = callSavedProcedure(window, message, wParam, lParam);
+        showGround();
         return result;
     }
     case WM_MOUSEMOVE:
@@ -152,6 +174,8 @@ LRESULT UIListViewControl::subclassWindowProcedure(HWND window, UINT message, WP
     case WM_VSCROLL:
     case WM_HSCROLL:
     case WM_KILLFOCUS:
+    case LVM_SETITEMCOUNT: // the row may stand elsewhere now, or say something else
+    case LVM_REDRAWITEMS:
         hideTip();
         break;
     default:
@@ -160,9 +184,25 @@ LRESULT UIListViewControl::subclassWindowProcedure(HWND window, UINT message, WP
     return callSavedProcedure(window, message, wParam, lParam);
 }
 
+/// A disabled list has the ground of its page, as other disabled fields do.
+void UIListViewControl::showGround() const
+{
+    const int colour = ::IsWindowEnabled(getHwnd()) != FALSE ? COLOR_WINDOW : COLOR_BTNFACE;
+    const auto ground = static_cast<LPARAM>(::GetSysColor(colour));
+    for (const UINT message : {LVM_SETBKCOLOR, LVM_SETTEXTBKCOLOR}) {
+        ::SendMessageW(getHwnd(), message, 0, ground);
+    }
+    ::InvalidateRect(getHwnd(), nullptr, TRUE);
+}
+
 /// A key that moves the focus to another row shows that row's tip, as resting on it does.
 LRESULT UIListViewControl::keyDown(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (wParam == VK_SPACE && hasCheckBoxes()) {
+        // The window would also select this one row, and no other any more.
+        pressKey(VK_SPACE);
+        return 0;
+    }
     const int before = focusedIndex();
     const LRESULT result = callSavedProcedure(window, message, wParam, lParam);
     const int after = focusedIndex();
@@ -234,8 +274,8 @@ int UIListViewControl::rowAt(POINT place) const
 
 int UIListViewControl::focusedIndex() const
 {
-    return static_cast<int>(::SendMessageW(getHwnd(), LVM_GETNEXTITEM, static_cast<WPARAM>(-1),
-                                           LVNI_FOCUSED));
+    return static_cast<int>(
+        ::SendMessageW(getHwnd(), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED));
 }
 
 /// Where a cell's text has room, in pixels of the client area.

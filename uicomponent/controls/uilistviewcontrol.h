@@ -49,6 +49,7 @@ private:
     void forgetWindow() noexcept;
     LRESULT subclassWindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT keyDown(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    void showGround() const;
     bool wantsMessage(const MSG* message) const;
     void mouseMoved(POINT place);
     void mouseRested(POINT place);

@@ -6,8 +6,9 @@ class CXString;
 
 /// One of several choices that exclude each other ("BUTTON"). It does not check itself: a click, an
 /// arrow key within the group or its mnemonic sends BN_CLICKED, and the owner then calls setCheck
-/// for every button of the group. Tab stops at the checked button, as Windows moves WS_TABSTOP along
-/// with the check; while none is checked, only the style of the caller makes the group reachable.
+/// for every button of the group. Tab stops at the checked button, as Windows moves WS_TABSTOP
+/// along with the check; while none is checked, only the style of the caller makes the group
+/// reachable.
 class O7UI_API UIRadioButtonControl : public UIControl
 {
 public:

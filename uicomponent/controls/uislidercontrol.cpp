@@ -37,8 +37,8 @@ UISliderControl::~UISliderControl() = default;
 
 void UISliderControl::dump() const
 {
-    dumpWindow(L"slider", CXString::Formatted(L"%d of %d to %d", getPosition(), getMinimum(),
-                                              getMaximum()));
+    dumpWindow(L"slider",
+               CXString::Formatted(L"%d of %d to %d", getPosition(), getMinimum(), getMaximum()));
 }
 
 int UISliderControl::getMinimum() const

@@ -2,12 +2,13 @@
 
 #include "uicontrol.h"
 
-/// A slider ("msctls_trackbar32") with a tick at each step. The parent gets WM_HSCROLL or WM_VSCROLL
-/// when the person moves it, nothing when code does.
+/// A slider ("msctls_trackbar32") with a tick at each step. The parent gets WM_HSCROLL or
+/// WM_VSCROLL when the person moves it, nothing when code does.
 class O7UI_API UISliderControl : public UIControl
 {
 public:
-    /// @param style            added, less the bits that would place ticks or buttons elsewhere (0xC6)
+    /// @param style            added, less the bits that would place ticks or buttons elsewhere
+    /// (0xC6)
     /// @param minimum,maximum  ends of the range, both included
     UISliderControl(HWND parent, int id, UIServices& services, HFONT font, POINT location,
                     SIZE size, DWORD style, int minimum, int maximum);
@@ -23,6 +24,7 @@ public:
     void setPosition(int position);
     /// A tick at every so many steps (TBM_SETTICFREQ), for ranges too long for one at each.
     void setTickFrequency(int steps);
-    /// How far an arrow key and a click beside the thumb move it (TBM_SETLINESIZE, TBM_SETPAGESIZE).
+    /// How far an arrow key and a click beside the thumb move it (TBM_SETLINESIZE,
+    /// TBM_SETPAGESIZE).
     void setSteps(int line, int page);
 };

@@ -2,8 +2,8 @@
 
 #include "uicontrol.h"
 
-/// A pair of arrows that counts up and down ("msctls_updown32"). It does not write into its buddy by
-/// itself: the owner hears of each step (UDN_DELTAPOS) and shows the number in its own way.
+/// A pair of arrows that counts up and down ("msctls_updown32"). It does not write into its buddy
+/// by itself: the owner hears of each step (UDN_DELTAPOS) and shows the number in its own way.
 ///
 /// A style of the caller with UDS_SETBUDDYINT, without the default style, does write; then every
 /// position set from code reaches the parent as the buddy's EN_CHANGE, as Windows cannot keep that

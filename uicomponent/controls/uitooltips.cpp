@@ -186,16 +186,16 @@ void UIToolTips::showBeside(HWND window, const RECT& part, const CXString& text)
 {
     hideBeside(window);
     const bool isMirrored = isRightToLeft(m_owner);
-    TTTOOLINFOW info = toolInfo(m_owner, window,
-                                TTF_TRACK | TTF_ABSOLUTE | (isMirrored ? TTF_RTLREADING : 0U));
+    TTTOOLINFOW info =
+        toolInfo(m_owner, window, TTF_TRACK | TTF_ABSOLUTE | (isMirrored ? TTF_RTLREADING : 0U));
     info.lpszText = const_cast<wchar_t*>(text.c_str());
     send(getHwnd(), TTM_ADDTOOLW, 0, info);
     const auto extent = static_cast<DWORD>(send(getHwnd(), TTM_GETBUBBLESIZE, 0, info));
     MONITORINFO monitor{};
     monitor.cbSize = sizeof monitor;
     ::GetMonitorInfoW(::MonitorFromRect(&part, MONITOR_DEFAULTTONEAREST), &monitor);
-    const POINT place = o7::placeBeside(part, {LOWORD(extent), HIWORD(extent)}, monitor.rcWork,
-                                        isMirrored);
+    const POINT place =
+        o7::placeBeside(part, {LOWORD(extent), HIWORD(extent)}, monitor.rcWork, isMirrored);
     ::SendMessageW(getHwnd(), TTM_TRACKPOSITION, 0, MAKELPARAM(place.x, place.y));
     send(getHwnd(), TTM_TRACKACTIVATE, TRUE, info);
 }
