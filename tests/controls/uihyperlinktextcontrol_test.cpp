@@ -61,20 +61,24 @@ protected:
     int m_drawn = 0;
 };
 
-TEST_F(Link, IsDrawnInTheSystemsColourOfLinks)
+TEST_F(Link, IsDrawnInTheSystemsColourOfLinksWhereThatCanBeRead)
 {
     const int element = COLOR_HOTLIGHT;
     const COLORREF former = ::GetSysColor(element);
-    for (const COLORREF colour : {RGB(200, 10, 90), former}) {
-        ::SetSysColors(1, &element, &colour);
-        EXPECT_TRUE(shows(colour));
-    }
+    const COLORREF readable = RGB(150, 10, 90);
+    const COLORREF faint = RGB(230, 230, 230);
+    ::SetSysColors(1, &element, &faint);
+    EXPECT_FALSE(shows(faint));
+    EXPECT_TRUE(shows(RGB(0, 0, 255)));
+    ::SetSysColors(1, &element, &readable);
+    EXPECT_TRUE(shows(readable));
     m_link.UIControl::setEnable(false);
-    EXPECT_FALSE(shows(former));
+    EXPECT_FALSE(shows(readable));
     EXPECT_TRUE(shows(::GetSysColor(COLOR_GRAYTEXT)));
     m_link.UIControl::setEnable(true);
     m_link.clearText();
-    EXPECT_FALSE(shows(former));
+    EXPECT_FALSE(shows(readable));
+    ::SetSysColors(1, &element, &former);
 }
 
 TEST_F(Link, PaintsOnceForAChange)

@@ -6,6 +6,8 @@
 
 #include <oleacc.h>
 
+#include <cstdlib>
+
 namespace {
 
 constexpr DWORD kStyle = 0x5000010D; // child, visible, notifying, owner drawn
@@ -15,6 +17,25 @@ bool isEnter(LPARAM message)
 {
     const auto* asked = reinterpret_cast<const MSG*>(message);
     return asked != nullptr && asked->message == WM_KEYDOWN && asked->wParam == VK_RETURN;
+}
+
+/// How bright a colour is, 0 to 255000.
+int brightness(COLORREF colour)
+{
+    return GetRValue(colour) * 299 + GetGValue(colour) * 587 + GetBValue(colour) * 114;
+}
+
+/// The system's colour of links; in a scheme where that cannot be told from the ground, blue, and
+/// where that cannot either, the colour of other texts.
+COLORREF linkColour(COLORREF ground)
+{
+    constexpr int kReadable = 90000;
+    for (const COLORREF colour : {::GetSysColor(COLOR_HOTLIGHT), DWORD{RGB(0, 0, 255)}}) {
+        if (std::abs(brightness(colour) - brightness(ground)) >= kReadable) {
+            return colour;
+        }
+    }
+    return ::GetSysColor(COLOR_BTNTEXT);
 }
 
 } // namespace
@@ -123,7 +144,8 @@ void UIHyperlinkTextControl::drawText(const DRAWITEMSTRUCT& item, HDC dc) const
     const o7::UniqueFont font = makeLinkFont();
     const o7::SelectedObject selected(dc, font.get());
     const bool isEnabled = ::IsWindowEnabled(item.hwndItem) != FALSE;
-    ::SetTextColor(dc, ::GetSysColor(isEnabled ? COLOR_HOTLIGHT : COLOR_GRAYTEXT));
+    const COLORREF ground = ::GetPixel(dc, item.rcItem.left, item.rcItem.top);
+    ::SetTextColor(dc, isEnabled ? linkColour(ground) : ::GetSysColor(COLOR_GRAYTEXT));
     ::SetBkMode(dc, TRANSPARENT);
     ::TextOutW(dc, item.rcItem.left, item.rcItem.top, text.c_str(), text.GetLength());
 }

@@ -1,7 +1,5 @@
 #include "uiinfobuttoncontrol.h"
 
-#include <oleacc.h>
-
 #include <algorithm>
 
 #include "paintbuffer.h"
@@ -9,10 +7,26 @@
 #include "uidump.h"
 #include "uitooltips.h"
 #include "uiwindowsmessage.h"
+#include "unmirroreddc.h"
 
 namespace {
 
 constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW;
+
+/// In the middle of the area; the right way round in right-to-left layouts too.
+void drawIcon(HDC dc, const RECT& area, const wchar_t* name)
+{
+    const o7::UnmirroredDc unmirrored(dc, area);
+    const RECT& place = unmirrored.area();
+    const LONG width = place.right - place.left;
+    const LONG height = place.bottom - place.top;
+    const int side = static_cast<int>(std::min(width, height)) - 2;
+    // A shared icon of the system: its colours follow the person's theme, and nobody releases it.
+    const auto icon =
+        static_cast<HICON>(LoadImageW(nullptr, name, IMAGE_ICON, 0, 0, LR_SHARED | LR_DEFAULTSIZE));
+    DrawIconEx(dc, place.left + (width - side) / 2, place.top + (height - side) / 2, icon, side,
+               side, 0, nullptr, DI_NORMAL);
+}
 
 } // namespace
 
@@ -22,7 +36,6 @@ UIInfoButtonControl::UIInfoButtonControl(HWND parent, int id, UIServices& servic
 {
     setVisibleFlag(true);
     createControlWindow(L"BUTTON", kStyle);
-    setAccessibleRole(ROLE_SYSTEM_PUSHBUTTON);
 }
 
 UIInfoButtonControl::~UIInfoButtonControl()
@@ -82,16 +95,7 @@ void UIInfoButtonControl::draw(const DRAWITEMSTRUCT& item) const
 {
     const o7::PaintBuffer buffer(item.hDC, item.rcItem);
     o7::drawParentBackground(getHwnd(), buffer.dc());
-    const int side = static_cast<int>(std::min(item.rcItem.right - item.rcItem.left,
-                                               item.rcItem.bottom - item.rcItem.top)) -
-                     2;
-    // A shared icon of the system: its colours follow the person's theme, and nobody releases it.
-    const auto icon =
-        static_cast<HICON>(LoadImageW(nullptr, m_style == kConflict ? IDI_WARNING : IDI_INFORMATION,
-                                      IMAGE_ICON, 0, 0, LR_SHARED | LR_DEFAULTSIZE));
-    const int x = item.rcItem.left + (item.rcItem.right - item.rcItem.left - side) / 2;
-    const int y = item.rcItem.top + (item.rcItem.bottom - item.rcItem.top - side) / 2;
-    DrawIconEx(buffer.dc(), x, y, icon, side, side, 0, nullptr, DI_NORMAL);
+    drawIcon(buffer.dc(), item.rcItem, m_style == kConflict ? IDI_WARNING : IDI_INFORMATION);
     if (item.itemState & ODS_FOCUS)
         DrawFocusRect(buffer.dc(), &item.rcItem);
 }
