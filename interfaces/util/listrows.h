@@ -130,6 +130,7 @@ private:
     bool isBefore(const ListRow& a, const ListRow& b) const;
     bool canSortBy(int column) const noexcept;
     bool isSorted() const noexcept { return m_order.column != ListOrder::kUnsorted; }
+    ListChange setFlag(int id, bool ListRow::*flag, bool value);
     std::size_t sortedPlace(const ListRow& row) const;
     ListChange takeOver(std::vector<ListRow> rows);
 

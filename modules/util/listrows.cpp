@@ -155,22 +155,12 @@ ListChange ListRows::move(int id, int place)
 
 ListChange ListRows::setUnavailable(int id, bool isUnavailable)
 {
-    const int index = indexOf(id);
-    if (index < 0 || at(index)->isUnavailable == isUnavailable) {
-        return {};
-    }
-    m_rows[static_cast<std::size_t>(index)].isUnavailable = isUnavailable;
-    return {index, index};
+    return setFlag(id, &ListRow::isUnavailable, isUnavailable);
 }
 
 ListChange ListRows::setChecked(int id, bool isChecked)
 {
-    const int index = indexOf(id);
-    if (index < 0 || at(index)->isChecked == isChecked) {
-        return {};
-    }
-    m_rows[static_cast<std::size_t>(index)].isChecked = isChecked;
-    return {index, index};
+    return setFlag(id, &ListRow::isChecked, isChecked);
 }
 
 ListChange ListRows::sortBy(ListOrder order)
@@ -246,6 +236,18 @@ bool ListRows::canSortBy(int column) const noexcept
 {
     const auto index = static_cast<std::size_t>(column);
     return column >= 0 && index < m_columns.size() && m_columns[index].sort != ListSort::None;
+}
+
+ListChange ListRows::setFlag(int id, bool ListRow::*flag, bool value)
+{
+    const auto row = std::find_if(m_rows.begin(), m_rows.end(),
+                                  [id](const ListRow& each) { return each.id == id; });
+    if (row == m_rows.end() || (*row).*flag == value) {
+        return {};
+    }
+    (*row).*flag = value;
+    const auto index = static_cast<std::size_t>(row - m_rows.begin());
+    return changeAt(index, index);
 }
 
 std::size_t ListRows::sortedPlace(const ListRow& row) const

@@ -183,7 +183,9 @@ void ListViewBase::sortBy(o7::ListOrder order)
 
 std::vector<int> ListViewBase::getSelectedRows() const
 {
-    return m_updates > 0 ? m_marks.selected : readMarks().selected;
+    std::vector<int> selected = m_updates > 0 ? m_marks.selected : readMarks().selected;
+    std::erase_if(selected, [this](int id) { return m_rows.indexOf(id) < 0; });
+    return selected;
 }
 
 std::optional<int> ListViewBase::getSelectedRow() const
@@ -340,6 +342,8 @@ void ListViewBase::showMarks()
     std::erase_if(m_marks.selected, [this](int id) { return m_rows.indexOf(id) < 0; });
     std::sort(m_marks.selected.begin(), m_marks.selected.end(),
               [this](int a, int b) { return m_rows.indexOf(a) < m_rows.indexOf(b); });
+    m_marks.selected.erase(std::unique(m_marks.selected.begin(), m_marks.selected.end()),
+                           m_marks.selected.end());
     const Marks shown = readMarks();
     if (shown.selected != m_marks.selected) {
         setRowState(-1, 0, LVIS_SELECTED);

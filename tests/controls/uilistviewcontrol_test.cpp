@@ -89,6 +89,7 @@ std::vector<ListRow> sampleRows()
 std::vector<ListRow> manyRows(int count)
 {
     std::vector<ListRow> rows;
+    rows.reserve(static_cast<std::size_t>(count));
     for (int id = 0; id < count; ++id) {
         rows.push_back({id, {CXString::Formatted(L"row %d", id), L"text"}});
     }
@@ -319,7 +320,7 @@ TEST_F(UIListView, RepaintsOnlyForWhatIsNew)
 
 TEST_F(UIListView, SelectionAndFocusStayWithTheirRows)
 {
-    m_list->selectRows({12, 99, 10});
+    m_list->selectRows({12, 99, 10, 12});
     EXPECT_EQ((std::vector<int>{10, 12}), m_list->getSelectedRows()) << "in the order shown";
     EXPECT_EQ(12, m_list->getFocusedRow());
 
@@ -522,6 +523,10 @@ TEST_F(UIListView, TipsShowTheTextsThatAreCutOff)
     // The keyboard shows it at once, wherever the mouse rests.
     m_list->selectRow(10);
     o7::test::sendKey(VK_DOWN);
+    POINT mouse{};
+    ::GetCursorPos(&mouse);
+    ::ScreenToClient(window(), &mouse);
+    ::SendMessageW(window(), WM_MOUSEMOVE, 0, MAKELPARAM(mouse.x, mouse.y)); // it has not moved
     EXPECT_TRUE(isTipShown());
     EXPECT_EQ(kLongName, tipText());
     o7::test::sendKey(VK_DOWN);

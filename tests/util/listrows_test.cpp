@@ -105,8 +105,8 @@ TEST(ListRows, SortsByEveryColumnBothWays)
 {
     struct Row
     {
-        ListOrder order;
-        const char* ids;
+        ListOrder order{};
+        const char* ids = "";
     };
     constexpr Row table[] = {
         {{0, false}, "4 3 1 2"},
@@ -224,6 +224,7 @@ TEST(ListRows, StaysSortedOverEveryChange)
             rows.sortBy({number(2), number(2) != 0});
         }
         std::vector<ListRow> before;
+        before.reserve(static_cast<std::size_t>(rows.count()));
         for (int i = 0; i < rows.count(); ++i) {
             before.push_back(*rows.at(i));
         }

@@ -222,8 +222,12 @@ bool UIListViewControl::wantsMessage(const MSG* message) const
 
 void UIListViewControl::mouseMoved(POINT place)
 {
+    // A tip that comes or goes makes the system tell where the mouse is, though it did not move:
+    // that must not hide the tip which the keyboard has just called.
+    const bool hasMoved = place.x != m_mouse.x || place.y != m_mouse.y;
+    m_mouse = place;
     const int row = m_hasTips ? rowAt(place) : -1;
-    if (row == m_rowUnderMouse) {
+    if (!hasMoved || row == m_rowUnderMouse) {
         return;
     }
     TRACKMOUSEEVENT tracking{};

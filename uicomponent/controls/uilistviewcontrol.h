@@ -60,6 +60,7 @@ private:
     RECT labelArea(int row, int column) const;
 
     o7::RowTip m_tip;
+    POINT m_mouse{-1, -1};
     int m_rowUnderMouse = -1;
     bool m_hasTips = false;
     bool m_takesEnter = false;
