@@ -17,10 +17,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (size < 4) {
         return 0;
     }
-    const int width = data[0] % 40 + 1;
-    const int height = data[1] % 40 + 1;
-    o7::PixelImage image{width, height, {}};
-    for (std::size_t i = 0; i < static_cast<std::size_t>(width * height); ++i) {
+    const std::size_t width = data[0] % 40U + 1;
+    const std::size_t height = data[1] % 40U + 1;
+    o7::PixelImage image{static_cast<int>(width), static_cast<int>(height), {}};
+    for (std::size_t i = 0; i < width * height; ++i) {
         const std::uint32_t alpha = data[i % size];
         image.pixels.push_back(alpha << 24U | alpha / 2 << 8U | alpha);
     }

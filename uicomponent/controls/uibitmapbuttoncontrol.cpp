@@ -93,7 +93,7 @@ UIBitmapButtonControl::UIBitmapButtonControl(HWND parent, int id, UIServices& se
     setVisibleFlag(true);
     createControlWindow(L"BUTTON", kStyle);
     askTheme();
-    subclassWindow(getHwnd());
+    subclassWindow(UIControl::getHwnd());
     setAccessibleRole(ROLE_SYSTEM_PUSHBUTTON);
     load(m_normal, normalBitmap);
     load(m_disabled, disabledBitmap);

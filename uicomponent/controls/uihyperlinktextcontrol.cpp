@@ -3,6 +3,7 @@
 #include "paintbuffer.h"
 #include "parentbackground.h"
 #include "uiwindowsmessage.h"
+#include "windowtext.h"
 
 #include <oleacc.h>
 
@@ -47,7 +48,7 @@ UIHyperlinkTextControl::UIHyperlinkTextControl(HWND parent, int id, UIServices& 
     setControl(this);
     setVisibleFlag(true);
     createControlWindow(L"STATIC", style | kStyle);
-    subclassWindow(getHwnd());
+    subclassWindow(UIControl::getHwnd());
     setAccessibleRole(ROLE_SYSTEM_LINK, STATE_SYSTEM_LINKED | STATE_SYSTEM_FOCUSABLE);
 }
 
@@ -72,7 +73,7 @@ bool UIHyperlinkTextControl::handleMessage(const _UIWindowsMessage& message)
 
 void UIHyperlinkTextControl::clearText() const
 {
-    ::SetWindowTextW(getHwnd(), L"");
+    o7::setWindowTextIfDifferent(getHwnd(), {});
 }
 
 void UIHyperlinkTextControl::boldText(bool /*bold*/)
@@ -93,6 +94,11 @@ LRESULT UIHyperlinkTextControl::subclassWindowProcedure(HWND window, UINT messag
         return TRUE;
     case WM_ERASEBKGND:
         return TRUE; // draw covers everything
+    case WM_SETTEXT: {
+        const LRESULT result = callSavedProcedure(window, message, wParam, lParam);
+        ::InvalidateRect(window, nullptr, FALSE);
+        return result;
+    }
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
         ::InvalidateRect(window, nullptr, FALSE);

@@ -11,7 +11,7 @@ namespace {
 using Bytes = std::span<const std::uint8_t>;
 
 constexpr std::uint64_t kMaxSide = 16384;
-constexpr std::uint64_t kMaxPixels = 32U * 1024 * 1024;
+constexpr std::uint64_t kMaxPixels = std::uint64_t{32} * 1024 * 1024;
 
 bool isSensible(std::uint64_t width, std::uint64_t height)
 {
