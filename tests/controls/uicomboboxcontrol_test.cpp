@@ -96,6 +96,25 @@ TEST_F(UIComboBox, FillsManyEntriesWithOneChangeOfWidth)
     EXPECT_EQ(widthFor(longest), droppedWidth());
 }
 
+TEST_F(UIComboBox, TheWheelPassesOverUnavailableEntries)
+{
+    fill({L"a", L"B", L"c", L"d"});
+    m_list.setSelection(0);
+    struct Turn
+    {
+        int by;
+        WORD held;
+        int selected;
+    };
+    constexpr Turn kTurns[] = {{-60, 0, 0},  {-60, 0, 2}, {-120, MK_CONTROL, 2},
+                               {-240, 0, 3}, {120, 0, 2}, {120, 0, 0}};
+    for (const Turn& turn : kTurns) {
+        ::SendMessageW(m_list.getHwnd(), WM_MOUSEWHEEL,
+                       MAKEWPARAM(turn.held, static_cast<WORD>(turn.by)), 0);
+        EXPECT_EQ(turn.selected, m_list.getSelection(true)) << turn.by;
+    }
+}
+
 TEST_F(UIComboBox, DumpsWhatIsChosenAndWhatIsGrey)
 {
     fill({L"a4", L"FOLIO", L"LEGAL"});

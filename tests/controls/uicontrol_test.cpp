@@ -16,12 +16,15 @@
 #include "input.h"
 #include "resourceguard.h"
 #include "testpage.h"
+#include "windowtext.h"
 
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -316,6 +319,164 @@ TEST(UICheckBoxControl, ShowsStatesSilently)
     ::SendMessageW(control.getHwnd(), BM_CLICK, 0, 0);
     EXPECT_EQ(BST_CHECKED, control.getCheck());
     EXPECT_EQ((std::vector<TestPage::Command>{{kId, BN_CLICKED}}), page.commands);
+}
+
+/// A group of three, of which none is checked, and a check box behind it.
+class RadioGroup : public testing::Test
+{
+protected:
+    RadioGroup()
+    {
+        for (int i = 0; i < 3; ++i) {
+            const DWORD style = i == 0 ? WS_GROUP | WS_TABSTOP : 0;
+            m_radios.push_back(std::make_unique<UIRadioButtonControl>(
+                m_page.page(), kId + i, m_page.services(), m_page.font(), POINT{10, 10 + 12 * i},
+                SIZE{60, 10}, style));
+        }
+        m_behind =
+            std::make_unique<UICheckBoxControl>(m_page.page(), 99, m_page.services(), m_page.font(),
+                                                POINT{10, 60}, SIZE{60, 10}, false);
+        ::SetWindowLongPtrW(m_behind->getHwnd(), GWL_STYLE, WS_GROUP | 0x50010003);
+        m_page.onMessage = [this](const _UIWindowsMessage& message) {
+            if (message.message == WM_COMMAND && HIWORD(message.wParam) == BN_CLICKED) {
+                check(LOWORD(message.wParam) - kId);
+            }
+        };
+        ::SetForegroundWindow(::GetAncestor(m_page.page(), GA_ROOT));
+    }
+    void check(int chosen)
+    {
+        for (int i = 0; i < 3; ++i) {
+            m_radios[static_cast<std::size_t>(i)]->setCheck(i == chosen ? BST_CHECKED
+                                                                        : BST_UNCHECKED);
+        }
+    }
+    HWND window(std::size_t index) const { return m_radios[index]->getHwnd(); }
+
+    TestPage m_page;
+    std::vector<std::unique_ptr<UIRadioButtonControl>> m_radios;
+    std::unique_ptr<UICheckBoxControl> m_behind;
+};
+
+TEST_F(RadioGroup, ArrowKeysGoRoundInsideTheGroup)
+{
+    ::SetFocus(window(0));
+    constexpr std::pair<WORD, std::size_t> kSteps[] = {
+        {VK_DOWN, 1}, {VK_RIGHT, 2}, {VK_DOWN, 0}, {VK_UP, 2}, {VK_LEFT, 1}};
+    for (const auto& [key, reached] : kSteps) {
+        o7::test::sendKey(key);
+        EXPECT_EQ(window(reached), ::GetFocus());
+        EXPECT_EQ(BST_CHECKED, m_radios[reached]->getCheck());
+        EXPECT_EQ(L"radio " + std::to_wstring(kId + static_cast<int>(reached)) + L" \"\" checked\n",
+                  o7::test::dumpOf(*m_radios[reached]));
+    }
+}
+
+TEST_F(RadioGroup, TabStopsAtTheCheckedOneOnly)
+{
+    const auto stops = [&] {
+        std::string found;
+        for (std::size_t i = 0; i < 3; ++i) {
+            found += (::GetWindowLongPtrW(window(i), GWL_STYLE) & WS_TABSTOP) != 0 ? 'T' : '-';
+        }
+        return found;
+    };
+    EXPECT_EQ("T--", stops()) << "as the style says while none is checked";
+    constexpr std::pair<int, const char*> kChecks[] = {
+        {1, "-T-"}, {2, "--T"}, {0, "T--"}, {2, "--T"}, {-1, "--T"}};
+    for (const auto& [checked, expected] : kChecks) {
+        check(checked);
+        EXPECT_EQ(expected, stops()) << checked;
+    }
+    EXPECT_TRUE(::GetWindowLongPtrW(m_behind->getHwnd(), GWL_STYLE) & WS_TABSTOP);
+}
+
+TEST_F(RadioGroup, AMnemonicChecks)
+{
+    m_radios[1]->setText(L"&Landscape && more");
+    EXPECT_EQ(L"&Landscape && more", o7::windowText(window(1)));
+    ::SetFocus(m_behind->getHwnd());
+    o7::test::sendKey('L', {VK_MENU});
+    EXPECT_EQ(window(1), ::GetFocus());
+    EXPECT_EQ(BST_CHECKED, m_radios[1]->getCheck());
+}
+
+TEST(UIEditControl, KeepsLongTextsButLimitsTyping)
+{
+    TestPage page;
+    UIEditControl edit(page.page(), kId, page.services(), page.font(), kLocation, kSize,
+                       ES_AUTOHSCROLL, true, 3);
+    const std::wstring longText(400, L'x');
+    edit.setText(CXString(std::wstring_view(longText)));
+    EXPECT_EQ(longText, edit.getText().c_str());
+    page.commands.clear();
+    edit.setText(CXString(std::wstring_view(longText)));
+    EXPECT_TRUE(page.commands.empty()) << "the text that stands there is no change";
+
+    ::SetForegroundWindow(::GetAncestor(page.page(), GA_ROOT));
+    ::SetFocus(edit.getHwnd());
+    edit.selectAll();
+    for (const WORD key : {'1', '2', '3', '4'}) {
+        o7::test::sendKey(key);
+    }
+    EXPECT_EQ(L"123", edit.getText());
+}
+
+TEST(UISliderControl, KeepsToItsRangeAndMovesSilently)
+{
+    TestPage page;
+    std::vector<WPARAM> told;
+    page.onMessage = [&](const _UIWindowsMessage& message) {
+        if (message.message == WM_HSCROLL) {
+            told.push_back(LOWORD(message.wParam));
+        }
+    };
+    UISliderControl slider(page.page(), kId, page.services(), page.font(), kLocation, kSize, 0, -5,
+                           5);
+    slider.setSteps(1, 4);
+    constexpr std::pair<int, int> kPositions[] = {{3, 3}, {99, 5}, {-99, -5}, {-1, -1}};
+    for (const auto& [set, reached] : kPositions) {
+        slider.setPosition(set);
+        EXPECT_EQ(reached, slider.getPosition());
+    }
+    EXPECT_TRUE(told.empty());
+    ::SetForegroundWindow(::GetAncestor(page.page(), GA_ROOT));
+    ::SetFocus(slider.getHwnd());
+    o7::test::sendKey(VK_RIGHT);
+    EXPECT_EQ(0, slider.getPosition());
+    o7::test::sendKey(VK_NEXT);
+    EXPECT_EQ(4, slider.getPosition());
+    EXPECT_FALSE(told.empty());
+}
+
+TEST(UISpinControl, CountsFarAndTellsBeforeItSteps)
+{
+    TestPage page;
+    std::vector<int> steps;
+    page.onMessage = [&](const _UIWindowsMessage& message) {
+        if (message.message == WM_NOTIFY &&
+            reinterpret_cast<const NMHDR*>(message.lParam)->code == UDN_DELTAPOS) {
+            steps.push_back(reinterpret_cast<const NMUPDOWN*>(message.lParam)->iDelta);
+        }
+    };
+    UIEditControl edit(page.page(), 8, page.services(), page.font(), {10, 40}, {40, 14}, 0, true,
+                       9);
+    UISpinControl spin(page.page(), kId, page.services(), page.font(), {50, 40}, {10, 14}, 0, true,
+                       0, 1'000'000);
+    spin.setBuddy(edit.getHwnd());
+    constexpr std::pair<int, int> kPositions[] = {
+        {70'000, 70'000}, {2'000'000, 1'000'000}, {-1, 0}};
+    for (const auto& [set, reached] : kPositions) {
+        spin.setPosition(set);
+        EXPECT_EQ(reached, spin.getPosition());
+    }
+    EXPECT_TRUE(edit.getText().IsEmpty()) << "what the buddy shows is its owner's";
+    EXPECT_TRUE(steps.empty());
+    ::SetForegroundWindow(::GetAncestor(page.page(), GA_ROOT));
+    ::SetFocus(edit.getHwnd());
+    o7::test::sendKey(VK_UP);
+    EXPECT_EQ(std::vector<int>{1}, steps);
+    EXPECT_EQ(1, spin.getPosition());
 }
 
 } // namespace

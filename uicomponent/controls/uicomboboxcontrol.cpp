@@ -20,6 +20,32 @@ constexpr o7::EntryListMessages kMessages = {
     CB_GETCURSEL,   CB_SETCURSEL,   CB_GETCOUNT,  CB_GETLBTEXT,    CB_GETLBTEXTLEN,
     CB_GETITEMDATA, CB_SETITEMDATA, CB_ADDSTRING, CB_RESETCONTENT, CB_FINDSTRING};
 
+/// A combo box on a page that is seen already would paint itself anew with its font and with each
+/// height. It paints once, later.
+class PaintLater
+{
+public:
+    PaintLater(HWND parent, HWND window)
+        : m_window((::GetWindowLongPtrW(parent, GWL_STYLE) & WS_VISIBLE) != 0 ? window : nullptr)
+    {
+        if (m_window != nullptr) {
+            ::SendMessageW(m_window, WM_SETREDRAW, FALSE, 0);
+        }
+    }
+    ~PaintLater()
+    {
+        if (m_window != nullptr) {
+            ::SendMessageW(m_window, WM_SETREDRAW, TRUE, 0);
+            ::InvalidateRect(m_window, nullptr, TRUE);
+        }
+    }
+    PaintLater(const PaintLater&) = delete;
+    PaintLater& operator=(const PaintLater&) = delete;
+
+private:
+    HWND m_window;
+};
+
 } // namespace
 
 UIComboBoxControl::UIComboBoxControl(HWND parent, int id, UIServices& services, HFONT font,
@@ -27,14 +53,13 @@ UIComboBoxControl::UIComboBoxControl(HWND parent, int id, UIServices& services, 
     : UIEntryListControl(parent, id, services, font, location, size, kMessages)
 {
     setVisibleFlag(true);
-    createControlWindow(L"COMBOBOX", kStyle);
+    createBareWindow(L"COMBOBOX", kStyle);
     const o7::TextMeasure measure(font);
-    const LPARAM height = measure.fontHeight();
-    // Each change moves the window's parts about, which costs as much as a window.
-    for (const int part : {-1, 0}) {
-        if (send(CB_GETITEMHEIGHT, toIndex(part)) != height) {
-            send(CB_SETITEMHEIGHT, toIndex(part), height);
-        }
+    {
+        const PaintLater paintLater(parent, UIControl::getHwnd());
+        giveFont();
+        setItemHeight(-1, measure.fontHeight());
+        setItemHeight(0, measure.fontHeight());
     }
     m_margin = measure.measure(kReferenceCharacter).cx;
     m_widestItem = static_cast<int>(send(CB_GETDROPPEDWIDTH));
@@ -51,10 +76,12 @@ int UIComboBoxControl::addItem(const CXString& text)
     if (index < 0) {
         return 0;
     }
-    const int width = m_measure != nullptr ? m_measure->measure(text.View()).cx
-                                           : o7::TextMeasure(itemFont()).measure(text.View()).cx;
-    m_widestItem = std::max(m_widestItem, width + m_margin);
     if (m_measure == nullptr) {
+        m_measure = std::make_unique<o7::TextMeasure>(itemFont());
+    }
+    m_widestItem =
+        std::max(m_widestItem, static_cast<int>(m_measure->measure(text.View()).cx) + m_margin);
+    if (!m_isFilling) {
         applyDroppedWidth(static_cast<int>(index) + 1);
     }
     return static_cast<int>(index);
@@ -67,11 +94,12 @@ void UIComboBoxControl::dump() const
 
 UIComboBoxControl::Fill::Fill(UIComboBoxControl& combo) : m_combo(combo)
 {
-    combo.m_measure = std::make_unique<o7::TextMeasure>(combo.itemFont());
+    combo.m_isFilling = true;
 }
 
 UIComboBoxControl::Fill::~Fill()
 {
+    m_combo.m_isFilling = false;
     m_combo.m_measure.reset();
     m_combo.applyDroppedWidth(m_combo.getCount());
 }
@@ -110,7 +138,38 @@ LRESULT UIComboBoxControl::subclassWindowProcedure(HWND window, UINT message, WP
     if (message == WM_CTLCOLORLISTBOX && m_droppedList == nullptr) {
         m_droppedList = std::make_unique<o7::DroppedList>(*this, reinterpret_cast<HWND>(lParam));
     }
+    if (message == WM_PAINT || message == WM_SETFONT) {
+        m_measure.reset();
+    }
+    if (message == WM_MOUSEWHEEL && turnWheel(wParam)) {
+        return 0;
+    }
     return UIEntryListControl::subclassWindowProcedure(window, message, wParam, lParam);
+}
+
+/// Over a closed list the wheel goes on as the arrow keys do, and so passes over grey entries.
+bool UIComboBoxControl::turnWheel(WPARAM wParam)
+{
+    if (isOpen() || (GET_KEYSTATE_WPARAM(wParam) & (MK_SHIFT | MK_CONTROL)) != 0) {
+        return false;
+    }
+    // Fine wheels turn by less than an entry at a time.
+    m_wheel += GET_WHEEL_DELTA_WPARAM(wParam);
+    for (; m_wheel >= WHEEL_DELTA; m_wheel -= WHEEL_DELTA) {
+        send(WM_KEYDOWN, VK_UP);
+    }
+    for (; m_wheel <= -WHEEL_DELTA; m_wheel += WHEEL_DELTA) {
+        send(WM_KEYDOWN, VK_DOWN);
+    }
+    return true;
+}
+
+/// Each change moves the parts of the window about.
+void UIComboBoxControl::setItemHeight(int part, int height) const
+{
+    if (send(CB_GETITEMHEIGHT, toIndex(part)) != height) {
+        send(CB_SETITEMHEIGHT, toIndex(part), height);
+    }
 }
 
 HFONT UIComboBoxControl::itemFont() const

@@ -48,13 +48,17 @@ protected:
 private:
     friend o7::DroppedList;
 
+    bool turnWheel(WPARAM wParam);
+    void setItemHeight(int part, int height) const;
     HFONT itemFont() const;
     void applyDroppedWidth(int count);
 
     std::unique_ptr<o7::DroppedList> m_droppedList; ///< from the first dropping on
-    std::unique_ptr<o7::TextMeasure> m_measure;     ///< while a Fill lives
+    std::unique_ptr<o7::TextMeasure> m_measure;     ///< while entries are added, until painted
     int m_widestItem = 0;                           ///< running maximum of the dropped width
     int m_droppedWidth = 0;                         ///< what the window was given last
     int m_margin = 0;                               ///< width of the reference character
     int m_minVisible = 0;
+    int m_wheel = 0;          ///< what it has turned and that made no entry yet
+    bool m_isFilling = false; ///< a Fill lives
 };

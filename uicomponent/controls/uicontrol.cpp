@@ -124,8 +124,18 @@ o7::Accessibility& UIControl::accessibility()
 
 void UIControl::createControlWindow(const wchar_t* className, DWORD style)
 {
+    createBareWindow(className, style);
+    giveFont();
+}
+
+void UIControl::createBareWindow(const wchar_t* className, DWORD style)
+{
     m_window.reset(IsolationAware::createWindow(0, className, style, {m_x, m_y, m_width, m_height},
                                                 m_parent, m_id));
+}
+
+void UIControl::giveFont()
+{
     ::SendMessageW(getHwnd(), WM_SETFONT, reinterpret_cast<WPARAM>(m_parentFont), FALSE);
 }
 

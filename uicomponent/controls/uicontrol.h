@@ -73,6 +73,9 @@ public:
 protected:
     /// Creates the window inside the module's activation context and gives it the parent's font.
     void createControlWindow(const wchar_t* className, DWORD style);
+    /// The two halves of it, for a control that has something to do between them.
+    void createBareWindow(const wchar_t* className, DWORD style);
+    void giveFont();
     void setVisibleFlag(bool visible) noexcept { m_visible = visible; }
     DialogConversion& getConversion() const noexcept { return m_conversion; }
     /// What a WM_DRAWITEM for this control's window holds; null for every other message.

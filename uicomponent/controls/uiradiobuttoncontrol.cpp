@@ -4,10 +4,50 @@
 #include "cxstring.h"
 #include "windowtext.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | BS_RADIOBUTTON;
 static_assert(kStyle == 0x50000004);
+
+bool hasStyle(HWND window, LONG_PTR bit)
+{
+    return (::GetWindowLongPtrW(window, GWL_STYLE) & bit) != 0;
+}
+
+void setTabStop(HWND window, bool stops)
+{
+    const LONG_PTR style = ::GetWindowLongPtrW(window, GWL_STYLE);
+    const LONG_PTR wanted = stops ? style | WS_TABSTOP : style & ~LONG_PTR{WS_TABSTOP};
+    if (wanted != style) {
+        ::SetWindowLongPtrW(window, GWL_STYLE, wanted);
+    }
+}
+
+/// Makes the button the only one of its group that Tab stops at. Windows does so for the buttons
+/// that change their check, which leaves the first of a fresh group out.
+void claimTabStop(HWND button)
+{
+    HWND first = button;
+    while (first != nullptr && !hasStyle(first, WS_GROUP)) {
+        first = ::GetWindow(first, GW_HWNDPREV);
+    }
+    for (HWND other = first; other != nullptr; other = ::GetWindow(other, GW_HWNDNEXT)) {
+        if (other != first && hasStyle(other, WS_GROUP)) {
+            break; // the next group
+        }
+        setTabStop(other, other == button);
+    }
+}
+
+bool isArrowKeyDown()
+{
+    constexpr int kArrows[] = {VK_LEFT, VK_UP, VK_RIGHT, VK_DOWN};
+    return std::any_of(std::begin(kArrows), std::end(kArrows),
+                       [](int key) { return ::GetKeyState(key) < 0; });
+}
 
 } // namespace
 
@@ -17,9 +57,13 @@ UIRadioButtonControl::UIRadioButtonControl(HWND parent, int id, UIServices& serv
 {
     setVisibleFlag(true);
     createControlWindow(L"BUTTON", kStyle | style);
+    subclassWindow(getHwnd());
 }
 
-UIRadioButtonControl::~UIRadioButtonControl() = default;
+UIRadioButtonControl::~UIRadioButtonControl()
+{
+    restoreProcedure();
+}
 
 void UIRadioButtonControl::dump() const
 {
@@ -38,5 +82,27 @@ int UIRadioButtonControl::getCheck() const
 
 void UIRadioButtonControl::setCheck(int state)
 {
+    if (getCheck() == state) {
+        return;
+    }
+    const bool wasTabStop = hasStyle(getHwnd(), WS_TABSTOP);
     o7::setCheckState(getHwnd(), state);
+    if (state == BST_CHECKED) {
+        claimTabStop(getHwnd());
+    } else {
+        // Windows takes the stop away with the check; a group without any could not be reached.
+        setTabStop(getHwnd(), wasTabStop);
+    }
+}
+
+LRESULT UIRadioButtonControl::subclassWindowProcedure(HWND window, UINT message, WPARAM wParam,
+                                                      LPARAM lParam)
+{
+    const LRESULT result = callSavedProcedure(window, message, wParam, lParam);
+    // An arrow key chooses the button that it reaches. Some systems say so, others only move there.
+    if (message == WM_SETFOCUS && isArrowKeyDown() && getCheck() == BST_UNCHECKED) {
+        ::SendMessageW(getParentHwnd(), WM_COMMAND, MAKEWPARAM(getId(), BN_CLICKED),
+                       reinterpret_cast<LPARAM>(window));
+    }
+    return result;
 }

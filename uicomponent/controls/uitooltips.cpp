@@ -17,12 +17,18 @@ static_assert(kStyle == 0x80000003);
 constexpr int kMaximumWidth = 800; ///< pixels; longer texts go on in the next line
 constexpr int kTrackingOffset = 16;
 
+/// A page laid out from right to left is read that way.
+bool isRightToLeft(HWND window)
+{
+    return (::GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
+}
+
 /// A tool without its text. The size is the one that every version of the library knows.
 TTTOOLINFOW toolInfo(HWND owner, HWND tool, UINT flags)
 {
     TTTOOLINFOW info{};
     info.cbSize = TTTOOLINFOW_V2_SIZE;
-    info.uFlags = flags;
+    info.uFlags = flags | (isRightToLeft(owner) ? TTF_RTLREADING : 0U);
     info.hwnd = owner;
     info.uId = reinterpret_cast<UINT_PTR>(tool);
     return info;
@@ -34,11 +40,6 @@ TTTOOLINFOW windowTool(HWND owner, HWND tool, HINSTANCE instance, INT_PTR text)
     info.hinst = instance;
     info.lpszText = reinterpret_cast<wchar_t*>(text);
     return info;
-}
-
-bool isRightToLeft(HWND window)
-{
-    return (::GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
 }
 
 LRESULT send(HWND window, UINT message, WPARAM wParam, TTTOOLINFOW& info)
@@ -139,6 +140,8 @@ LRESULT UIToolTips::ToolExists()
 void UIToolTips::AddToolTipAndTruncatedLabel(ControlType type, HWND control, INT_PTR extraText,
                                              SIZE area, const CXString& label, HFONT font)
 {
+    // A label that is given again, with another text or area, has its tip already.
+    DeleteToolFromToolTip(control);
     CXString tip = o7::withoutMnemonics(label);
     if (o7::TextMeasure(font).measure(tip.View()).cx <= area.cx) {
         if (extraText != 0) {
@@ -185,17 +188,15 @@ void UIToolTips::relayMouse(const _UIWindowsMessage& message)
 void UIToolTips::showBeside(HWND window, const RECT& part, const CXString& text)
 {
     hideBeside(window);
-    const bool isMirrored = isRightToLeft(m_owner);
-    TTTOOLINFOW info =
-        toolInfo(m_owner, window, TTF_TRACK | TTF_ABSOLUTE | (isMirrored ? TTF_RTLREADING : 0U));
+    TTTOOLINFOW info = toolInfo(m_owner, window, TTF_TRACK | TTF_ABSOLUTE);
     info.lpszText = const_cast<wchar_t*>(text.c_str());
     send(getHwnd(), TTM_ADDTOOLW, 0, info);
     const auto extent = static_cast<DWORD>(send(getHwnd(), TTM_GETBUBBLESIZE, 0, info));
     MONITORINFO monitor{};
     monitor.cbSize = sizeof monitor;
     ::GetMonitorInfoW(::MonitorFromRect(&part, MONITOR_DEFAULTTONEAREST), &monitor);
-    const POINT place =
-        o7::placeBeside(part, {LOWORD(extent), HIWORD(extent)}, monitor.rcWork, isMirrored);
+    const POINT place = o7::placeBeside(part, {LOWORD(extent), HIWORD(extent)}, monitor.rcWork,
+                                        isRightToLeft(m_owner));
     ::SendMessageW(getHwnd(), TTM_TRACKPOSITION, 0, MAKELPARAM(place.x, place.y));
     send(getHwnd(), TTM_TRACKACTIVATE, TRUE, info);
 }
