@@ -1,10 +1,12 @@
 // Setting what a control shows already paints nothing, whatever the control and the setter.
 
+#include "uibitmapbuttoncontrol.h"
 #include "uibuttoncontrol.h"
 #include "uicheckboxcontrol.h"
 #include "uicomboboxcontrol.h"
 #include "uieditcontrol.h"
 #include "uigroupboxcontrol.h"
+#include "uihyperlinktextcontrol.h"
 #include "uilistboxcontrol.h"
 #include "uiradiobuttoncontrol.h"
 #include "uislidercontrol.h"
@@ -16,6 +18,7 @@
 #include "itemrecord.h"
 #include "messagerecorder.h"
 #include "testpage.h"
+#include "uiresourceids.h"
 
 #include <gtest/gtest.h>
 
@@ -84,12 +87,20 @@ ControlPtr makeSpin(TestPage& page)
 {
     return make<UISpinControl>(page, 0U, true, 0, 10);
 }
+ControlPtr makeSign(TestPage& page)
+{
+    return make<UIBitmapButtonControl>(page, INT_PTR{O7_BITMAP_ADD}, INT_PTR{0});
+}
+ControlPtr makeLink(TestPage& page)
+{
+    return make<UIHyperlinkTextControl>(page, DWORD{WS_TABSTOP});
+}
 
 using Maker = ControlPtr (*)(TestPage&);
 using Setter = std::function<void(UIControl&)>;
 
-constexpr Maker kMakers[] = {makeText, makeButton, makeCheck, makeRadio,  makeGroup,
-                             makeEdit, makeCombo,  makeList,  makeSlider, makeSpin};
+constexpr Maker kMakers[] = {makeText,  makeButton, makeCheck,  makeRadio, makeGroup, makeEdit,
+                             makeCombo, makeList,   makeSlider, makeSpin,  makeSign,  makeLink};
 
 /// Has the control do its own operation.
 template <class Control> Setter on(void (*operation)(Control&))
@@ -117,6 +128,9 @@ const Row kRows[] = {
     {"text", makeText, on<UITextControl>([](auto& c) { c.setText(L"text"); })},
     {"bold", makeText, on<UITextControl>([](auto& c) { c.boldText(true); })},
     {"name", makeButton, on<UIButtonControl>([](auto& c) { c.setButtonDisplayName(L"R&D"); })},
+    {"sign", makeSign,
+     on<UIBitmapButtonControl>([](auto& c) { c.setBitmaps(O7_BITMAP_REMOVE, 0); })},
+    {"link", makeLink, on<UIHyperlinkTextControl>([](auto& c) { c.setText(L"Help"); })},
     {"check", makeCheck, on<UICheckBoxControl>([](auto& c) { c.setCheck(BST_CHECKED); })},
     {"radio", makeRadio, on<UIRadioButtonControl>([](auto& c) { c.setCheck(BST_CHECKED); })},
     {"radio text", makeRadio, on<UIRadioButtonControl>([](auto& c) { c.setText(L"&Off"); })},

@@ -1,9 +1,11 @@
 #include "uicontrol.h"
 
+#include "accessibility.h"
 #include "dialogconversion.h"
 #include "isolationaware.h"
 #include "uidump.h"
 #include "uiservices.h"
+#include "uiwindowsmessage.h"
 #include "windowtext.h"
 
 #include <cstdlib>
@@ -80,6 +82,44 @@ void UIControl::setSize(SIZE size, bool inPixels)
 {
     const RECT place = toPixels({0, 0, size.cx, size.cy}, inPixels);
     placeWindow({m_x, m_y}, {place.right, place.bottom});
+}
+
+DRAWITEMSTRUCT* UIControl::itemToDraw(const _UIWindowsMessage& message) const noexcept
+{
+    if (message.message != WM_DRAWITEM) {
+        return nullptr;
+    }
+    auto* item = reinterpret_cast<DRAWITEMSTRUCT*>(message.lParam);
+    return item->hwndItem == m_window.get() ? item : nullptr;
+}
+
+void UIControl::setAccessibleName(const CXString& name)
+{
+    if (m_window) {
+        accessibility().setName(name);
+    }
+}
+
+void UIControl::setAccessibleRole(LONG role, LONG state)
+{
+    if (m_window) {
+        accessibility().setRole(role, state);
+    }
+}
+
+void UIControl::onAccessibilityMessage(UINT message) noexcept
+{
+    if (m_accessibility) {
+        m_accessibility->handleMessage(message);
+    }
+}
+
+o7::Accessibility& UIControl::accessibility()
+{
+    if (!m_accessibility) {
+        m_accessibility = std::make_unique<o7::Accessibility>(getHwnd());
+    }
+    return *m_accessibility;
 }
 
 void UIControl::createControlWindow(const wchar_t* className, DWORD style)

@@ -16,7 +16,9 @@ UIGroupBoxControl::UIGroupBoxControl(HWND parent, int id, UIServices& services, 
 {
     setVisibleFlag(true);
     createControlWindow(L"BUTTON", kStyle);
-    caption.SetWindowTextW(getHwnd());
+    if (!caption.IsEmpty()) {
+        caption.SetWindowTextW(getHwnd());
+    }
 }
 
 UIGroupBoxControl::~UIGroupBoxControl() = default;
