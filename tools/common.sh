@@ -14,7 +14,9 @@ o7_die() {
 
 # --- packages -------------------------------------------------------------------------------
 
-O7_PACKAGES_BUILD=(cmake ninja-build g++ g++-mingw-w64-x86-64 googletest nlohmann-json3-dev)
+# The last one compiles the help files of the products.
+O7_PACKAGES_BUILD=(cmake ninja-build g++ g++-mingw-w64-x86-64 googletest nlohmann-json3-dev
+    fp-utils-3.2.2)
 # The fonts decide how wide texts are: without them a display shows other ones, or none. The last two
 # have the Japanese and the Arabic letters.
 O7_PACKAGES_WINE=(wine64 wine xvfb fonts-liberation fonts-vlgothic fonts-dejavu-core)

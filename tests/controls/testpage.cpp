@@ -74,13 +74,16 @@ INT_PTR CALLBACK TestPage::procedure(HWND window, UINT message, WPARAM wParam, L
         ::SetWindowLongPtrW(window, DWLP_USER, lParam);
     }
     auto* page = reinterpret_cast<TestPage*>(::GetWindowLongPtrW(window, DWLP_USER));
+    const _UIWindowsMessage packed{UIMessageKind::TabPage, window, message, wParam, lParam};
     if (page != nullptr && page->onMessage) {
-        page->onMessage({UIMessageKind::TabPage, window, message, wParam, lParam});
+        page->onMessage(packed);
     }
     if (page != nullptr && message == WM_COMMAND) {
         page->commands.push_back({LOWORD(wParam), HIWORD(wParam)});
     }
-    return FALSE;
+    const bool isClaimed =
+        page != nullptr && page->handler != nullptr && page->handler->handleMessage(packed);
+    return isClaimed ? packed.result : FALSE;
 }
 
 WindowWatch::WindowWatch(std::function<void(HWND)> beforeDestruction)

@@ -55,7 +55,7 @@ constexpr UIContainerRecord kCoversPage = page(4, O7STR_TAB_COVERS, kCoversColum
 
 // Page "Image"
 constexpr UIMoleculeRecord kQualityGroup[] = {s::kPrintQuality, s::kResolution, s::kHalftone,
-                                              s::kImageCompression, s::kEdgeSmoothing};
+                                              s::kImageCompression};
 constexpr UIMoleculeRecord kSpecialColourGroup[] = {s::kSpecialColour, s::kSpecialColourArea};
 constexpr UIMoleculeRecord kStampsGroup[] = {s::kWatermark, s::kPageNumbers};
 constexpr UIMoleculeRecord kImageLeft[] = {group(O7STR_G_QUALITY, kQualityGroup)};
