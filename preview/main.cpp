@@ -9,6 +9,7 @@
 
 #include "console.h"
 #include "cxstring.h"
+#include "galleryrun.h"
 #include "packagecheckrun.h"
 #include "previewoptions.h"
 #include "previewrun.h"
@@ -65,6 +66,9 @@ o7::ExitCode runPreview(const std::vector<std::wstring>& words)
                                    products.empty() ? programFolder() / "products" : products);
     }
     const ComApartment apartment;
+    if (parsed.options.gallery) {
+        return o7::runGallery(parsed.options);
+    }
     return o7::PreviewRun(parsed.options, programFolder()).run();
 }
 

@@ -23,7 +23,7 @@ constexpr std::wstring_view kUsage =
     L"Usage: o7preview [options]\n"
     L"Opens the pages of a product without installing a driver.\n"
     L"\n"
-    L"  --product P      folder name of the product package (default: the first there is)\n"
+    L"  --product P      folder name of the product package (default: office-c430)\n"
     L"  --products DIR   where the packages are (default: products beside the program)\n"
     L"  --mode N         1 printing preferences, 2 device settings, 3 compact dialog,\n"
     L"                   4 printing defaults (default: 1, with --entry dialog 3)\n"
@@ -35,6 +35,9 @@ constexpr std::wstring_view kUsage =
     L"  --family N       run with another device family (feature 285), keep nothing\n"
     L"  --check PACKAGE  open nothing; say all that is wrong with a product package: its\n"
     L"                   folder, its package.json, or the name of a product\n"
+    L"  --gallery        show every control in every state; takes --shots and --snapshot\n"
+    L"  --mirrored       the gallery right to left\n"
+    L"  --classic        the gallery without themes\n"
     L"  --help           this text\n"
     L"\n"
     L"Ends with 0 when everything asked for was done, 1 when something failed (or a\n"
@@ -121,6 +124,28 @@ constexpr std::array<OptionRow, 10> kOptions{{
      [](PreviewOptions& o, const std::wstring& v) { return setText(o.checkedPackage, v); }},
 }};
 
+struct FlagRow
+{
+    std::wstring_view name;
+    bool PreviewOptions::*field;
+};
+
+constexpr std::array<FlagRow, 5> kFlags{{
+    {L"--gallery", &PreviewOptions::gallery},
+    {L"--mirrored", &PreviewOptions::mirrored},
+    {L"--classic", &PreviewOptions::classic},
+    {L"--help", &PreviewOptions::help},
+    {L"-h", &PreviewOptions::help},
+}};
+
+/// What is wrong with options that are right one by one; empty when nothing is.
+std::wstring_view conflictIn(const PreviewOptions& options)
+{
+    return (options.mirrored || options.classic) && !options.gallery
+               ? L"Options --mirrored and --classic go with --gallery."
+               : L"";
+}
+
 } // namespace
 
 ParsedOptions parsePreviewOptions(std::span<const std::wstring> words)
@@ -128,8 +153,9 @@ ParsedOptions parsePreviewOptions(std::span<const std::wstring> words)
     ParsedOptions result;
     for (std::size_t i = 0; i < words.size(); ++i) {
         const std::wstring& word = words[i];
-        if (word == L"--help" || word == L"-h") {
-            result.options.help = true;
+        if (const auto* const flag = std::ranges::find(kFlags, word, &FlagRow::name);
+            flag != kFlags.end()) {
+            result.options.*flag->field = true;
             continue;
         }
         const std::size_t equals = word.find(L'=');
@@ -151,6 +177,7 @@ ParsedOptions parsePreviewOptions(std::span<const std::wstring> words)
             return result;
         }
     }
+    result.error = conflictIn(result.options);
     return result;
 }
 

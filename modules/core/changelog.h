@@ -58,7 +58,11 @@ public:
     void Note(FeatureNode& feature, unsigned bits);
     /// Records how to take a change back; to be asked for with IsRecording() first, because outside
     /// transactions nothing is taken back.
-    void Record(Undo undo) { m_levels.back().undo.push_back(std::move(undo)); }
+    Undo& Record(Undo undo)
+    {
+        m_levels.back().undo.push_back(std::move(undo));
+        return m_levels.back().undo.back();
+    }
     bool IsRecording() const { return IsAnyOpen() && !m_muted; }
     /// While muted, changes are neither noted nor recorded: somebody tries something and takes it
     /// back by itself.

@@ -34,6 +34,9 @@ public:
     /// The constraints by which choices clash now, in no order.
     const std::vector<Constraint*>& Broken() const { return m_broken; }
 
+    /// A number that no constraint's `seen` has.
+    std::uint64_t NewMark() { return ++m_marks; }
+
     /// How many conditions have been asked.
     std::uint64_t Evaluations() const { return m_evaluations; }
 
@@ -57,6 +60,7 @@ private:
     std::vector<Constraint*> m_toggled;
     std::vector<Constraint*> m_broken;
     std::uint64_t m_evaluations = 0;
+    std::uint64_t m_marks = 0;
 };
 
 } // namespace o7

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "constraint.h"
+#include "deliverylist.h"
 #include "description.h"
 #include "ifeaturenode.h"
 
@@ -114,6 +115,7 @@ public:
     std::vector<Constraint*> effects;     ///< All constraints with this feature as target.
     std::vector<std::unique_ptr<Constraint>> constraints; ///< Those declared here.
     std::vector<std::shared_ptr<Registration>> registrations;
+    std::unique_ptr<DeliveryList> delivery; ///< Null until somebody registered.
 
 private:
     bool IsAlive() const { return m_model != nullptr && m_attached; }

@@ -29,15 +29,22 @@ void SettingsWriter::Write(FeatureNode& feature, FeatureValue value, bool specif
 {
     if (feature.HasStored(value, specified) && (feature.FollowsDefault() || !followsDefault))
         return;
-    const bool wasSpecified = feature.StoredSpecified();
-    const bool followed = feature.FollowsDefault();
-    FeatureValue before = feature.Release();
+    // The record first: without it nothing may have changed.
+    if (m_log.IsRecording()) {
+        auto& undo = m_log.Record({ChangeLog::Undo::Kind::Value, feature.shared_from_this(), {},
+                                   feature.StoredSpecified(), feature.FollowsDefault(), nullptr, 0});
+        undo.value = feature.Release();
+    }
     feature.Store(std::move(value), specified, followsDefault);
-    if (m_log.IsRecording())
-        m_log.Record({ChangeLog::Undo::Kind::Value, feature.shared_from_this(), std::move(before),
-                      wasSpecified, followed, nullptr, 0});
     m_log.Note(feature, kValueBit);
     m_engine.ValueChanged(feature);
+}
+
+bool SettingsWriter::CanTake(const FeatureNode& feature, FeatureValue& value) const
+{
+    const FeatureDescription& description = feature.Description();
+    return IsWritable(feature) &&
+           (value.index() == 0 ? !description.flags.required : description.Accepts(value));
 }
 
 void SettingsWriter::Force(FeatureNode& feature, FeatureValue value)

@@ -138,6 +138,17 @@ CXString StateInterpreter::Reason(const Constraint& constraint, const ValueId* o
     return reason.IsBlank() ? CXString::Formatted(L"#%u", constraint.reason) : reason;
 }
 
+FeatureValue StateInterpreter::Shown(const FeatureNode& feature, const FeatureValue& value)
+{
+    const auto* option = std::get_if<ValueId>(&value);
+    return option != nullptr ? FeatureValue(Complete(feature, *option)) : value;
+}
+
+FeatureValue StateInterpreter::ShownPresent(const FeatureNode& feature)
+{
+    return feature.StoredSpecified() ? Shown(feature, feature.StoredValue()) : FeatureValue();
+}
+
 void StateInterpreter::AddValueEffect(const FeatureNode& feature, const Constraint& constraint,
                                       InterpretedState& state)
 {

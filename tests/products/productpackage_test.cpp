@@ -296,7 +296,7 @@ const Story kOfficeStories[] = {
 };
 
 const Story kProductionStories[] = {
-    {"no binder, no binding", {{3002, 5111}}, 3152, 0, Effect::Disabled},
+    {"no binder, no binding", {{3055, 5758}, {3002, 5111}}, 3152, 5497, Effect::Disabled},
     {"rings without holes", {{3055, 5759}, {3002, 5111}, {3152, 5495}}, 3013, 0, Effect::Conflict},
     {"rings with holes",
      {{3055, 5759}, {3056, 5765}, {3002, 5111}, {3013, 5360}, {3152, 5495}},
