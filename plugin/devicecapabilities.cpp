@@ -21,6 +21,14 @@ constexpr auto kQuietly = FeatureRef::kDoNotAssertIfUnsupported;
 using Features = ListOfFeaturesRef;
 using Names = std::vector<CXString>;
 
+/// What a field can say for the device as it is.
+struct Choice
+{
+    int number;
+    ValueId value;
+};
+using Choices = std::vector<Choice>;
+
 /// The answer to one question while it is written. The buffer is the caller's, and may be absent.
 class Output
 {
@@ -50,11 +58,66 @@ private:
     std::uint8_t* m_at;
 };
 
-template <class Number>
-std::uint32_t numbers(const Features& features, DocumentField field, Output output)
+bool isDeviceFeature(IDataModel& model, const FeatureIdWithContext& feature)
 {
-    const auto choices = fieldChoices(features, field);
-    for (const FieldChoice& choice : choices) {
+    const auto capabilities = model.GetFeatureRef(feature)->GetCapabilities();
+    return capabilities && capabilities->IsDeviceFeature();
+}
+
+/// Whether a feature or one of its options is not to be had because of what is installed, whatever
+/// else a document chooses.
+bool isRuledOut(IDataModel& model, const FeatureIdWithContext& feature, const ValueId& option)
+{
+    return std::ranges::any_of(model.GetStateReasons(feature, option), [&](const StateReason& r) {
+        const bool limits = r.effect == EffectKind::Disable || r.effect == EffectKind::Clear ||
+                            r.effect == EffectKind::Hide;
+        return limits && !r.causes.empty() &&
+               std::ranges::all_of(r.causes, [&](const FeatureIdWithContext& cause) {
+                   return isDeviceFeature(model, cause);
+               });
+    });
+}
+
+/// The options of a feature that can be had, in the product's order. Of a feature that as a whole
+/// cannot be changed only its present value is left.
+std::vector<ValueId> offeredOptions(IDataModel& model, const OptionFeatureRef& feature)
+{
+    std::vector<ValueId> values;
+    const FeatureIdWithContext& id = feature.GetFeatureIdWithContextRef();
+    const bool fixed = isRuledOut(model, id, ValueId());
+    const auto options = feature.GetOptionCapabilities();
+    for (std::size_t i = 0; i < options->GetNumberOfValues(); ++i) {
+        const OptionWithState& option = options->GetOptionWithState(i);
+        const ValueId& value = option.GetValueId();
+        const bool isOffered = fixed ? value == feature.GetValue()
+                                     : !option.GetInterpretedState().IsHidden() &&
+                                           (!option.GetInterpretedState().IsDisabled() ||
+                                            !isRuledOut(model, id, value));
+        if (isOffered) {
+            values.push_back(value);
+        }
+    }
+    return values;
+}
+
+/// Without repeating a number.
+Choices choicesOf(IDataModel& model, DocumentField field)
+{
+    Choices choices;
+    for (const ValueId& value :
+         offeredOptions(model, featureOf(model.GetFullListOfFeatures(), field))) {
+        const auto number = systemNumber(field, value);
+        if (number && std::ranges::find(choices, *number, &Choice::number) == choices.end()) {
+            choices.push_back({*number, value});
+        }
+    }
+    return choices;
+}
+
+template <class Number> std::uint32_t numbers(IDataModel& model, DocumentField field, Output output)
+{
+    const auto choices = choicesOf(model, field);
+    for (const Choice& choice : choices) {
         output.put(static_cast<Number>(choice.number));
     }
     return static_cast<std::uint32_t>(choices.size());
@@ -68,19 +131,20 @@ std::uint32_t names(const Names& texts, std::size_t length, Output output)
     return static_cast<std::uint32_t>(texts.size());
 }
 
-Names namesOf(const Features& features, DocumentField field)
+Names namesOf(IDataModel& model, DocumentField field)
 {
     Names texts;
-    for (const FieldChoice& choice : fieldChoices(features, field)) {
+    for (const Choice& choice : choicesOf(model, field)) {
         texts.push_back(choice.value.GetDisplayString());
     }
     return texts;
 }
 
-std::uint32_t paperSizes(const Features& features, Output output)
+std::uint32_t paperSizes(IDataModel& model, Output output)
 {
-    const auto papers = fieldChoices(features, DocumentField::PaperSize);
-    for (const FieldChoice& paper : papers) {
+    const Features features = model.GetFullListOfFeatures();
+    const auto papers = choicesOf(model, DocumentField::PaperSize);
+    for (const Choice& paper : papers) {
         const PaperSize size = sizeOfPaper(features, paper.value);
         output.put(static_cast<std::int32_t>(size.width));
         output.put(static_cast<std::int32_t>(size.height));
@@ -88,10 +152,10 @@ std::uint32_t paperSizes(const Features& features, Output output)
     return static_cast<std::uint32_t>(papers.size());
 }
 
-std::uint32_t resolutions(const Features& features, Output output)
+std::uint32_t resolutions(IDataModel& model, Output output)
 {
-    const auto choices = fieldChoices(features, DocumentField::Quality);
-    for (const FieldChoice& choice : choices) {
+    const auto choices = choicesOf(model, DocumentField::Quality);
+    for (const Choice& choice : choices) {
         const auto dots = resolutionOf(choice.value.GetValueName()).value_or(DotsPerInch{});
         output.put(static_cast<std::int32_t>(dots.across));
         output.put(static_cast<std::int32_t>(dots.down));
@@ -99,16 +163,17 @@ std::uint32_t resolutions(const Features& features, Output output)
     return static_cast<std::uint32_t>(choices.size());
 }
 
-bool offers(const Features& features, DocumentField field, int number)
+bool offers(IDataModel& model, DocumentField field, int number)
 {
-    const auto choices = fieldChoices(features, field);
-    return std::ranges::find(choices, number, &FieldChoice::number) != choices.end();
+    const auto choices = choicesOf(model, field);
+    return std::ranges::find(choices, number, &Choice::number) != choices.end();
 }
 
 /// Width and length of the smallest or the largest paper that can be had, custom sizes included,
 /// as two 16-bit numbers in one.
-std::uint32_t extent(const Features& features, bool largest)
+std::uint32_t extent(IDataModel& model, bool largest)
 {
+    const Features features = model.GetFullListOfFeatures();
     PaperSize found;
     const auto consider = [&](int width, int height) {
         const auto better = [largest](int a, int b) { return largest ? a > b : a < b; };
@@ -119,7 +184,7 @@ std::uint32_t extent(const Features& features, bool largest)
             found.height = height;
         }
     };
-    for (const FieldChoice& paper : fieldChoices(features, DocumentField::PaperSize)) {
+    for (const Choice& paper : choicesOf(model, DocumentField::PaperSize)) {
         if (paper.value == kCustomPaper) {
             const PaperSize custom = customLimit(features, largest);
             consider(custom.width, custom.height);
@@ -145,29 +210,19 @@ std::uint32_t mostCopies(const Features& features)
 }
 
 /// Whether an option feature can be anything but this value.
-bool offersMoreThan(const Features& features, DataModelIds::tagFeatureEnum id, ValueId none)
+bool offersMoreThan(IDataModel& model, DataModelIds::tagFeatureEnum id, const ValueId& none)
 {
-    const auto options = features.GetOptionFeature(FeatureId(id)).GetOptionCapabilities();
-    if (options->GetInterpretedState().IsHidden()) {
-        return false;
-    }
-    for (std::size_t i = 0; i < options->GetNumberOfValues(); ++i) {
-        const OptionWithState& option = options->GetOptionWithState(i);
-        if (option.GetValueId() != none && !option.GetInterpretedState().IsHidden()) {
-            return true;
-        }
-    }
-    return false;
+    const auto feature = model.GetOptionFeatureRef(id);
+    return std::ranges::any_of(offeredOptions(model, feature),
+                               [&](const ValueId& value) { return value != none; });
 }
 
 /// The numbers of pages that one side can hold.
-std::uint32_t pagesPerSheet(const Features& features, Output output)
+std::uint32_t pagesPerSheet(IDataModel& model, Output output)
 {
-    const auto options =
-        features.GetOptionFeature(FeatureId(kPagesPerSheet)).GetOptionCapabilities();
     std::uint32_t count = 0;
-    for (std::size_t i = 0; i < options->GetNumberOfValues(); ++i) {
-        const std::wstring name(options->GetOptionWithState(i).GetValueId().GetValueName().View());
+    for (const ValueId& value : offeredOptions(model, model.GetOptionFeatureRef(kPagesPerSheet))) {
+        const std::wstring name(value.GetValueName().View());
         const auto pages = static_cast<std::uint32_t>(std::wcstoul(name.c_str(), nullptr, 10));
         if (pages > 0) {
             output.put(pages);
@@ -212,41 +267,41 @@ std::uint32_t deviceCapability(IDataModel& model, std::uint16_t capability, void
     case kCapFields:
         return publicFields(features).fields;
     case kCapPapers:
-        return numbers<std::uint16_t>(features, DocumentField::PaperSize, output);
+        return numbers<std::uint16_t>(model, DocumentField::PaperSize, output);
     case kCapPaperSize:
-        return paperSizes(features, output);
+        return paperSizes(model, output);
     case kCapPaperNames:
-        return names(namesOf(features, DocumentField::PaperSize), kLongName, output);
+        return names(namesOf(model, DocumentField::PaperSize), kLongName, output);
     case kCapMinExtent:
-        return extent(features, false);
+        return extent(model, false);
     case kCapMaxExtent:
-        return extent(features, true);
+        return extent(model, true);
     case kCapBins:
-        return numbers<std::uint16_t>(features, DocumentField::Source, output);
+        return numbers<std::uint16_t>(model, DocumentField::Source, output);
     case kCapBinNames:
-        return names(namesOf(features, DocumentField::Source), kBinName, output);
+        return names(namesOf(model, DocumentField::Source), kBinName, output);
     case kCapMediaTypes:
-        return numbers<std::uint32_t>(features, DocumentField::MediaType, output);
+        return numbers<std::uint32_t>(model, DocumentField::MediaType, output);
     case kCapMediaTypeNames:
-        return names(namesOf(features, DocumentField::MediaType), kLongName, output);
+        return names(namesOf(model, DocumentField::MediaType), kLongName, output);
     case kCapMediaReady:
         return names(loadedPapers(features), kLongName, output);
     case kCapResolutions:
-        return resolutions(features, output);
+        return resolutions(model, output);
     case kCapPagesPerSheet:
-        return pagesPerSheet(features, output);
+        return pagesPerSheet(model, output);
     case kCapDuplex:
-        return offers(features, DocumentField::Duplex, kDuplexLongEdge);
+        return offers(model, DocumentField::Duplex, kDuplexLongEdge);
     case kCapColourDevice:
-        return offers(features, DocumentField::Colour, kColourPrinting);
+        return offers(model, DocumentField::Colour, kColourPrinting);
     case kCapCollate:
         return publicFields(features).has(kCollateField);
     case kCapCopies:
         return mostCopies(features);
     case kCapStaple:
-        return offersMoreThan(features, kStaple, kNoStaples);
+        return offersMoreThan(model, kStaple, kNoStaples);
     case kCapOrientation:
-        return offers(features, DocumentField::Orientation, kLandscape) ? kQuarterTurn : 0;
+        return offers(model, DocumentField::Orientation, kLandscape) ? kQuarterTurn : 0;
     case kCapPrintRate:
     case kCapPrintRatePpm:
         return stated(features, kPagesPerMinute, 1);

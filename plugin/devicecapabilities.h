@@ -10,7 +10,7 @@ namespace o7 {
 inline constexpr std::uint32_t kNotAnswered = 0xFFFFFFFF;
 
 /// Answers one question of `DeviceCapabilities` for a product, from what its package says and what
-/// is installed in the device. What a constraint hides is not there.
+/// is installed in the device: what needs a unit that is not there is not to be had.
 /// @param output  null: only the count is wanted; else room for as many entries as were counted:
 ///                16-bit numbers for papers and bins, 32-bit ones for the rest, pairs of 32-bit
 ///                ones for paper sizes and resolutions, 64 UTF-16 units for each name (24 for

@@ -3,7 +3,6 @@
 #include <utility>
 #include <vector>
 
-#include "productfeatures.h"
 #include "publicfields.h"
 
 namespace o7 {
@@ -14,13 +13,12 @@ using DeviceValues = std::vector<std::pair<IFeatureNode::Ptr, FeatureValue>>;
 DeviceValues deviceValues(IDataModel& model)
 {
     DeviceValues values;
-    const ListOfFeaturesRef features = model.GetFullListOfFeatures();
-    for (int number = kFirstDeviceFeature; number <= kLastDeviceFeature; ++number) {
-        const FeatureId id(static_cast<DataModelIds::tagFeatureEnum>(number));
-        const auto feature = features.GetFeature(FeatureIdWithContext(id));
+    const auto top = model.GetFullListOfFeatures().GetNode();
+    for (std::size_t i = 0; i < top->GetNumChildren(); ++i) {
+        const auto feature = top->GetChild(i);
         FeatureValue value;
-        if (feature->GetNode() && feature->GetNode()->GetValue(value)) {
-            values.emplace_back(feature->GetNode(), value);
+        if (feature->GetCapabilities()->IsDeviceFeature() && feature->GetValue(value)) {
+            values.emplace_back(feature, value);
         }
     }
     return values;

@@ -36,10 +36,6 @@ inline constexpr auto kNoScaling         = static_cast<DataModelIds::tagValueEnu
 inline constexpr auto kCustomPaper       = static_cast<DataModelIds::tagValueEnum>(5250);
 inline constexpr auto kScaleByPercentage = static_cast<DataModelIds::tagValueEnum>(5400);
 
-/// Device settings are this block: they say what is installed and belong to the printer.
-inline constexpr auto kFirstDeviceFeature = static_cast<DataModelIds::tagFeatureEnum>(3040);
-inline constexpr auto kLastDeviceFeature  = static_cast<DataModelIds::tagFeatureEnum>(3099);
-
 /// What a product may state about itself (state-only features, found by name).
 inline constexpr wchar_t kPagesPerMinute[]   = L"odrv-pages-per-minute";
 inline constexpr wchar_t kMemoryMegabytes[]  = L"odrv-memory-megabytes";

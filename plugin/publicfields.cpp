@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <functional>
 #include <optional>
+#include <vector>
 
 #include "productfeatures.h"
 #include "systemnumbers.h"
@@ -414,19 +415,6 @@ void followPublicFields(const ListOfFeaturesRef& features, const PublicFields& f
         before = open.size();
         std::erase_if(open, [](const auto& follow) { return follow(); });
     }
-}
-
-std::vector<FieldChoice> fieldChoices(const ListOfFeaturesRef& features, DocumentField field)
-{
-    std::vector<FieldChoice> choices;
-    forEachOption(featureOf(features, field), [&](const OptionWithState& option) {
-        const auto number = systemNumber(field, option.GetValueId());
-        if (number && !option.GetInterpretedState().IsHidden() &&
-            std::ranges::find(choices, *number, &FieldChoice::number) == choices.end()) {
-            choices.push_back({*number, option.GetValueId()});
-        }
-    });
-    return choices;
 }
 
 } // namespace o7

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <vector>
-
 #include "devmodelayout.h"
 #include "documentvalues.h"
 #include "listoffeaturesref.h"
@@ -26,15 +24,6 @@ void followPublicFields(const ListOfFeaturesRef& features, const PublicFields& f
 
 /// The feature that a field stands for; null for a product without it.
 OptionFeatureRef featureOf(const ListOfFeaturesRef& features, DocumentField field);
-
-/// What a field can say for a product, in the product's order and without repeating a number:
-/// papers, bins, and so on. Values that a constraint hides are left out.
-struct FieldChoice
-{
-    int number;
-    ValueId value;
-};
-std::vector<FieldChoice> fieldChoices(const ListOfFeaturesRef& features, DocumentField field);
 
 /// Lengths in tenths of a millimetre.
 struct PaperSize

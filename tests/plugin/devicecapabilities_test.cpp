@@ -15,6 +15,7 @@
 #include "numberstrings.h"
 #include "publicfields.h"
 #include "systemnumbers.h"
+#include "testmodel.h"
 
 namespace o7 {
 namespace {
@@ -155,6 +156,18 @@ TEST_P(EveryProduct, KeepsEachValueInThePublicFields)
                 << value.GetAsCpssString().ToUtf8();
         }
     }
+}
+
+TEST(DeviceCapability, LeavesOutWhatNeedsAUnitThatIsNotThere)
+{
+    const test::TestModel model;
+    EXPECT_EQ(deviceCapability(*model, kCapDuplex, nullptr), 1U);
+    EXPECT_EQ(deviceCapability(*model, kCapPapers, nullptr), 4U);
+    model.setFlag(test::kDuplexUnit, false);
+    EXPECT_EQ(deviceCapability(*model, kCapDuplex, nullptr), 0U);
+    // What a document has chosen is no matter of the device.
+    model.choose(kPaperTray, 5121);
+    EXPECT_EQ(deviceCapability(*model, kCapPapers, nullptr), 4U);
 }
 
 INSTANTIATE_TEST_SUITE_P(Products, EveryProduct, testing::ValuesIn(productFolders()),
