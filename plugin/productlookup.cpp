@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "dlldelayloader.h"
+#include "packagecache.h"
 #include "printerstandin.h"
 #include "printerstore.h"
 #include "printsystemrecord.h"
@@ -76,17 +77,17 @@ std::unique_ptr<ProductSession> openProductOf(HANDLE printer, const wchar_t* pri
         throwOrvik(GetOrvikException, kName, {L"o7::openProductOf"},
                    L"There is no product package in %s.", folder.c_str());
     }
-    std::vector<CXString> errors;
-    auto session =
-        ProductSession::open(package, standIn != nullptr ? standIn->language() : L"", errors);
-    if (!session) {
+    std::vector<PackageError> errors;
+    const auto loaded = cachedPackage(package, errors);
+    if (!loaded) {
         CXString text;
-        for (const CXString& error : errors) {
-            text += error;
+        for (const PackageError& error : errors) {
+            text += CXString::FromUtf8(error.ToString());
             text += L"\n";
         }
         throwOrvik(GetOrvikException, kName, {L"o7::openProductOf"}, L"%s", text.c_str());
     }
+    auto session = ProductSession::open(loaded, standIn != nullptr ? standIn->language() : L"");
     loadDeviceSettings(printer, session->model());
     if (printerName != nullptr && *printerName != L'\0') {
         session->model().GetOptionFeatureRef(kPrinterName).SetValue(CXString(printerName));
