@@ -267,15 +267,59 @@ TEST(UIControl, ShowsAndEnablesAtOnce)
     }
 }
 
+/// A control that has no window, as there is no parent for it.
+template <class Control, class... Arguments> Control orphan(UIServices& services, Arguments... rest)
+{
+    return Control(nullptr, 1, services, nullptr, {1, 2}, {3, 4}, rest...);
+}
+
 TEST(UIControl, WithoutAParentThereIsNoWindowAndNoHarm)
 {
     UIServices services;
-    UICheckBoxControl control(nullptr, 1, services, nullptr, {1, 2}, {3, 4}, false);
-    EXPECT_EQ(nullptr, control.getHwnd());
-    control.setShow(true);
-    control.move({1, 1}, false);
-    control.setCheck(BST_CHECKED);
-    EXPECT_EQ(BST_UNCHECKED, control.getCheck());
+    auto check = orphan<UICheckBoxControl>(services, false);
+    auto radio = orphan<UIRadioButtonControl>(services, 0U);
+    auto edit = orphan<UIEditControl>(services, 0U, true, 5);
+    auto slider = orphan<UISliderControl>(services, 0U, 1, 9);
+    auto spin = orphan<UISpinControl>(services, 0U, true, 1, 9);
+    auto button = orphan<UIButtonControl>(services, false);
+    auto combo = orphan<UIComboBoxControl>(services);
+    auto list = orphan<UIListBoxControl>(services, 0U, true);
+    for (UIControl* control :
+         {static_cast<UIControl*>(&check), static_cast<UIControl*>(&radio),
+          static_cast<UIControl*>(&edit), static_cast<UIControl*>(&slider),
+          static_cast<UIControl*>(&spin), static_cast<UIControl*>(&button),
+          static_cast<UIControl*>(&combo), static_cast<UIControl*>(&list)}) {
+        EXPECT_EQ(nullptr, control->getHwnd());
+        control->setShow(true);
+        control->setEnable(false);
+        control->move({1, 1}, false);
+        EXPECT_FALSE(o7::test::dumpOf(*control).empty());
+    }
+    check.setCheck(BST_CHECKED);
+    radio.setCheck(BST_CHECKED);
+    radio.setText(L"text");
+    EXPECT_EQ(BST_UNCHECKED, check.getCheck());
+    EXPECT_EQ(BST_UNCHECKED, radio.getCheck());
+    edit.setText(L"text");
+    edit.selectAll();
+    EXPECT_TRUE(edit.getText().IsEmpty());
+    button.setButtonDisplayName(L"name");
+    EXPECT_TRUE(button.getButtonDisplayName().IsEmpty());
+    slider.setPosition(5);
+    spin.setBuddy(nullptr);
+    spin.setPosition(5);
+    EXPECT_EQ(0, slider.getPosition());
+    EXPECT_EQ(0, spin.getPosition());
+    for (IComboListControl* entries : {static_cast<IComboListControl*>(&combo),
+                                       static_cast<IComboListControl*>(&list)}) {
+        EXPECT_EQ(0, entries->addItem(L"entry"));
+        entries->setSelection(0);
+        entries->setItemUnavailable(true, 0);
+        entries->removeAllItems();
+        EXPECT_EQ(0, entries->getCount());
+        EXPECT_EQ(nullptr, entries->getItemData(0));
+        EXPECT_EQ(-1, entries->findItemById(0));
+    }
 }
 
 TEST(UITextControl, ReadsAtMost259Characters)

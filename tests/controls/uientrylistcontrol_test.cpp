@@ -35,8 +35,10 @@ enum class Kind
 class Rig
 {
 public:
-    explicit Rig(Kind kind) : m_kind(kind)
+    /// @param pageStyle  extended style that the page gets besides
+    explicit Rig(Kind kind, LONG_PTR pageStyle = 0) : m_kind(kind)
     {
+        ::SetWindowLongPtrW(m_page.page(), GWL_EXSTYLE, WS_EX_CONTROLPARENT | pageStyle);
         if (kind == Kind::ListBox) {
             list = std::make_unique<UIListBoxControl>(m_page.page(), kId, m_page.services(),
                                                       m_page.font(), POINT{10, 10}, SIZE{60, 90}, 0,
@@ -318,6 +320,29 @@ TEST_P(EntryList, TellsWhyAnEntryIsUnavailable)
         ::SetCursorPos(list.right + 50, list.bottom + 50);
     }
     EXPECT_TRUE(o7::test::pumpUntil([&] { return !isShown(); }));
+}
+
+TEST_P(EntryList, OnAMirroredPageTheReasonStandsToTheLeft)
+{
+    if (GetParam() == Kind::ClosedCombo) {
+        return;
+    }
+    Rig rig(GetParam(), WS_EX_LAYOUTRTL);
+    UIToolTips tips(rig.page().page());
+    rig.list->setUnavailableReasons(&tips, [](int) { return CXString(L"why"); });
+    rig.fill({L"a", L"BOND", L"c"});
+    rig.list->setSelection(0);
+    rig.attend();
+    const POINT grey = rig.middleOf(1);
+    ::SetCursorPos(grey.x, grey.y);
+    ASSERT_TRUE(o7::test::pumpUntil([&] { return ::IsWindowVisible(tips.getHwnd()) != FALSE; }));
+    RECT tip{};
+    RECT list{};
+    ::GetWindowRect(tips.getHwnd(), &tip);
+    ::GetWindowRect(rig.entries(), &list);
+    EXPECT_GE(list.left, tip.right);
+    o7::test::sendClick(grey.x, grey.y);
+    EXPECT_EQ(0, rig.list->getSelection(true));
 }
 
 constexpr RECT kArea{0, 0, 80, 20};

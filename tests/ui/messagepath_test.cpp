@@ -96,7 +96,8 @@ TEST_F(MessagePathTest, ControlsHearOfChangedColoursAndSettings)
     MessageRecorder recorder(child);
     for (const Route& route : kRoutes) {
         const bool isParent = route.kind != UIMessageKind::OffTab; // a sheet tells its pages itself
-        for (const UINT message : {WM_SYSCOLORCHANGE, WM_SETTINGCHANGE, WM_USER}) {
+        for (const UINT message :
+             {UINT{WM_SYSCOLORCHANGE}, UINT{WM_SETTINGCHANGE}, UINT{WM_USER}}) {
             route.call(window(), message, 0, 0);
         }
         EXPECT_EQ(recorder.messages().size(), isParent ? 2U : 0U) << route.name;

@@ -106,11 +106,8 @@ UIBitmapButtonControl::~UIBitmapButtonControl()
 
 bool UIBitmapButtonControl::handleMessage(const _UIWindowsMessage& message)
 {
-    if (message.message != WM_DRAWITEM) {
-        return false;
-    }
-    auto* item = reinterpret_cast<DRAWITEMSTRUCT*>(message.lParam);
-    if (item->hwndItem != getHwnd()) {
+    DRAWITEMSTRUCT* item = itemToDraw(message);
+    if (item == nullptr) {
         return false;
     }
     Draw(item);

@@ -5,6 +5,7 @@
 #include "isolationaware.h"
 #include "uidump.h"
 #include "uiservices.h"
+#include "uiwindowsmessage.h"
 #include "windowtext.h"
 
 #include <cstdlib>
@@ -81,6 +82,15 @@ void UIControl::setSize(SIZE size, bool inPixels)
 {
     const RECT place = toPixels({0, 0, size.cx, size.cy}, inPixels);
     placeWindow({m_x, m_y}, {place.right, place.bottom});
+}
+
+DRAWITEMSTRUCT* UIControl::itemToDraw(const _UIWindowsMessage& message) const noexcept
+{
+    if (message.message != WM_DRAWITEM) {
+        return nullptr;
+    }
+    auto* item = reinterpret_cast<DRAWITEMSTRUCT*>(message.lParam);
+    return item->hwndItem == m_window.get() ? item : nullptr;
 }
 
 void UIControl::setAccessibleName(const CXString& name)

@@ -78,6 +78,8 @@ protected:
     void giveFont();
     void setVisibleFlag(bool visible) noexcept { m_visible = visible; }
     DialogConversion& getConversion() const noexcept { return m_conversion; }
+    /// What a WM_DRAWITEM for this control's window holds; null for every other message.
+    DRAWITEMSTRUCT* itemToDraw(const _UIWindowsMessage& message) const noexcept;
     /// ROLE_SYSTEM_... for screen readers, and STATE_SYSTEM_... bits beside focused and disabled.
     void setAccessibleRole(LONG role, LONG state = 0);
     /// Has to be told each message of a window that a derived class stands before.

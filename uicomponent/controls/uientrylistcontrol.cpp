@@ -33,14 +33,11 @@ UIEntryListControl::~UIEntryListControl()
 
 bool UIEntryListControl::handleMessage(const _UIWindowsMessage& message)
 {
-    if (message.message != WM_DRAWITEM) {
+    const DRAWITEMSTRUCT* item = itemToDraw(message);
+    if (item == nullptr) {
         return false;
     }
-    const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(message.lParam);
-    if (item.hwndItem != getHwnd()) {
-        return false;
-    }
-    draw(item);
+    draw(*item);
     message.result = TRUE;
     return true;
 }
@@ -402,7 +399,7 @@ void UIEntryListControl::hideReason()
 {
     if (m_reasonIndex >= 0) {
         m_reasonIndex = -1;
-        m_toolTips->hideBeside(m_reasonList);
+        m_toolTips->hidePlaced(m_reasonList);
     }
 }
 

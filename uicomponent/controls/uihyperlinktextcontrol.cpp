@@ -59,14 +59,11 @@ UIHyperlinkTextControl::~UIHyperlinkTextControl()
 
 bool UIHyperlinkTextControl::handleMessage(const _UIWindowsMessage& message)
 {
-    if (message.message != WM_DRAWITEM) {
+    const DRAWITEMSTRUCT* item = itemToDraw(message);
+    if (item == nullptr) {
         return false;
     }
-    const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(message.lParam);
-    if (item.hwndItem != getHwnd()) {
-        return false;
-    }
-    draw(item);
+    draw(*item);
     message.result = TRUE;
     return true;
 }

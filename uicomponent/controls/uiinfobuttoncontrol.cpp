@@ -66,11 +66,8 @@ void UIInfoButtonControl::setMessage(std::uint32_t style, const CXString& text,
 
 bool UIInfoButtonControl::handleMessage(const _UIWindowsMessage& message)
 {
-    if (message.message == WM_DRAWITEM) {
-        const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(message.lParam);
-        if (item.hwndItem != getHwnd())
-            return false;
-        draw(item);
+    if (const DRAWITEMSTRUCT* item = itemToDraw(message)) {
+        draw(*item);
         message.result = TRUE;
         return true;
     }

@@ -42,6 +42,15 @@ TTTOOLINFOW windowTool(HWND owner, HWND tool, HINSTANCE instance, INT_PTR text)
     return info;
 }
 
+/// The tool that stands for a part of a window. Its number keeps it apart from the tools that stand
+/// for whole windows, by their handles. The mouse goes through its tip.
+TTTOOLINFOW placedTool(HWND window)
+{
+    TTTOOLINFOW info = toolInfo(window, nullptr, TTF_TRACK | TTF_ABSOLUTE | TTF_TRANSPARENT);
+    info.uId = 1;
+    return info;
+}
+
 LRESULT send(HWND window, UINT message, WPARAM wParam, TTTOOLINFOW& info)
 {
     return ::SendMessageW(window, message, wParam, reinterpret_cast<LPARAM>(&info));
@@ -185,27 +194,44 @@ void UIToolTips::relayMouse(const _UIWindowsMessage& message)
     ::SendMessageW(getHwnd(), TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&event));
 }
 
+void UIToolTips::showPlaced(HWND window, const CXString& text,
+                            const std::function<POINT(SIZE)>& placeFor)
+{
+    hidePlaced(window);
+    TTTOOLINFOW info = placedTool(window);
+    info.uFlags |= isRightToLeft(m_owner) ? UINT{TTF_RTLREADING} : 0U; // a dropped list is not
+    info.lpszText = const_cast<wchar_t*>(text.c_str());
+    if (text.IsEmpty() || send(getHwnd(), TTM_ADDTOOLW, 0, info) == FALSE) {
+        return;
+    }
+    const auto moveTo = [&](SIZE size) {
+        const POINT place = placeFor(size);
+        ::SendMessageW(getHwnd(), TTM_TRACKPOSITION, 0, MAKELPARAM(place.x, place.y));
+    };
+    const auto expected = static_cast<DWORD>(send(getHwnd(), TTM_GETBUBBLESIZE, 0, info));
+    moveTo({LOWORD(expected), HIWORD(expected)});
+    send(getHwnd(), TTM_TRACKACTIVATE, TRUE, info);
+    // Wine foresees the size of the tip before; then this one has come out otherwise.
+    RECT shown{};
+    ::GetWindowRect(getHwnd(), &shown);
+    moveTo({shown.right - shown.left, shown.bottom - shown.top});
+}
+
+void UIToolTips::hidePlaced(HWND window)
+{
+    TTTOOLINFOW info = placedTool(window);
+    send(getHwnd(), TTM_TRACKACTIVATE, FALSE, info);
+    send(getHwnd(), TTM_DELTOOLW, 0, info);
+}
+
 void UIToolTips::showBeside(HWND window, const RECT& part, const CXString& text)
 {
-    hideBeside(window);
-    TTTOOLINFOW info = toolInfo(m_owner, window, TTF_TRACK | TTF_ABSOLUTE);
-    info.lpszText = const_cast<wchar_t*>(text.c_str());
-    send(getHwnd(), TTM_ADDTOOLW, 0, info);
-    const auto extent = static_cast<DWORD>(send(getHwnd(), TTM_GETBUBBLESIZE, 0, info));
     MONITORINFO monitor{};
     monitor.cbSize = sizeof monitor;
     ::GetMonitorInfoW(::MonitorFromRect(&part, MONITOR_DEFAULTTONEAREST), &monitor);
-    const POINT place = o7::placeBeside(part, {LOWORD(extent), HIWORD(extent)}, monitor.rcWork,
-                                        isRightToLeft(m_owner));
-    ::SendMessageW(getHwnd(), TTM_TRACKPOSITION, 0, MAKELPARAM(place.x, place.y));
-    send(getHwnd(), TTM_TRACKACTIVATE, TRUE, info);
-}
-
-void UIToolTips::hideBeside(HWND window)
-{
-    TTTOOLINFOW info = toolInfo(m_owner, window, TTF_TRACK | TTF_ABSOLUTE);
-    send(getHwnd(), TTM_TRACKACTIVATE, FALSE, info);
-    send(getHwnd(), TTM_DELTOOLW, 0, info);
+    showPlaced(window, text, [&](SIZE size) {
+        return o7::placeBeside(part, size, monitor.rcWork, isRightToLeft(m_owner));
+    });
 }
 
 LRESULT UIToolTips::subclassWindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
