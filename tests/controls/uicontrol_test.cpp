@@ -284,11 +284,10 @@ TEST(UIControl, WithoutAParentThereIsNoWindowAndNoHarm)
     auto button = orphan<UIButtonControl>(services, false);
     auto combo = orphan<UIComboBoxControl>(services);
     auto list = orphan<UIListBoxControl>(services, 0U, true);
-    for (UIControl* control :
-         {static_cast<UIControl*>(&check), static_cast<UIControl*>(&radio),
-          static_cast<UIControl*>(&edit), static_cast<UIControl*>(&slider),
-          static_cast<UIControl*>(&spin), static_cast<UIControl*>(&button),
-          static_cast<UIControl*>(&combo), static_cast<UIControl*>(&list)}) {
+    for (UIControl* control : {static_cast<UIControl*>(&check), static_cast<UIControl*>(&radio),
+                               static_cast<UIControl*>(&edit), static_cast<UIControl*>(&slider),
+                               static_cast<UIControl*>(&spin), static_cast<UIControl*>(&button),
+                               static_cast<UIControl*>(&combo), static_cast<UIControl*>(&list)}) {
         EXPECT_EQ(nullptr, control->getHwnd());
         control->setShow(true);
         control->setEnable(false);
@@ -310,8 +309,8 @@ TEST(UIControl, WithoutAParentThereIsNoWindowAndNoHarm)
     spin.setPosition(5);
     EXPECT_EQ(0, slider.getPosition());
     EXPECT_EQ(0, spin.getPosition());
-    for (IComboListControl* entries : {static_cast<IComboListControl*>(&combo),
-                                       static_cast<IComboListControl*>(&list)}) {
+    for (IComboListControl* entries :
+         {static_cast<IComboListControl*>(&combo), static_cast<IComboListControl*>(&list)}) {
         EXPECT_EQ(0, entries->addItem(L"entry"));
         entries->setSelection(0);
         entries->setItemUnavailable(true, 0);
@@ -460,7 +459,8 @@ TEST(UIEditControl, KeepsLongTextsButLimitsTyping)
     ::SetForegroundWindow(::GetAncestor(page.page(), GA_ROOT));
     ::SetFocus(edit.getHwnd());
     edit.selectAll();
-    for (const WORD key : {'1', '2', '3', '4'}) {
+    constexpr WORD kTyped[] = {'1', '2', '3', '4'};
+    for (const WORD key : kTyped) {
         o7::test::sendKey(key);
     }
     EXPECT_EQ(L"123", edit.getText());
