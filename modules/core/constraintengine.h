@@ -2,6 +2,7 @@
 
 #include "changelog.h"
 #include "constraint.h"
+#include "featurenode.h"
 
 #include <cstdint>
 #include <memory>
@@ -45,9 +46,13 @@ private:
     void Unlink(Constraint& constraint);
     void Raise(FeatureNode& feature, unsigned rank);
     void Activate(Constraint& constraint, bool active);
-    void UpdateHit(Constraint& constraint);
+    void AddEffect(Constraint& constraint);
+    void RemoveEffect(Constraint& constraint);
+    void UpdateHit(const FeatureNode& feature, FeatureNode::ActiveEffect& effect);
+    void UpdateBroken(Constraint& constraint);
     void StoredChanged(FeatureNode& feature);
     void AskReaders(FeatureNode& feature);
+    void Answer(FeatureNode::Reader& reader);
     void Postpone(FeatureNode& feature);
     void Settle();
     void FollowDefault(FeatureNode& feature);
@@ -58,6 +63,7 @@ private:
     std::vector<std::unique_ptr<Constraint>> m_added;
     std::vector<FeatureNode*> m_pending;
     std::vector<Constraint*> m_toggled;
+    std::vector<FeatureNode::Reader*> m_answers; ///< Empty but while readers are asked.
     std::vector<Constraint*> m_broken;
     std::uint64_t m_evaluations = 0;
     std::uint64_t m_marks = 0;

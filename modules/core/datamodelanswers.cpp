@@ -39,7 +39,7 @@ void CollectBroken(const FeatureNode& feature, std::vector<FeatureIdWithContext>
 {
     const auto& effects = feature.activeEffects;
     if (std::any_of(effects.begin(), effects.end(),
-                    [](const Constraint* effect) { return effect->IsBroken(); }))
+                    [](const auto& effect) { return effect.constraint->IsBroken(); }))
         all.push_back(feature.GetId());
     for (const auto& child : feature.Children())
         CollectBroken(*child, all);

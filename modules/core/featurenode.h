@@ -100,11 +100,22 @@ public:
         std::uint64_t holdsFor; ///< Codes, where the feature has them.
         std::uint32_t condition;
         bool holds;
+        bool changes; ///< In the round of questions under way.
+    };
+
+    /// An active constraint with this target, and what is often asked of it.
+    struct ActiveEffect
+    {
+        Constraint* constraint;
+        std::uint64_t codes; ///< That it affects, where the feature has codes.
+        bool whole;
+        bool blocks;
+        bool hit; ///< As in the constraint.
     };
 
     // Links kept by the constraint engine, the change log and the notifier.
     std::vector<Reader> readers;
-    std::vector<Constraint*> activeEffects; ///< Of the constraints with this target, in no order.
+    std::vector<ActiveEffect> activeEffects; ///< In no order.
     unsigned activeClears = 0;              ///< How many of them clear.
     unsigned rank = 0;        ///< Above those whose clearing or value can change this one's.
     bool isPending = false;   ///< Its readers have to look again.

@@ -4,6 +4,7 @@
 #include "featurechangenotification.h"
 
 #include <algorithm>
+#include <array>
 #include <exception>
 
 namespace o7 {
@@ -171,11 +172,11 @@ void Notifier::UnregisterForEvent(IObserver& observer, DataModelIds::EventEnum e
 
 void Notifier::Gather(const Change& change, std::vector<Entry>& entries)
 {
-    for (FeatureNode* node = change.feature.get(); node != nullptr; node = node->Parent()) {
+    for (FeatureNode* node = change.feature; node != nullptr; node = node->Parent()) {
         for (const auto& registration : node->registrations) {
             const unsigned bits = change.bits & WantedBits(registration->instance);
             if (bits != 0)
-                entries.push_back({registration, change.feature.get(), bits});
+                entries.push_back({registration, change.feature, bits});
         }
     }
 }
@@ -195,11 +196,15 @@ bool Notifier::DeliverAlone(const Change& change)
     if (!list.valid || !list.simple)
         return false;
     const Counted counted(list.deliveries);
+    const unsigned changed = change.bits;
+    std::array<const NotificationBundle*, 4> bundles{};
+    for (unsigned bits = 1; bits < bundles.size(); ++bits)
+        bundles[bits] = (bits & changed) == bits ? &KeptBundle(feature, bits) : nullptr;
     CallAll call;
     for (const DeliveryList::Slot& slot : list.slots) {
-        const unsigned bits = change.bits & slot.wanted;
+        const unsigned bits = changed & slot.wanted;
         if (bits != 0 && slot.observer != nullptr)
-            call([&] { slot.observer->ProcessNotification(KeptBundle(feature, bits), slot.kind); });
+            call([&] { slot.observer->ProcessNotification(*bundles[bits], slot.kind); });
     }
     call.Rethrow();
     return true;

@@ -2,6 +2,7 @@
 
 #include "changelog.h"
 #include "eventnotification.h"
+#include "featurenode.h"
 #include "registration.h"
 
 #include <cstdint>

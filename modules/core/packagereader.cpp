@@ -99,7 +99,7 @@ void PackageReader::ReadFeatures(const LocatedJson& features, Scope& scope, List
                 continue;
             FeatureDescription feature = ReadFeature(entry, scope);
             CheckDistinct(entry, feature, numbers, names);
-            list.features.push_back(std::move(feature));
+            list.Add(std::move(feature));
             entries.push_back(&entry);
         }
     }

@@ -21,10 +21,10 @@ FeatureValue Present(const FeatureNode& feature)
 void AddHolders(const FeatureNode& feature, std::set<const Constraint*>& holders)
 {
     for (const FeatureNode* node = &feature; node != nullptr; node = node->Parent()) {
-        for (const Constraint* effect : node->activeEffects) {
+        for (const auto& effect : node->activeEffects) {
             // What blocks some values may block those that would help.
-            if (effect->Blocks() && (effect->whole || node == &feature))
-                holders.insert(effect);
+            if (effect.blocks && (effect.whole || node == &feature))
+                holders.insert(effect.constraint);
         }
     }
 }

@@ -31,7 +31,7 @@ void SettingsWriter::Write(FeatureNode& feature, FeatureValue value, bool specif
         return;
     // The record first: without it nothing may have changed.
     if (m_log.IsRecording()) {
-        auto& undo = m_log.Record({ChangeLog::Undo::Kind::Value, feature.shared_from_this(), {},
+        auto& undo = m_log.Record({ChangeLog::Undo::Kind::Value, &feature, {},
                                    feature.StoredSpecified(), feature.FollowsDefault(), nullptr, 0});
         undo.value = feature.Release();
     }
@@ -95,12 +95,13 @@ void SettingsWriter::Erase(FeatureNode& list, std::size_t index)
     m_engine.Detach(*item);
     item->SetAttached(false);
     m_log.Note(list, kValueBit);
+    m_log.Bury(item);
 }
 
 void SettingsWriter::DeleteItem(FeatureNode& list, std::size_t index)
 {
     if (m_log.IsRecording())
-        m_log.Record({ChangeLog::Undo::Kind::ItemDeleted, list.shared_from_this(), {}, false,
+        m_log.Record({ChangeLog::Undo::Kind::ItemDeleted, &list, {}, false,
                       false, list.Children()[index], index});
     Erase(list, index);
 }
@@ -113,7 +114,7 @@ std::shared_ptr<FeatureNode> SettingsWriter::CreateItem(FeatureNode& list)
         return nullptr;
     std::shared_ptr<FeatureNode> item = list.MakeItem();
     if (m_log.IsRecording())
-        m_log.Record({ChangeLog::Undo::Kind::ItemCreated, list.shared_from_this(), {}, false, false,
+        m_log.Record({ChangeLog::Undo::Kind::ItemCreated, &list, {}, false, false,
                       item, index});
     Insert(list, item, index);
     return item;

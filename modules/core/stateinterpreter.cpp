@@ -59,8 +59,9 @@ void AddEffect(EffectKind kind, const CXString& reason, InterpretedState& state)
 
 std::vector<const Constraint*> ActiveInOrder(const FeatureNode& feature)
 {
-    std::vector<const Constraint*> active(feature.activeEffects.begin(),
-                                          feature.activeEffects.end());
+    std::vector<const Constraint*> active;
+    for (const auto& effect : feature.activeEffects)
+        active.push_back(effect.constraint);
     std::sort(active.begin(), active.end(), ComesBefore);
     return active;
 }
