@@ -29,6 +29,23 @@ bool hasClass(HWND window, std::wstring_view name)
                                 TRUE) == CSTR_EQUAL;
 }
 
+/// Where the mouse presses the control, on the screen.
+RECT pressedPart(const GalleryCell& cell)
+{
+    RECT part{};
+    GetWindowRect(cell.window(), &part);
+    const LONG height = part.bottom - part.top;
+    if (cell.kind->press == GalleryPress::AtTop) {
+        part.bottom -= height / 2;
+    } else if (cell.kind->press == GalleryPress::AtEnd) {
+        const bool isMirrored =
+            (GetWindowLongPtrW(cell.window(), GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
+        LONG& begin = isMirrored ? part.right : part.left;
+        begin = isMirrored ? part.left + height : part.right - height;
+    }
+    return part;
+}
+
 BOOL CALLBACK considerTip(HWND window, LPARAM isShown)
 {
     if (IsWindowVisible(window) && hasClass(window, L"tooltips_class32")) {
@@ -89,11 +106,7 @@ void GalleryPictures::savePage(int index)
 
 void GalleryPictures::press(WindowPicture& picture, const GalleryCell& cell)
 {
-    RECT place = placeOf(cell.window());
-    if (cell.kind->press == GalleryPress::AtTop) {
-        place.bottom = middleOf(place).y;
-    }
-    Pointer::moveTo(middleOf(place));
+    Pointer::moveTo(middleOf(pressedPart(cell)));
     m_pointer.press();
     add(picture, cell);
     Pointer::park();

@@ -5,11 +5,11 @@
 #include <array>
 #include <functional>
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "clock.h"
 #include "cxstring.h"
 #include "gallerykinds.h"
 #include "gallerytemplate.h"
@@ -32,18 +32,6 @@ constexpr int kRuns = 101;
 constexpr int kBatch = 4;
 constexpr int kEntries = 1000;
 constexpr int kId = 1;
-
-double microseconds()
-{
-    static const double perMicrosecond = [] {
-        LARGE_INTEGER frequency;
-        QueryPerformanceFrequency(&frequency);
-        return static_cast<double>(frequency.QuadPart) / 1e6;
-    }();
-    LARGE_INTEGER counter;
-    QueryPerformanceCounter(&counter);
-    return static_cast<double>(counter.QuadPart) / perMicrosecond;
-}
 
 INT_PTR CALLBACK pageProcedure(HWND, UINT, WPARAM, LPARAM)
 {
@@ -85,54 +73,15 @@ struct PlainWindow
     RECT place;
 };
 
-/// Notes the first child of a page that is created while an object of this class lives.
-class CreationNote
+PlainWindow plainWindowOf(const UIControl& control)
 {
-public:
-    explicit CreationNote(HWND parent) : m_parent(parent)
-    {
-        s_note = this;
-        m_hook = SetWindowsHookExW(WH_CBT, &hook, nullptr, GetCurrentThreadId());
-    }
-    ~CreationNote()
-    {
-        UnhookWindowsHookEx(m_hook);
-        s_note = nullptr;
-    }
-    CreationNote(const CreationNote&) = delete;
-    CreationNote& operator=(const CreationNote&) = delete;
-
-    PlainWindow window{};
-
-private:
-    static LRESULT CALLBACK hook(int code, WPARAM wParam, LPARAM lParam)
-    {
-        const CREATESTRUCTW& creation = *reinterpret_cast<const CBT_CREATEWNDW*>(lParam)->lpcs;
-        if (code == HCBT_CREATEWND && creation.hwndParent == s_note->m_parent &&
-            s_note->window.className.empty()) {
-            std::array<wchar_t, 64> name{};
-            GetClassNameW(reinterpret_cast<HWND>(wParam), name.data(), 64);
-            s_note->window = {
-                name.data(),
-                static_cast<DWORD>(creation.style),
-                {creation.x, creation.y, creation.x + creation.cx, creation.y + creation.cy}};
-        }
-        return CallNextHookEx(nullptr, code, wParam, lParam);
-    }
-
-    static inline CreationNote* s_note = nullptr;
-    HWND m_parent;
-    HHOOK m_hook;
-};
-
-PlainWindow noteWindow(Page& page, const GalleryKind& kind)
-{
-    const CreationNote note(page.handle());
-    kind.create(page.place(kind.size));
-    if (note.window.className.empty()) {
-        throw std::logic_error("a control made no window");
-    }
-    return note.window;
+    std::array<wchar_t, 64> name{};
+    GetClassNameW(control.getHwnd(), name.data(), static_cast<int>(name.size()));
+    const POINT location = control.getLocationInPixels();
+    const SIZE size = control.getDimensionInPixels();
+    return {name.data(),
+            static_cast<DWORD>(GetWindowLongPtrW(control.getHwnd(), GWL_STYLE)),
+            {location.x, location.y, location.x + size.cx, location.y + size.cy}};
 }
 
 HWND makePlain(const Page& page, const PlainWindow& plain)
@@ -157,12 +106,12 @@ double timeOurs(Page& page, const GalleryKind& kind)
 {
     std::vector<std::unique_ptr<UIControl>> made;
     made.reserve(kBatch);
-    const double start = microseconds();
+    const double start = microsecondsNow();
     for (int i = 0; i < kBatch; ++i) {
         made.push_back(kind.create(page.place(kind.size)));
         setText(made.back()->getHwnd(), kind);
     }
-    return (microseconds() - start) / kBatch;
+    return (microsecondsNow() - start) / kBatch;
 }
 
 /// The pictures without which a button that draws bitmaps is no such button.
@@ -179,7 +128,7 @@ double timePlain(const Page& page, const GalleryKind& kind, const PlainWindow& p
     bitmaps.reserve(std::size_t{2} * kBatch);
     // Entered once: a program whose own manifest selects the theme has it all the time.
     const IsolationAware::ActivationScope scope;
-    const double start = microseconds();
+    const double start = microsecondsNow();
     for (int i = 0; i < kBatch; ++i) {
         made.emplace_back(makePlain(page, plain));
         setText(made.back().get(), kind);
@@ -190,12 +139,12 @@ double timePlain(const Page& page, const GalleryKind& kind, const PlainWindow& p
             }
         }
     }
-    return (microseconds() - start) / kBatch;
+    return (microsecondsNow() - start) / kBatch;
 }
 
 void addCreation(Report& report, Page& page, const GalleryKind& kind)
 {
-    const PlainWindow plain = noteWindow(page, kind);
+    const PlainWindow plain = plainWindowOf(*kind.create(page.place(kind.size)));
     std::vector<double> ours, bare;
     timeOurs(page, kind); // what the first of a class sets up
     timePlain(page, kind, plain);
@@ -234,9 +183,9 @@ void addFilling(Report& report, Page& page)
                    {0, 0, 100, 20}}));
     }();
     const auto timed = [](const std::function<void()>& fill) {
-        const double start = microseconds();
+        const double start = microsecondsNow();
         fill();
-        return (microseconds() - start) / 1000;
+        return (microsecondsNow() - start) / 1000;
     };
     std::vector<double> filled, bare;
     for (int run = 0; run < kRuns; ++run) {

@@ -375,7 +375,7 @@ constexpr GalleryKind kTexts[] = {
 };
 
 constexpr GalleryKind kLists[] = {
-    {L"Combo box", L"Punch", kButtonSize, kLive | kCleared | kEntries, GalleryPress::AtMiddle,
+    {L"Combo box", L"Punch", kButtonSize, kLive | kCleared | kEntries, GalleryPress::AtEnd,
      ControlType::Other, makeComboBox, fillList<UIComboBoxControl>, clearComboBox,
      showUnavailable<UIComboBoxControl>},
     {L"List box", L"Punch", {46, 34}, kField | kEntries, GalleryPress::ByMessage,

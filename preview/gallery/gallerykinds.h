@@ -58,6 +58,7 @@ enum class GalleryPress
     ByMessage, ///< a button, which can be told
     AtMiddle,  ///< by the mouse, at its middle
     AtTop,     ///< by the mouse, in its upper half
+    AtEnd,     ///< by the mouse, on the arrow at its end
 };
 
 /// One row of the gallery: a class of the module, in one of the ways it can be made.

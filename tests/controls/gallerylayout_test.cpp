@@ -189,15 +189,8 @@ TEST_P(GalleryLayout, ArrowsGoThroughARadioGroup)
     }
     SetForegroundWindow(frame.get());
     SetFocus(group.front());
-    const auto press = [&](WPARAM key) {
-        MSG message{};
-        message.hwnd = GetFocus();
-        message.message = WM_KEYDOWN;
-        message.wParam = key;
-        IsDialogMessageW(page.handle(), &message);
-    };
     for (std::size_t i = 1; i <= group.size(); ++i) {
-        press(VK_DOWN);
+        o7::test::sendKey(VK_DOWN);
         const HWND expected = group[i % group.size()]; // and round again
         EXPECT_EQ(expected, GetFocus());
         for (const HWND button : group) {
@@ -205,7 +198,7 @@ TEST_P(GalleryLayout, ArrowsGoThroughARadioGroup)
                       SendMessageW(button, BM_GETCHECK, 0, 0));
         }
     }
-    press(VK_UP);
+    o7::test::sendKey(VK_UP);
     EXPECT_EQ(group.back(), GetFocus());
 }
 

@@ -3,6 +3,7 @@
 
 #include "datamodelfactory.h"
 #include "optioncapability.h"
+#include "pagecheck.h"
 #include "products.h"
 
 #include <gmock/gmock.h>
@@ -291,7 +292,8 @@ const Story kOfficeStories[] = {
     {"a fax is not stapled", {{3050, 1}, {3001, 5240}}, 3012, 0, Effect::Disabled},
     {"recipients of a fax", {{3050, 1}, {3001, 5240}}, 3260, 0, Effect::Free},
     {"PIN of a secure job", {{3001, 5101}}, 3240, 0, Effect::Free},
-    {"colour not allowed", {{3083, 5786}}, 3009, 0, Effect::Conflict},
+    {"colour not allowed", {{3083, 5786}}, 3009, 0, Effect::Info},
+    {"colour, then not allowed", {{3009, 5151}, {3083, 5786}}, 3009, 0, Effect::Conflict},
     {"glossy paper in tray 2", {{3076, 5133}, {3004, 5133}}, 3003, 5122, Effect::Free},
 };
 

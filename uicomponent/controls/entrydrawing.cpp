@@ -13,10 +13,11 @@ struct EntryColours
     int text;
 };
 
-EntryColours coloursFor(bool isDisabled, bool isUnavailable, bool isSelected)
+EntryColours coloursFor(const DRAWITEMSTRUCT& item, bool isUnavailable, bool isSelected)
 {
-    if (isDisabled) {
-        return {COLOR_BTNFACE, COLOR_GRAYTEXT};
+    if ((item.itemState & ODS_DISABLED) != 0) {
+        // An open list stays as its window paints it below the last entry.
+        return {item.CtlType == ODT_LISTBOX ? COLOR_WINDOW : COLOR_BTNFACE, COLOR_GRAYTEXT};
     }
     if (isUnavailable) {
         return {COLOR_WINDOW, COLOR_GRAYTEXT};
@@ -55,8 +56,7 @@ void drawEntryText(const DRAWITEMSTRUCT& item, RECT area, const CXString& text, 
 void drawEntry(const DRAWITEMSTRUCT& item, const CXString& text, bool isUnavailable)
 {
     const bool isSelected = (item.itemState & ODS_SELECTED) != 0;
-    const EntryColours colours =
-        coloursFor((item.itemState & ODS_DISABLED) != 0, isUnavailable, isSelected);
+    const EntryColours colours = coloursFor(item, isUnavailable, isSelected);
     const int saved = ::SaveDC(item.hDC);
     const RECT area = areaOf(item);
     ::FillRect(item.hDC, &area, ::GetSysColorBrush(colours.background));
