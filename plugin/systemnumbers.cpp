@@ -21,8 +21,10 @@ static_assert(kOrientationField == DM_ORIENTATION && kPaperSizeField == DM_PAPER
               kYResolutionField == DM_YRESOLUTION && kCollateField == DM_COLLATE &&
               kFormNameField == DM_FORMNAME && kMediaTypeField == DM_MEDIATYPE);
 static_assert(kDuplexLongEdge == DMDUP_VERTICAL && kColourPrinting == DMCOLOR_COLOR &&
-              kLandscape == DMORIENT_LANDSCAPE && kFirstOwnPaper == DMPAPER_USER &&
-              kFirstOwnPaper == DMBIN_USER && kFirstOwnPaper == DMMEDIA_USER);
+              kLandscape == DMORIENT_LANDSCAPE);
+static_assert(kFirstOwnPaper == DMPAPER_USER);
+static_assert(kFirstOwnPaper == DMBIN_USER);
+static_assert(kFirstOwnPaper == DMMEDIA_USER);
 static_assert(kCapFields == DC_FIELDS && kCapPapers == DC_PAPERS && kCapPaperSize == DC_PAPERSIZE &&
               kCapMinExtent == DC_MINEXTENT && kCapMaxExtent == DC_MAXEXTENT &&
               kCapBins == DC_BINS && kCapDuplex == DC_DUPLEX && kCapSize == DC_SIZE &&
@@ -52,8 +54,9 @@ static_assert(kPublicPartSize == sizeof(DEVMODEW) && kSizeAt == offsetof(DEVMODE
               kYResolutionAt == offsetof(DEVMODEW, dmYResolution) &&
               kCollateAt == offsetof(DEVMODEW, dmCollate) &&
               kFormNameAt == offsetof(DEVMODEW, dmFormName) &&
-              kMediaTypeAt == offsetof(DEVMODEW, dmMediaType) &&
-              kNameLength == CCHDEVICENAME && kNameLength == CCHFORMNAME);
+              kMediaTypeAt == offsetof(DEVMODEW, dmMediaType));
+static_assert(kNameLength == CCHDEVICENAME);
+static_assert(kNameLength == CCHFORMNAME);
 // clang-format on
 
 } // namespace

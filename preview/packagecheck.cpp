@@ -102,8 +102,10 @@ private:
     {
         const auto key = [](const PackageError& e) { return std::tie(e.file, e.line, e.message); };
         std::ranges::sort(errors, {}, key);
-        const auto same = std::ranges::unique(errors, {}, key);
-        errors.erase(same.begin(), same.end());
+        const auto same =
+            std::unique(errors.begin(), errors.end(),
+                        [&](const auto& a, const auto& b) { return key(a) == key(b); });
+        errors.erase(same, errors.end());
     }
 
     /// Whether the package can be more than listed.

@@ -47,7 +47,7 @@ bool copySettings(const IDataModel& from, IDataModel& to)
 
 } // namespace
 
-PluginEntry::PluginEntry(ProductSession& session, std::filesystem::path package, UIMode mode,
+PluginEntry::PluginEntry(ProductSession& session, const std::filesystem::path& package, UIMode mode,
                          PagesAdded pagesAdded)
     : m_session(session),
       m_package(package.wstring()),

@@ -31,7 +31,7 @@ public:
 
     /// @param session  the product and its settings; gets back what was accepted.
     /// @param package  the product's folder, for the plug-in to open by itself.
-    PluginEntry(ProductSession& session, std::filesystem::path package, UIMode mode,
+    PluginEntry(ProductSession& session, const std::filesystem::path& package, UIMode mode,
                 PagesAdded pagesAdded);
     ~PluginEntry();
     PluginEntry(const PluginEntry&) = delete;

@@ -13,6 +13,7 @@
 #include "datamodelfactory.h"
 #include "documentsettings.h"
 #include "numberstrings.h"
+#include "productfolders.h"
 #include "publicfields.h"
 #include "systemnumbers.h"
 #include "testmodel.h"
@@ -62,17 +63,6 @@ protected:
     const Product m_product{GetParam()};
     const std::unique_ptr<IDataModel> m_model = m_product.model();
 };
-
-std::vector<fs::path> productFolders()
-{
-    std::vector<fs::path> folders;
-    for (const auto& entry : fs::directory_iterator(O7_PRODUCTS_DIR)) {
-        if (fs::is_regular_file(entry.path() / "package.json")) {
-            folders.push_back(entry.path());
-        }
-    }
-    return folders;
-}
 
 TEST_P(EveryProduct, AnswersListsThatBelongTogether)
 {
@@ -170,12 +160,8 @@ TEST(DeviceCapability, LeavesOutWhatNeedsAUnitThatIsNotThere)
     EXPECT_EQ(deviceCapability(*model, kCapPapers, nullptr), 4U);
 }
 
-INSTANTIATE_TEST_SUITE_P(Products, EveryProduct, testing::ValuesIn(productFolders()),
-                         [](const auto& folder) {
-                             std::string name = folder.param.filename().string();
-                             std::erase(name, '-');
-                             return name;
-                         });
+INSTANTIATE_TEST_SUITE_P(Products, EveryProduct, testing::ValuesIn(test::productFolders()),
+                         test::productTestName);
 
 } // namespace
 } // namespace o7

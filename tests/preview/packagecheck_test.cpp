@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "pagecheck.h"
+#include "productfolders.h"
 
 namespace o7 {
 namespace {
@@ -159,23 +160,8 @@ TEST_P(EveryProduct, PassesTheCheck)
     EXPECT_EQ(all(report.hints), "");
 }
 
-std::vector<fs::path> productFolders()
-{
-    std::vector<fs::path> folders;
-    for (const auto& entry : fs::directory_iterator(O7_PRODUCTS_DIR)) {
-        if (fs::is_regular_file(entry.path() / "package.json")) {
-            folders.push_back(entry.path());
-        }
-    }
-    return folders;
-}
-
-INSTANTIATE_TEST_SUITE_P(Products, EveryProduct, testing::ValuesIn(productFolders()),
-                         [](const auto& folder) {
-                             std::string name = folder.param.filename().string();
-                             std::erase(name, '-');
-                             return name;
-                         });
+INSTANTIATE_TEST_SUITE_P(Products, EveryProduct, testing::ValuesIn(test::productFolders()),
+                         test::productTestName);
 
 } // namespace
 } // namespace o7

@@ -65,18 +65,15 @@ bool holdsDevMode(DWORD process, const std::wstring& printer,
         return parts && !readPrivatePart(parts->privatePart).empty() && wanted(parts->fields);
     };
     return Process(process).anyRegion([&](std::span<const std::uint8_t> region) {
-        auto rest = region;
-        for (;;) {
-            const auto found = std::ranges::search(rest, name);
-            if (found.empty()) {
-                return false;
-            }
-            rest = rest.subspan(static_cast<std::size_t>(found.begin() - rest.begin()));
+        auto at = region.begin();
+        while ((at = std::search(at, region.end(), name.begin(), name.end())) != region.end()) {
+            const auto rest = region.subspan(static_cast<std::size_t>(at - region.begin()));
             if (isWanted(rest.first(std::min(rest.size(), kDevModeSize)))) {
                 return true;
             }
-            rest = rest.subspan(1);
+            ++at;
         }
+        return false;
     });
 }
 
