@@ -229,7 +229,7 @@ void UIBitmapButtonControl::invalidate() const
     RECT area{};
     ::GetClientRect(getHwnd(), &area);
     ::InflateRect(&area, 1, 1);
-    ::InvalidateRect(getHwnd(), &area, TRUE);
+    repaint(true, &area);
 }
 
 void UIBitmapButtonControl::Draw(DRAWITEMSTRUCT* item)

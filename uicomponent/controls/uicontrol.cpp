@@ -122,6 +122,13 @@ o7::Accessibility& UIControl::accessibility()
     return *m_accessibility;
 }
 
+void UIControl::repaint(bool erase, const RECT* area) const noexcept
+{
+    if (m_window) {
+        ::InvalidateRect(m_window.get(), area, erase ? TRUE : FALSE);
+    }
+}
+
 void UIControl::createControlWindow(const wchar_t* className, DWORD style)
 {
     createBareWindow(className, style);

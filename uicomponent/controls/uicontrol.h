@@ -69,6 +69,9 @@ public:
     void setLocation(POINT location, bool inPixels = false);
     /// Changes the size; the place stays.
     void setSize(SIZE size, bool inPixels = false);
+    /// Has the window, or an area of it in pixels, painted anew (InvalidateRect), erased before
+    /// when wanted. Without a window nothing happens: for the system that would mean the desktop.
+    void repaint(bool erase, const RECT* area = nullptr) const noexcept;
 
 protected:
     /// Creates the window inside the module's activation context and gives it the parent's font.

@@ -112,7 +112,7 @@ void UIEntryListControl::setItemUnavailable(bool unavailable, int index)
     }
     record->unavailable = unavailable;
     setItemData(index, record);
-    ::InvalidateRect(getHwnd(), nullptr, TRUE);
+    repaint(true);
     if (isOpen() && entryWindow() != getHwnd()) {
         ::InvalidateRect(entryWindow(), nullptr, TRUE);
     }

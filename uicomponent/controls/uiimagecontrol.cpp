@@ -89,7 +89,7 @@ bool UIImageControl::show(const CXString& source, o7::UniqueGlobalMemory memory)
         picture.Detach(); // the property's now
         m_source = source;
     }
-    ::InvalidateRect(getHwnd(), nullptr, FALSE);
+    repaint(false);
     return !m_source.IsEmpty();
 }
 

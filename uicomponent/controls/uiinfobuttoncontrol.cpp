@@ -50,7 +50,7 @@ void UIInfoButtonControl::setMessage(std::uint32_t style, const CXString& text,
     m_title = title;
     if (style != m_style) {
         m_style = style;
-        InvalidateRect(getHwnd(), nullptr, FALSE);
+        repaint(false);
     }
     if (text == m_text)
         return;

@@ -145,7 +145,7 @@ bool UIComboBoxMolecule::HandleNotification(int notification)
 void UIComboBoxMolecule::LookChanged()
 {
     if (m_combo)
-        InvalidateRect(m_combo->getHwnd(), nullptr, TRUE);
+        m_combo->repaint(true);
 }
 
 void UIComboBoxMolecule::Show(bool shown)
