@@ -163,6 +163,7 @@ void addCreation(Report& report, Page& page, const GalleryKind& kind)
 std::vector<CXString> entries()
 {
     std::vector<CXString> texts;
+    texts.reserve(kEntries);
     for (int i = 0; i < kEntries; ++i) {
         texts.push_back(CXString::Formatted(L"Entry number %d", i));
     }
