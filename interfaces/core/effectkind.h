@@ -1,9 +1,11 @@
 #pragma once
 
+#include <cstdint>
+
 namespace o7 {
 
 /// What an active constraint does to a feature, or to some of its values.
-enum class EffectKind
+enum class EffectKind : std::uint8_t
 {
     Disable,
     Clear, ///< Disabled, shown and read as having no value.

@@ -1,5 +1,7 @@
 #include "changelog.h"
 
+#include "featurenode.h"
+
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -23,7 +25,7 @@ void ChangeLog::Note(FeatureNode& feature, unsigned bits)
     }
     feature.dirtyLevel = level.id;
     feature.dirtyIndex = level.changes.size();
-    level.changes.push_back({feature.shared_from_this(), bits});
+    level.changes.push_back({&feature, bits});
 }
 
 std::uint64_t ChangeLog::Open()

@@ -1,13 +1,16 @@
 #pragma once
 
-#include "featurenode.h"
+#include "featurevalue.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <utility>
 #include <vector>
 
 namespace o7 {
+
+class FeatureNode;
 
 /// What about a feature changed; combined as bits.
 enum ChangeBits : unsigned
@@ -16,9 +19,10 @@ enum ChangeBits : unsigned
     kStateBit = 2,
 };
 
+/// The feature stays in memory until the change was told, also where it was deleted meanwhile.
 struct Change
 {
-    std::shared_ptr<FeatureNode> feature;
+    FeatureNode* feature = nullptr;
     unsigned bits = 0;
 };
 
@@ -37,7 +41,7 @@ public:
         };
 
         Kind kind = Kind::Value;
-        std::shared_ptr<FeatureNode> feature; ///< What changed; for items the list.
+        FeatureNode* feature = nullptr; ///< What changed; for items the list.
         FeatureValue value;
         bool specified = false;
         bool followsDefault = false;
@@ -58,8 +62,16 @@ public:
     void Note(FeatureNode& feature, unsigned bits);
     /// Records how to take a change back; to be asked for with IsRecording() first, because outside
     /// transactions nothing is taken back.
-    void Record(Undo undo) { m_levels.back().undo.push_back(std::move(undo)); }
+    Undo& Record(Undo undo)
+    {
+        m_levels.back().undo.push_back(std::move(undo));
+        return m_levels.back().undo.back();
+    }
     bool IsRecording() const { return IsAnyOpen() && !m_muted; }
+    /// Keeps an item that was deleted until nothing speaks of it any more.
+    void Bury(std::shared_ptr<FeatureNode> item) { m_buried.push_back(std::move(item)); }
+    void ReleaseBuried() { m_buried.clear(); }
+
     /// While muted, changes are neither noted nor recorded: somebody tries something and takes it
     /// back by itself.
     void SetMuted(bool muted) { m_muted = muted; }
@@ -84,6 +96,7 @@ private:
     std::uint64_t m_nextId = 1;
     bool m_muted = false;
     std::vector<Level> m_levels;
+    std::vector<std::shared_ptr<FeatureNode>> m_buried;
     Level m_spare; ///< Empty lists with their memory.
 };
 

@@ -1,7 +1,6 @@
 #include "constraint.h"
 
 #include "featurenode.h"
-#include "valuecode.h"
 
 #include <tuple>
 
@@ -11,14 +10,6 @@ bool Constraint::Cause::Holds() const
 {
     const FeatureValue* actual = feature->EffectiveValue();
     return actual == nullptr ? holdsWithoutValue || test.MatchesNothing() : test.Matches(*actual);
-}
-
-bool Constraint::AffectsPresent() const
-{
-    if (!target->StoredSpecified())
-        return false;
-    return target->IsCoded() ? IsInMask(affectedCodes, target->StoredCode())
-                             : Affects(target->StoredValue());
 }
 
 bool ComesBefore(const Constraint* a, const Constraint* b)

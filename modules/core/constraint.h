@@ -14,7 +14,7 @@ class FeatureNode;
 /// One constraint at work, or one row of a default that adapts: bound to the features of one list,
 /// with its present answer. Owned by that list or feature, or by the model when it was added at run
 /// time. What the engine touches at each change stands first.
-struct Constraint
+struct alignas(64) Constraint
 {
     struct Cause
     {
@@ -48,8 +48,6 @@ struct Constraint
     std::shared_ptr<FeatureNode> targetOwner; ///< Keeps the target.
 
     bool Affects(const FeatureValue& value) const { return affected.Matches(value); }
-    /// The same for the target's present value.
-    bool AffectsPresent() const;
     /// Whether an affected value cannot be chosen while the constraint is active.
     bool Blocks() const
     {

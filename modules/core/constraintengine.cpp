@@ -1,7 +1,7 @@
 #include "constraintengine.h"
 
 #include "constraintbinding.h"
-#include "featurenode.h"
+#include "prefetch.h"
 #include "valuecode.h"
 
 #include <algorithm>
@@ -82,7 +82,7 @@ void ConstraintEngine::Link(Constraint& constraint)
         const bool holds = cause.Holds();
         ++m_evaluations;
         constraint.unmet += holds ? 0 : 1;
-        feature.readers.push_back({&constraint, mask, static_cast<std::uint32_t>(i), holds});
+        feature.readers.push_back({&constraint, mask, static_cast<std::uint32_t>(i), holds, false});
         if (Influences(constraint))
             Raise(*constraint.target, feature.rank + 1);
     }
@@ -128,23 +128,51 @@ void ConstraintEngine::Activate(Constraint& constraint, bool active)
         Postpone(target);
         return;
     }
-    if (active) {
-        target.activeEffects.push_back(&constraint);
-    } else {
-        auto& effects = target.activeEffects;
-        *std::find(effects.begin(), effects.end(), &constraint) = effects.back();
-        effects.pop_back();
-    }
-    UpdateHit(constraint);
+    if (active)
+        AddEffect(constraint);
+    else
+        RemoveEffect(constraint);
     if (constraint.kind == EffectKind::Clear) {
         target.activeClears += active ? 1U : ~0U;
         Postpone(target);
     }
 }
 
-void ConstraintEngine::UpdateHit(Constraint& constraint)
+void ConstraintEngine::AddEffect(Constraint& constraint)
 {
-    constraint.hit = constraint.active && !constraint.whole && constraint.AffectsPresent();
+    auto& effects = constraint.target->activeEffects;
+    effects.push_back({&constraint, constraint.affectedCodes, constraint.whole,
+                       constraint.Blocks(), false});
+    UpdateHit(*constraint.target, effects.back());
+    UpdateBroken(constraint);
+}
+
+void ConstraintEngine::RemoveEffect(Constraint& constraint)
+{
+    auto& effects = constraint.target->activeEffects;
+    *std::find_if(effects.begin(), effects.end(), [&](const auto& effect) {
+        return effect.constraint == &constraint;
+    }) = effects.back();
+    effects.pop_back();
+    constraint.hit = false;
+    UpdateBroken(constraint);
+}
+
+void ConstraintEngine::UpdateHit(const FeatureNode& feature, FeatureNode::ActiveEffect& effect)
+{
+    const bool hit =
+        !effect.whole && feature.StoredSpecified() &&
+        (feature.IsCoded() ? IsInMask(effect.codes, feature.StoredCode())
+                           : effect.constraint->Affects(feature.StoredValue()));
+    if (hit == effect.hit)
+        return;
+    effect.hit = hit;
+    effect.constraint->hit = hit;
+    UpdateBroken(*effect.constraint);
+}
+
+void ConstraintEngine::UpdateBroken(Constraint& constraint)
+{
     const bool broken = constraint.IsBroken();
     if (broken == (constraint.brokenAt != Constraint::kNotBroken))
         return;
@@ -173,10 +201,10 @@ void ConstraintEngine::ValueChanged(FeatureNode& feature)
 void ConstraintEngine::StoredChanged(FeatureNode& feature)
 {
     // A limited feature says something else when its value enters or leaves the limits.
-    for (Constraint* effect : feature.activeEffects) {
-        const bool before = effect->hit;
-        UpdateHit(*effect);
-        if (effect->hit != before)
+    for (auto& effect : feature.activeEffects) {
+        const bool before = effect.hit;
+        UpdateHit(feature, effect);
+        if (effect.hit != before)
             m_changes.Note(feature, kStateBit);
     }
 }
@@ -185,23 +213,39 @@ void ConstraintEngine::AskReaders(FeatureNode& feature)
 {
     m_evaluations += feature.readers.size();
     const unsigned code = feature.IsCoded() ? feature.EffectiveCode() : 0;
+    // In three rounds, so that memory is on its way before it is needed: a constraint, and then
+    // what it limits, lie anywhere.
     for (auto& reader : feature.readers) {
-        Constraint& constraint = *reader.constraint;
-        const bool holds = feature.IsCoded() ? IsInMask(reader.holdsFor, code)
-                                             : constraint.when[reader.condition].Holds();
-        if (holds == reader.holds) {
-            // The reason of an active constraint may name the value of its cause.
-            if (holds && reader.condition == 0 && constraint.active &&
-                constraint.defaultRow == Constraint::kNoRow)
-                StateChanged(*constraint.target);
+        const bool holds = feature.IsCoded()
+                               ? IsInMask(reader.holdsFor, code)
+                               : reader.constraint->when[reader.condition].Holds();
+        // The reason of an active constraint may name the value of its cause.
+        if (holds == reader.holds && (!holds || reader.condition != 0))
             continue;
-        }
-        reader.holds = holds;
-        if (holds && --constraint.unmet == 0)
-            Activate(constraint, true);
-        else if (!holds && constraint.unmet++ == 0)
-            Activate(constraint, false);
+        reader.changes = holds != reader.holds;
+        m_answers.push_back(&reader);
+        Prefetch(reader.constraint);
     }
+    for (const auto* reader : m_answers)
+        Prefetch(reader->constraint->target);
+    for (auto* reader : m_answers)
+        Answer(*reader);
+    m_answers.clear();
+}
+
+void ConstraintEngine::Answer(FeatureNode::Reader& reader)
+{
+    Constraint& constraint = *reader.constraint;
+    if (!reader.changes) {
+        if (constraint.active && constraint.defaultRow == Constraint::kNoRow)
+            StateChanged(*constraint.target);
+        return;
+    }
+    reader.holds = !reader.holds;
+    if (reader.holds && --constraint.unmet == 0)
+        Activate(constraint, true);
+    else if (!reader.holds && constraint.unmet++ == 0)
+        Activate(constraint, false);
 }
 
 void ConstraintEngine::Postpone(FeatureNode& feature)

@@ -2,6 +2,7 @@
 
 #include "changelog.h"
 #include "constraint.h"
+#include "featurenode.h"
 
 #include <cstdint>
 #include <memory>
@@ -34,6 +35,9 @@ public:
     /// The constraints by which choices clash now, in no order.
     const std::vector<Constraint*>& Broken() const { return m_broken; }
 
+    /// A number that no constraint's `seen` has.
+    std::uint64_t NewMark() { return ++m_marks; }
+
     /// How many conditions have been asked.
     std::uint64_t Evaluations() const { return m_evaluations; }
 
@@ -42,9 +46,13 @@ private:
     void Unlink(Constraint& constraint);
     void Raise(FeatureNode& feature, unsigned rank);
     void Activate(Constraint& constraint, bool active);
-    void UpdateHit(Constraint& constraint);
+    void AddEffect(Constraint& constraint);
+    void RemoveEffect(Constraint& constraint);
+    void UpdateHit(const FeatureNode& feature, FeatureNode::ActiveEffect& effect);
+    void UpdateBroken(Constraint& constraint);
     void StoredChanged(FeatureNode& feature);
     void AskReaders(FeatureNode& feature);
+    void Answer(FeatureNode::Reader& reader);
     void Postpone(FeatureNode& feature);
     void Settle();
     void FollowDefault(FeatureNode& feature);
@@ -55,8 +63,10 @@ private:
     std::vector<std::unique_ptr<Constraint>> m_added;
     std::vector<FeatureNode*> m_pending;
     std::vector<Constraint*> m_toggled;
+    std::vector<FeatureNode::Reader*> m_answers; ///< Empty but while readers are asked.
     std::vector<Constraint*> m_broken;
     std::uint64_t m_evaluations = 0;
+    std::uint64_t m_marks = 0;
 };
 
 } // namespace o7

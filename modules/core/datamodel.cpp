@@ -19,8 +19,9 @@ constexpr int kMostDeliveryRounds = 10000;
 bool IsHiddenWhole(const FeatureNode& feature)
 {
     return std::any_of(
-        feature.activeEffects.begin(), feature.activeEffects.end(),
-        [](const Constraint* effect) { return effect->whole && effect->kind == EffectKind::Hide; });
+        feature.activeEffects.begin(), feature.activeEffects.end(), [](const auto& effect) {
+            return effect.whole && effect.constraint->kind == EffectKind::Hide;
+        });
 }
 
 FeatureNode* FindGroup(const FeatureNode& list, FeatureEnum group)
@@ -237,8 +238,11 @@ void DataModel::DeliverPending()
             break;
         Deliver(std::move(changes));
     }
-    if (m_deliveryDepth == 0)
+    if (m_deliveryDepth == 0) {
         m_deliveryRounds = 0;
+        if (!m_log.IsAnyOpen())
+            m_log.ReleaseBuried();
+    }
 }
 
 void DataModel::SettleBeforeDisplay()

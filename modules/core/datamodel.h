@@ -10,6 +10,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace o7 {
@@ -42,6 +43,13 @@ public:
     void RegisterForEvent(IObserver& observer, EventId event, unsigned int kind) override;
     void UnregisterForEvent(IObserver& observer, EventId event, unsigned int kind) override;
     IConstraintsIntegrator& GetConstraintsIntegrator() override { return *this; }
+    std::vector<StateReason> GetStateReasons(const FeatureIdWithContext& feature,
+                                             const ValueId& option) override;
+    std::vector<FeatureIdWithContext> GetFeaturesInConflict() override;
+    ChangeProposal ProposeChange(const FeatureIdWithContext& feature,
+                                 const FeatureValue& value) override;
+    std::vector<Consequence> PreviewAlternative(const Alternative& alternative) override;
+    bool ApplyAlternative(const Alternative& alternative) override;
 
     // IDataModel
     bool SaveJobTicket(const std::filesystem::path& file, std::string& message) override;
@@ -82,6 +90,9 @@ private:
         return done;
     }
     void RollBackInnermost();
+    std::vector<std::vector<SettingChange>> RemediesOf(const Constraint& constraint);
+    /// The features of an alternative with the values they get; empty unless all take them.
+    std::vector<std::pair<FeatureNode*, FeatureValue>> Resolved(const Alternative& alternative);
     void Deliver(std::vector<Change> changes);
     void DeliverPending();
     void HandleEvent(const EventNotification& event);

@@ -12,6 +12,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -93,12 +94,20 @@ private:
 
 struct ListDescription
 {
-    std::vector<FeatureDescription> features;
+    static constexpr std::size_t kNotThere = ~std::size_t{0};
+
+    std::vector<FeatureDescription> features; ///< Added with Add() alone.
     std::vector<ConstraintDescription> constraints;
 
+    void Add(FeatureDescription feature);
+    /// kNotThere when the list has no such member.
+    std::size_t IndexOf(FeatureEnum number) const;
     /// Null when the list has no such member.
     const FeatureDescription* Find(FeatureEnum number) const;
     const FeatureDescription* Find(const CXString& name) const;
+
+private:
+    std::unordered_map<int, std::size_t> m_index;
 };
 
 struct ProductDescription

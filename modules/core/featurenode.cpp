@@ -181,6 +181,12 @@ FeatureNode* FeatureNode::FindChild(const FeatureId& feature) const
         }
         return nullptr;
     }
+    if (feature.GetItem() != FeatureId::kNoItem || !m_description->list)
+        return nullptr;
+    if (feature.GetFeatureEnum() != DataModelIds::kFeatureByName) {
+        const std::size_t index = m_description->list->IndexOf(feature.GetFeatureEnum());
+        return index < m_children.size() ? m_children[index].get() : nullptr;
+    }
     for (const auto& child : m_children) {
         if (child->m_id.GetFeatureId() == feature)
             return child.get();
@@ -210,8 +216,9 @@ bool FeatureNode::IsCleared() const
 {
     const bool here =
         activeClears != 0 &&
-        std::any_of(activeEffects.begin(), activeEffects.end(), [&](const Constraint* effect) {
-            return effect->kind == EffectKind::Clear && (effect->whole || effect->Affects(m_value));
+        std::any_of(activeEffects.begin(), activeEffects.end(), [&](const auto& effect) {
+            return effect.constraint->kind == EffectKind::Clear &&
+                   (effect.whole || effect.constraint->Affects(m_value));
         });
     return here || (m_parent != nullptr && m_parent->IsCleared());
 }
@@ -239,16 +246,17 @@ bool FeatureNode::IsLimitedWhole() const
 {
     const bool here =
         std::any_of(activeEffects.begin(), activeEffects.end(),
-                    [](const Constraint* effect) { return effect->whole && effect->Blocks(); });
+                    [](const auto& effect) { return effect.whole && effect.blocks; });
     return here || (m_parent != nullptr && m_parent->IsLimitedWhole());
 }
 
 bool FeatureNode::IsBlocked(const FeatureValue& value) const
 {
-    return std::any_of(
-        activeEffects.begin(), activeEffects.end(), [&](const Constraint* effect) {
-            return !effect->whole && effect->Blocks() && effect->Affects(value);
-        });
+    const unsigned code = m_coded ? CodeOf(*m_description, value) : 0;
+    return std::any_of(activeEffects.begin(), activeEffects.end(), [&](const auto& effect) {
+        return !effect.whole && effect.blocks &&
+               (m_coded ? IsInMask(effect.codes, code) : effect.constraint->Affects(value));
+    });
 }
 
 void FeatureNode::BuildMembers()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "constraint.h"
+#include "deliverylist.h"
 #include "description.h"
 #include "ifeaturenode.h"
 
@@ -99,11 +100,22 @@ public:
         std::uint64_t holdsFor; ///< Codes, where the feature has them.
         std::uint32_t condition;
         bool holds;
+        bool changes; ///< In the round of questions under way.
+    };
+
+    /// An active constraint with this target, and what is often asked of it.
+    struct ActiveEffect
+    {
+        Constraint* constraint;
+        std::uint64_t codes; ///< That it affects, where the feature has codes.
+        bool whole;
+        bool blocks;
+        bool hit; ///< As in the constraint.
     };
 
     // Links kept by the constraint engine, the change log and the notifier.
     std::vector<Reader> readers;
-    std::vector<Constraint*> activeEffects; ///< Of the constraints with this target, in no order.
+    std::vector<ActiveEffect> activeEffects; ///< In no order.
     unsigned activeClears = 0;              ///< How many of them clear.
     unsigned rank = 0;        ///< Above those whose clearing or value can change this one's.
     bool isPending = false;   ///< Its readers have to look again.
@@ -114,6 +126,7 @@ public:
     std::vector<Constraint*> effects;     ///< All constraints with this feature as target.
     std::vector<std::unique_ptr<Constraint>> constraints; ///< Those declared here.
     std::vector<std::shared_ptr<Registration>> registrations;
+    std::unique_ptr<DeliveryList> delivery; ///< Null until somebody registered.
 
 private:
     bool IsAlive() const { return m_model != nullptr && m_attached; }

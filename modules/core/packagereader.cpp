@@ -99,7 +99,7 @@ void PackageReader::ReadFeatures(const LocatedJson& features, Scope& scope, List
                 continue;
             FeatureDescription feature = ReadFeature(entry, scope);
             CheckDistinct(entry, feature, numbers, names);
-            list.features.push_back(std::move(feature));
+            list.Add(std::move(feature));
             entries.push_back(&entry);
         }
     }
@@ -247,6 +247,7 @@ void PackageReader::ReadRanges(const LocatedJson& json, FeatureDescription& feat
 
 void PackageReader::ReadFlags(const LocatedJson& json, FeatureDescription& feature)
 {
+    feature.flags.device = feature.name.Find(L"odrv-installed-") == 0;
     const auto* flags = json.Find("flags");
     if (flags == nullptr)
         return;
@@ -255,6 +256,7 @@ void PackageReader::ReadFlags(const LocatedJson& json, FeatureDescription& featu
         feature.flags.readOnly |= flag == "readOnly";
         feature.flags.required |= flag == "required";
         feature.flags.stateOnly |= flag == "stateOnly";
+        feature.flags.device |= flag == "device";
         feature.userDefinedValues |= flag == "userDefinedValues";
         feature.savedInTicket &= flag != "notSaved";
         feature.loadedFromTicket &= flag != "notLoaded";

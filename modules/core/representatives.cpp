@@ -63,24 +63,41 @@ void AddBounds(const FeatureDescription& feature, Collector& values)
     }
 }
 
+/// Options need no comparing of each with each.
+std::vector<FeatureValue> Options(const FeatureDescription& feature)
+{
+    std::vector<FeatureValue> values;
+    values.reserve(feature.options.size() + 1);
+    const auto* initial = std::get_if<ValueId>(&feature.defaultValue);
+    const ValueId first = initial != nullptr ? *initial : ValueId(DataModelIds::kValueUnspecified);
+    values.emplace_back(first);
+    for (const OptionDescription& option : feature.options) {
+        if (option.number != first.GetValueEnum())
+            values.emplace_back(
+                ValueId(option.number, initial != nullptr ? first.GetFeatureId() : feature.Id(),
+                        option.name, CXString()));
+    }
+    return values;
+}
+
 } // namespace
 
 std::vector<FeatureValue> Representatives(const FeatureDescription& feature,
                                           const std::vector<const ValueTest*>& tests)
 {
+    if (feature.kind == FeatureKind::Option && !feature.userDefinedValues)
+        return Options(feature);
     Collector values(feature);
-    if (feature.defaultValue.index() != 0)
+    if (feature.kind == FeatureKind::Option) {
+        for (FeatureValue& value : Options(feature))
+            values.AddAsItIs(std::move(value));
+    } else {
         values.AddAsItIs(feature.defaultValue);
-    else if (feature.kind == FeatureKind::Option)
-        values.AddAsItIs(ValueId(DataModelIds::kValueUnspecified));
-    else
-        values.AddAsItIs({});
+    }
     for (const AdaptingDefault& row : feature.defaults) {
         if (row.value.index() != 0)
             values.AddAsItIs(row.value);
     }
-    for (const OptionDescription& option : feature.options)
-        values.AddAsItIs(ValueId(option.number, feature.Id(), option.name, CXString()));
     if (feature.kind == FeatureKind::Boolean) {
         values.Add(false);
         values.Add(true);

@@ -29,15 +29,22 @@ void SettingsWriter::Write(FeatureNode& feature, FeatureValue value, bool specif
 {
     if (feature.HasStored(value, specified) && (feature.FollowsDefault() || !followsDefault))
         return;
-    const bool wasSpecified = feature.StoredSpecified();
-    const bool followed = feature.FollowsDefault();
-    FeatureValue before = feature.Release();
+    // The record first: without it nothing may have changed.
+    if (m_log.IsRecording()) {
+        auto& undo = m_log.Record({ChangeLog::Undo::Kind::Value, &feature, {},
+                                   feature.StoredSpecified(), feature.FollowsDefault(), nullptr, 0});
+        undo.value = feature.Release();
+    }
     feature.Store(std::move(value), specified, followsDefault);
-    if (m_log.IsRecording())
-        m_log.Record({ChangeLog::Undo::Kind::Value, feature.shared_from_this(), std::move(before),
-                      wasSpecified, followed, nullptr, 0});
     m_log.Note(feature, kValueBit);
     m_engine.ValueChanged(feature);
+}
+
+bool SettingsWriter::CanTake(const FeatureNode& feature, FeatureValue& value) const
+{
+    const FeatureDescription& description = feature.Description();
+    return IsWritable(feature) &&
+           (value.index() == 0 ? !description.flags.required : description.Accepts(value));
 }
 
 void SettingsWriter::Force(FeatureNode& feature, FeatureValue value)
@@ -88,12 +95,13 @@ void SettingsWriter::Erase(FeatureNode& list, std::size_t index)
     m_engine.Detach(*item);
     item->SetAttached(false);
     m_log.Note(list, kValueBit);
+    m_log.Bury(item);
 }
 
 void SettingsWriter::DeleteItem(FeatureNode& list, std::size_t index)
 {
     if (m_log.IsRecording())
-        m_log.Record({ChangeLog::Undo::Kind::ItemDeleted, list.shared_from_this(), {}, false,
+        m_log.Record({ChangeLog::Undo::Kind::ItemDeleted, &list, {}, false,
                       false, list.Children()[index], index});
     Erase(list, index);
 }
@@ -106,7 +114,7 @@ std::shared_ptr<FeatureNode> SettingsWriter::CreateItem(FeatureNode& list)
         return nullptr;
     std::shared_ptr<FeatureNode> item = list.MakeItem();
     if (m_log.IsRecording())
-        m_log.Record({ChangeLog::Undo::Kind::ItemCreated, list.shared_from_this(), {}, false, false,
+        m_log.Record({ChangeLog::Undo::Kind::ItemCreated, &list, {}, false, false,
                       item, index});
     Insert(list, item, index);
     return item;

@@ -26,7 +26,10 @@ public:
     std::shared_ptr<FeatureNode> CreateItem(FeatureNode& list);
     bool DeleteItems(FeatureNode& list, std::vector<std::size_t> indices);
 
-    /// A value that the feature accepts, whatever constraints say; monostate: unspecified.
+    /// Whether the feature takes the value (monostate: unspecified) apart from constraints; the
+    /// value is completed.
+    bool CanTake(const FeatureNode& feature, FeatureValue& value) const;
+    /// A value that the feature can take, whatever constraints say; monostate: unspecified.
     void Force(FeatureNode& feature, FeatureValue value);
     void Apply(FeatureNode& feature, const SettingsSnapshot& snapshot);
     void Undo(ChangeLog::Undo undo);

@@ -59,8 +59,9 @@ void AddEffect(EffectKind kind, const CXString& reason, InterpretedState& state)
 
 std::vector<const Constraint*> ActiveInOrder(const FeatureNode& feature)
 {
-    std::vector<const Constraint*> active(feature.activeEffects.begin(),
-                                          feature.activeEffects.end());
+    std::vector<const Constraint*> active;
+    for (const auto& effect : feature.activeEffects)
+        active.push_back(effect.constraint);
     std::sort(active.begin(), active.end(), ComesBefore);
     return active;
 }
@@ -136,6 +137,17 @@ CXString StateInterpreter::Reason(const Constraint& constraint, const ValueId* o
                                   : AffectedText(constraint)});
     // A translation may hold an empty text; a reason is never empty.
     return reason.IsBlank() ? CXString::Formatted(L"#%u", constraint.reason) : reason;
+}
+
+FeatureValue StateInterpreter::Shown(const FeatureNode& feature, const FeatureValue& value)
+{
+    const auto* option = std::get_if<ValueId>(&value);
+    return option != nullptr ? FeatureValue(Complete(feature, *option)) : value;
+}
+
+FeatureValue StateInterpreter::ShownPresent(const FeatureNode& feature)
+{
+    return feature.StoredSpecified() ? Shown(feature, feature.StoredValue()) : FeatureValue();
 }
 
 void StateInterpreter::AddValueEffect(const FeatureNode& feature, const Constraint& constraint,

@@ -29,6 +29,14 @@ public:
     InterpretedState FeatureState(const FeatureNode& feature);
     InterpretedState OptionState(const FeatureNode& feature, const ValueId& option);
 
+    /// The reason, with names filled in; for one value of the target, or for all it affects.
+    CXString Reason(const Constraint& constraint, const ValueId* option = nullptr);
+
+    /// A value as it is shown: of an option feature with its display string.
+    FeatureValue Shown(const FeatureNode& feature, const FeatureValue& value);
+    /// The feature's present one; monostate: unspecified.
+    FeatureValue ShownPresent(const FeatureNode& feature);
+
 private:
     void AddValueEffect(const FeatureNode& feature, const Constraint& constraint,
                         InterpretedState& state);
@@ -38,8 +46,6 @@ private:
     std::unique_ptr<CapabilitiesNode> OptionCapabilities(const FeatureNode& feature,
                                                          const CapabilitiesNode& base);
 
-    /// The reason, with names filled in; for one value of the target, or for all it affects.
-    CXString Reason(const Constraint& constraint, const ValueId* option = nullptr);
     CXString FeatureName(const FeatureNode& feature);
     CXString ValueText(const FeatureNode& feature, const FeatureValue& value);
     CXString AffectedText(const Constraint& constraint);

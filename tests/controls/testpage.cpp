@@ -23,7 +23,9 @@ TestPage::TestPage()
     m_page = ::CreateDialogParamW(IsolationAware::moduleInstance(),
                                   MAKEINTRESOURCEW(O7_DIALOG_EMPTY_PAGE), m_frame.get(),
                                   &TestPage::procedure, reinterpret_cast<LPARAM>(this));
+    // What a sheet does to its pages: Tab and the arrow keys then find the controls on them.
     ::SetWindowLongPtrW(m_page, GWL_STYLE, WS_CHILD | DS_SETFONT);
+    ::SetWindowLongPtrW(m_page, GWL_EXSTYLE, WS_EX_CONTROLPARENT);
     ::EnableWindow(m_page, TRUE);
     ::ShowWindow(m_page, SW_SHOW);
     m_services.getDialogConversion().initDialogConversions(m_page);

@@ -291,12 +291,13 @@ const Story kOfficeStories[] = {
     {"a fax is not stapled", {{3050, 1}, {3001, 5240}}, 3012, 0, Effect::Disabled},
     {"recipients of a fax", {{3050, 1}, {3001, 5240}}, 3260, 0, Effect::Free},
     {"PIN of a secure job", {{3001, 5101}}, 3240, 0, Effect::Free},
-    {"colour not allowed", {{3083, 5786}}, 3009, 0, Effect::Conflict},
+    {"colour not allowed", {{3083, 5786}}, 3009, 0, Effect::Info},
+    {"colour, then not allowed", {{3009, 5151}, {3083, 5786}}, 3009, 0, Effect::Conflict},
     {"glossy paper in tray 2", {{3076, 5133}, {3004, 5133}}, 3003, 5122, Effect::Free},
 };
 
 const Story kProductionStories[] = {
-    {"no binder, no binding", {{3002, 5111}}, 3152, 0, Effect::Disabled},
+    {"no binder, no binding", {{3055, 5758}, {3002, 5111}}, 3152, 5497, Effect::Disabled},
     {"rings without holes", {{3055, 5759}, {3002, 5111}, {3152, 5495}}, 3013, 0, Effect::Conflict},
     {"rings with holes",
      {{3055, 5759}, {3056, 5765}, {3002, 5111}, {3013, 5360}, {3152, 5495}},

@@ -10,19 +10,6 @@ namespace o7 {
 
 namespace {
 
-/// The number of the tool; windows stand for themselves, by their handles.
-constexpr UINT_PTR kTool = 1;
-
-TTTOOLINFOW toolOf(HWND list)
-{
-    TTTOOLINFOW tool{};
-    tool.cbSize = TTTOOLINFOW_V2_SIZE;
-    tool.uFlags = TTF_TRACK | TTF_ABSOLUTE | TTF_TRANSPARENT;
-    tool.hwnd = list;
-    tool.uId = kTool;
-    return tool;
-}
-
 bool isMirrored(HWND window)
 {
     return (::GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
@@ -44,25 +31,12 @@ POINT placeFor(SIZE tip, const RECT& row, int x, bool growsLeft)
     return place;
 }
 
-LRESULT send(HWND window, UINT message, WPARAM wParam, TTTOOLINFOW& tool)
-{
-    return ::SendMessageW(window, message, wParam, reinterpret_cast<LPARAM>(&tool));
-}
-
 } // namespace
 
 void RowTip::show(HWND list, const RECT& row, int x, const CXString& text)
 {
     hide();
-    HWND window = m_toolTips.getHwnd();
-    if (text.IsEmpty() || window == nullptr) {
-        return;
-    }
-    TTTOOLINFOW tool = toolOf(list);
-    const bool mirrored = isMirrored(list);
-    tool.uFlags |= mirrored ? UINT{TTF_RTLREADING} : 0U;
-    tool.lpszText = const_cast<wchar_t*>(text.c_str());
-    if (send(window, TTM_ADDTOOLW, 0, tool) == FALSE) {
+    if (text.IsEmpty()) {
         return;
     }
     m_list = list;
@@ -70,25 +44,14 @@ void RowTip::show(HWND list, const RECT& row, int x, const CXString& text)
     POINT start{x, 0};
     ::MapWindowPoints(list, nullptr, reinterpret_cast<POINT*>(&onScreen), 2);
     ::MapWindowPoints(list, nullptr, &start, 1);
-    const auto moveTo = [&](SIZE size) {
-        const POINT place = placeFor(size, onScreen, start.x, mirrored);
-        ::SendMessageW(window, TTM_TRACKPOSITION, 0, MAKELPARAM(place.x, place.y));
-    };
-    const auto expected = static_cast<DWORD>(send(window, TTM_GETBUBBLESIZE, 0, tool));
-    moveTo({LOWORD(expected), HIWORD(expected)});
-    send(window, TTM_TRACKACTIVATE, TRUE, tool);
-    // Wine foresees the size of the tip before; then this one has come out otherwise.
-    RECT shown{};
-    ::GetWindowRect(window, &shown);
-    moveTo({shown.right - shown.left, shown.bottom - shown.top});
+    m_toolTips.showPlaced(
+        list, text, [&](SIZE size) { return placeFor(size, onScreen, start.x, isMirrored(list)); });
 }
 
 void RowTip::hide() noexcept
 {
     if (m_list != nullptr) {
-        TTTOOLINFOW tool = toolOf(m_list);
-        send(m_toolTips.getHwnd(), TTM_TRACKACTIVATE, FALSE, tool);
-        send(m_toolTips.getHwnd(), TTM_DELTOOLW, 0, tool);
+        m_toolTips.hidePlaced(m_list);
         m_list = nullptr;
     }
 }

@@ -192,7 +192,7 @@ void UIListViewControl::showGround() const
     for (const UINT message : {LVM_SETBKCOLOR, LVM_SETTEXTBKCOLOR}) {
         ::SendMessageW(getHwnd(), message, 0, ground);
     }
-    ::InvalidateRect(getHwnd(), nullptr, TRUE);
+    repaint(true);
 }
 
 /// A key that moves the focus to another row shows that row's tip, as resting on it does.

@@ -32,8 +32,10 @@ protected:
 
 private:
     void CreateLabel(UIPageWindow& page);
+    bool HandleNotification(int notification);
 
     std::unique_ptr<UITextControl> m_label;
     std::unique_ptr<UIComboBoxControl> m_combo;
     unsigned m_labelText = 0;
+    bool m_choiceCancelled = false; ///< the list is about to close without a choice
 };
