@@ -23,7 +23,7 @@ constexpr std::wstring_view kUsage =
     L"Usage: o7preview [options]\n"
     L"Opens the pages of a product without installing a driver.\n"
     L"\n"
-    L"  --product P      folder name of the product package (default: the first there is)\n"
+    L"  --product P      folder name of the product package (default: office-c430)\n"
     L"  --products DIR   where the packages are (default: products beside the program)\n"
     L"  --mode N         1 printing preferences, 2 device settings, 3 compact dialog,\n"
     L"                   4 printing defaults (default: 1, with --entry dialog 3)\n"

@@ -5,6 +5,12 @@
 #include <utility>
 
 namespace o7 {
+namespace {
+
+/// Opened when none is named: it has the pages that most people know.
+constexpr std::wstring_view kUsualProduct = L"office-c430";
+
+} // namespace
 
 ProductCatalogue::ProductCatalogue(std::filesystem::path root) : m_root(std::move(root))
 {
@@ -19,7 +25,10 @@ ProductCatalogue::ProductCatalogue(std::filesystem::path root) : m_root(std::mov
 
 std::optional<std::filesystem::path> ProductCatalogue::find(std::wstring_view name) const
 {
-    const auto found = name.empty() ? m_names.begin() : std::ranges::find(m_names, name);
+    auto found = std::ranges::find(m_names, name.empty() ? kUsualProduct : name);
+    if (found == m_names.end() && name.empty()) {
+        found = m_names.begin();
+    }
     if (found == m_names.end()) {
         return std::nullopt;
     }

@@ -18,8 +18,9 @@ public:
     /// Folder names in alphabetical order.
     const std::vector<std::wstring>& names() const { return m_names; }
 
-    /// The product's folder, the first one for an empty name, nothing for an unknown one. Only
-    /// names of the list are found, so no name leads out of the root.
+    /// The product's folder, nothing for an unknown one. An empty name finds the usual product, or
+    /// the first where that is not there. Only names of the list are found, so no name leads out of
+    /// the root.
     std::optional<std::filesystem::path> find(std::wstring_view name) const;
 
     /// The sentence for a product that was not found, with the list of those there are.

@@ -14,9 +14,12 @@ o7_die() {
 
 # --- packages -------------------------------------------------------------------------------
 
-O7_PACKAGES_BUILD=(cmake ninja-build g++ g++-mingw-w64-x86-64 googletest nlohmann-json3-dev)
-# The fonts decide how wide texts are: without them a display shows other ones, or none.
-O7_PACKAGES_WINE=(wine64 wine xvfb fonts-liberation)
+# The last one compiles the help files of the products.
+O7_PACKAGES_BUILD=(cmake ninja-build g++ g++-mingw-w64-x86-64 googletest nlohmann-json3-dev
+    fp-utils-3.2.2)
+# The fonts decide how wide texts are: without them a display shows other ones, or none. The last two
+# have the Japanese and the Arabic letters.
+O7_PACKAGES_WINE=(wine64 wine xvfb fonts-liberation fonts-vlgothic fonts-dejavu-core)
 O7_PACKAGES_TEST=(clang-format clang-tidy shellcheck python3 git)
 O7_PACKAGES_APP=(xdotool imagemagick)
 
@@ -139,8 +142,24 @@ o7_wine_managed() {
     printf '%s\n' "$1" >"$mark"
 }
 
-# o7_wine_begin virtual|real: lock, display, prefix, and a server that stays for the next program.
-# The caller's end undoes it all.
+# o7_wine_letters LANGUAGE: lets other fonts help where the one of the pages has no letters. Latin
+# texts look and measure as before, except beside Arabic: only the first font's letters are joined.
+o7_wine_letters() {
+    local mark=$WINEPREFIX/.o7-letters first=latin
+    local links='HKLM\Software\Microsoft\Windows NT\CurrentVersion\FontLink\SystemLink'
+    [ "$1" != ar ] || first=arabic
+    [ "$(cat "$mark" 2>/dev/null)" = $first ] && return 0
+    o7_reg "$links" 'Liberation Sans' REG_MULTI_SZ 'VL-PGothic-Regular.ttf,VL PGothic'
+    if [ $first = arabic ]; then
+        o7_reg "$links" Tahoma REG_MULTI_SZ 'DejaVuSans.ttf,DejaVu Sans'
+    else
+        o7_wine reg delete "$links" /v Tahoma /f >/dev/null 2>&1
+    fi
+    printf '%s\n' $first >"$mark"
+}
+
+# o7_wine_begin virtual|real [LANGUAGE]: lock, display, prefix, letters, and a server that stays for
+# the next program. The caller's end undoes it all.
 o7_wine_begin() {
     o7_wine_find
     o7_wine_lock
@@ -153,6 +172,7 @@ o7_wine_begin() {
     "$O7_WINESERVER" -p60 >/dev/null 2>&1
     o7_wine cmd /c exit >/dev/null 2>&1 </dev/null
     if [ "$1" = real ]; then o7_wine_managed Y; else o7_wine_managed N; fi
+    o7_wine_letters "${2:-}"
 }
 
 # What is left behind: nothing.

@@ -20,6 +20,7 @@ struct Measurement
 constexpr Measurement kMeasurements[] = {
     {"constraints", o7::bench::MeasureConstraints},
     {"notify", o7::bench::MeasureNotify},
+    {"package", o7::bench::MeasurePackage},
 };
 
 int Run(const std::vector<std::string_view>& words)

@@ -38,9 +38,12 @@ SyntheticProduct::SyntheticProduct(int features, int constraints)
         text.append(i == 0 ? "" : ",").append(FeatureText(i));
     text += "],\"constraints\":[";
     for (int i = 0; i < constraints; ++i) {
-        // The last option is never disabled, so that a change is never refused.
+        // Each feature's rules lead to different ones. The last option is never disabled, so that a
+        // change is never refused.
+        const int round = i / features;
+        const int step = 1 + (i * 7 + round * 131) % (features - 1);
         m_rules.push_back(
-            {i % features, 1 + i / features % 3, (i * 7 + 1) % features, 1 + i % (kOptions - 2)});
+            {i % features, 1 + round % 3, (i + step) % features, 1 + round / 3 % (kOptions - 2)});
         text.append(i == 0 ? "" : ",").append(RuleText(i, m_rules.back()));
     }
     text += "]}";

@@ -32,16 +32,18 @@ public:
 
     IDataModel& Model() { return *m_model; }
     const std::vector<Rule>& Rules() const { return m_rules; }
+    /// Memory of the list of rules, which is no part of the model.
+    std::size_t RuleBytes() const { return m_rules.capacity() * sizeof(Rule); }
     FeatureIdWithContext Feature(int index) const;
     ValueId Value(int option) const;
 
-private:
     class NoStrings : public IStringSource
     {
     public:
         CXString LoadStringW(unsigned id) const override;
     };
 
+private:
     NoStrings m_strings;
     std::vector<Rule> m_rules;
     std::unique_ptr<IDataModel> m_model;

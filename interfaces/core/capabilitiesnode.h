@@ -10,6 +10,7 @@ struct CapabilityFlags
     bool readOnly = false;  ///< Shown, never changed by the user.
     bool required = false;  ///< Cannot be left unspecified.
     bool stateOnly = false; ///< Reports a state of the device; not a setting of the job.
+    bool device = false;    ///< An installed option: belongs to the printer, not to a job.
 };
 
 } // namespace o7
@@ -30,6 +31,7 @@ public:
     bool IsReadOnly() const { return m_flags.readOnly; }
     bool IsRequired() const { return m_flags.required; }
     bool IsStateOnlyFeature() const { return m_flags.stateOnly; }
+    bool IsDeviceFeature() const { return m_flags.device; }
 
     /// The state of the whole feature.
     const InterpretedState& GetInterpretedState() const { return m_state; }

@@ -4,7 +4,8 @@
 #include "constraintmkiioptions.h"
 
 /// When the first condition holds, the second must not: the values that would fulfil the second are
-/// disabled, and a value that fulfils it already is reported as a conflict.
+/// disabled, and a value that fulfils it already is reported as a conflict. A second condition that
+/// excludes nothing (kExclude with an empty set) means the feature as a whole.
 class ConstraintMkII
 {
 public:

@@ -37,6 +37,7 @@ public:
     virtual const ProductInfo& GetProductInfo() const = 0;
     /// The folder that holds package.json.
     virtual const std::filesystem::path& GetFolder() const = 0;
+    /// Those inside lists included, each once.
     virtual std::size_t GetFeatureCount() const = 0;
     virtual std::size_t GetConstraintCount() const = 0;
     /// Every string number that the package refers to, in rising order: what a translation must

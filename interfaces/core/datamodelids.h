@@ -131,6 +131,8 @@ enum tagComparisonEnum : std::int32_t
     kLessOrEqual = 4,
     kGreater = 5,
     kGreaterOrEqual = 6,
+    kBetween = 7, ///< The set is a lowest and a highest value, both included.
+    kOutside = 8, ///< Below the lowest or above the highest.
 };
 
 /// Whether a condition holds for the values of its set or for all others.

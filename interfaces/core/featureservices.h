@@ -1,5 +1,6 @@
 #pragma once
 
+#include "changeproposal.h"
 #include "eventid.h"
 #include "featureref.h"
 #include "iconstraintsintegrator.h"
@@ -10,6 +11,7 @@
 #include "transactionref.h"
 
 #include <memory>
+#include <vector>
 
 /// The data model as the UI sees it. Abstract, so that any data model can stand behind it; borrowed
 /// by everything in the UI for the UI's life. One thread only: the one that runs the dialog.
@@ -89,6 +91,29 @@ public:
 
     /// Where molecules add constraints of their own; belongs to the model.
     virtual IConstraintsIntegrator& GetConstraintsIntegrator() = 0;
+
+    /// Why the feature (or, when `option` is not "no value", that option of it) is disabled, cleared,
+    /// hidden, limited or in conflict: one entry for each constraint at work, in the order in which
+    /// the state tells them. Empty for a feature that is free or does not exist. Takes longer than
+    /// asking for the state: for when somebody wants to know.
+    virtual std::vector<o7::StateReason> GetStateReasons(const FeatureIdWithContext& feature,
+                                                         const ValueId& option) = 0;
+
+    /// The features that are in conflict now, for going from one to the next; sorted as they stand
+    /// in the product.
+    virtual std::vector<FeatureIdWithContext> GetFeaturesInConflict() = 0;
+
+    /// What would become of writing this value (monostate: unspecified), although a constraint may
+    /// forbid it: the conflicts it would bring and the ways to settle them.
+    virtual o7::ChangeProposal ProposeChange(const FeatureIdWithContext& feature,
+                                             const o7::FeatureValue& value) = 0;
+
+    /// The complete list of what an alternative of a proposal changes.
+    virtual std::vector<o7::Consequence> PreviewAlternative(const o7::Alternative& alternative) = 0;
+
+    /// Writes an alternative of a proposal as one transaction. False, and nothing changed, when a
+    /// feature does not exist any more or does not take its value.
+    virtual bool ApplyAlternative(const o7::Alternative& alternative) = 0;
 
     FeatureServices(const FeatureServices&) = delete;
     FeatureServices& operator=(const FeatureServices&) = delete;

@@ -1,5 +1,7 @@
 #include "changelog.h"
 
+#include "featurenode.h"
+
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -14,6 +16,8 @@ ChangeLog::ChangeLog()
 
 void ChangeLog::Note(FeatureNode& feature, unsigned bits)
 {
+    if (m_muted)
+        return;
     Level& level = m_levels.back();
     if (feature.dirtyLevel == level.id) {
         level.changes[feature.dirtyIndex].bits |= bits;
@@ -21,18 +25,12 @@ void ChangeLog::Note(FeatureNode& feature, unsigned bits)
     }
     feature.dirtyLevel = level.id;
     feature.dirtyIndex = level.changes.size();
-    level.changes.push_back({feature.shared_from_this(), bits});
-}
-
-void ChangeLog::Record(Undo undo)
-{
-    if (IsAnyOpen())
-        m_levels.back().undo.push_back(std::move(undo));
+    level.changes.push_back({&feature, bits});
 }
 
 std::uint64_t ChangeLog::Open()
 {
-    m_levels.emplace_back();
+    m_levels.push_back(std::exchange(m_spare, {}));
     m_levels.back().id = m_nextId++;
     return m_levels.back().id;
 }
@@ -52,7 +50,15 @@ std::vector<Change> ChangeLog::Pop(bool keep)
         below.insert(below.end(), std::make_move_iterator(level.undo.begin()),
                      std::make_move_iterator(level.undo.end()));
     }
+    level.undo.clear();
+    m_spare.undo = std::move(level.undo);
     return std::move(level.changes);
+}
+
+void ChangeLog::Recycle(std::vector<Change> changes)
+{
+    changes.clear();
+    m_spare.changes = std::move(changes);
 }
 
 std::vector<Change> ChangeLog::TakeBase()

@@ -1,12 +1,16 @@
 #pragma once
 
-#include "featurenode.h"
+#include "featurevalue.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace o7 {
+
+class FeatureNode;
 
 /// What about a feature changed; combined as bits.
 enum ChangeBits : unsigned
@@ -15,9 +19,10 @@ enum ChangeBits : unsigned
     kStateBit = 2,
 };
 
+/// The feature stays in memory until the change was told, also where it was deleted meanwhile.
 struct Change
 {
-    std::shared_ptr<FeatureNode> feature;
+    FeatureNode* feature = nullptr;
     unsigned bits = 0;
 };
 
@@ -36,9 +41,10 @@ public:
         };
 
         Kind kind = Kind::Value;
-        std::shared_ptr<FeatureNode> feature; ///< What changed; for items the list.
+        FeatureNode* feature = nullptr; ///< What changed; for items the list.
         FeatureValue value;
         bool specified = false;
+        bool followsDefault = false;
         std::shared_ptr<FeatureNode> item;
         std::size_t index = 0;
     };
@@ -54,16 +60,33 @@ public:
 
     /// Notes a change on the innermost level; once per feature and level.
     void Note(FeatureNode& feature, unsigned bits);
-    /// Records how to take a change back; forgotten at once outside transactions.
-    void Record(Undo undo);
+    /// Records how to take a change back; to be asked for with IsRecording() first, because outside
+    /// transactions nothing is taken back.
+    Undo& Record(Undo undo)
+    {
+        m_levels.back().undo.push_back(std::move(undo));
+        return m_levels.back().undo.back();
+    }
+    bool IsRecording() const { return IsAnyOpen() && !m_muted; }
+    /// Keeps an item that was deleted until nothing speaks of it any more.
+    void Bury(std::shared_ptr<FeatureNode> item) { m_buried.push_back(std::move(item)); }
+    void ReleaseBuried() { m_buried.clear(); }
+
+    /// While muted, changes are neither noted nor recorded: somebody tries something and takes it
+    /// back by itself.
+    void SetMuted(bool muted) { m_muted = muted; }
 
     /// The id of the new level; never 0.
     std::uint64_t Open();
     bool IsOpen(std::uint64_t id) const;
     bool IsAnyOpen() const { return m_levels.size() > 1; }
     Level& Innermost() { return m_levels.back(); }
+    /// Takes the innermost level's records of how to take it back.
+    std::vector<Undo> TakeUndo() { return std::exchange(m_levels.back().undo, {}); }
     /// Removes the innermost transaction. With `keep` its undo records go to the level below.
     std::vector<Change> Pop(bool keep);
+    /// Hands a delivered list back, so that the next level need not allocate one.
+    void Recycle(std::vector<Change> changes);
     /// Takes what the base level has gathered.
     std::vector<Change> TakeBase();
     /// Puts changes back for a later delivery.
@@ -71,7 +94,10 @@ public:
 
 private:
     std::uint64_t m_nextId = 1;
+    bool m_muted = false;
     std::vector<Level> m_levels;
+    std::vector<std::shared_ptr<FeatureNode>> m_buried;
+    Level m_spare; ///< Empty lists with their memory.
 };
 
 } // namespace o7

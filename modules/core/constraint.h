@@ -2,43 +2,66 @@
 
 #include "description.h"
 
+#include <cstdint>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace o7 {
 
 class FeatureNode;
 
-/// One constraint at work: bound to the features of one list, with the answer of its last
-/// evaluation. Owned by that list, or by the model when it was added at run time.
-struct Constraint
+/// One constraint at work, or one row of a default that adapts: bound to the features of one list,
+/// with its present answer. Owned by that list or feature, or by the model when it was added at run
+/// time. What the engine touches at each change stands first.
+struct alignas(64) Constraint
 {
     struct Cause
     {
         std::shared_ptr<FeatureNode> feature;
-        Comparison comparison = DataModelIds::kEqual;
-        std::vector<FeatureValue> values;
+        ValueTest test;
         bool holdsWithoutValue = false;
 
         bool Holds() const;
     };
 
-    std::vector<Cause> when;
-    std::shared_ptr<FeatureNode> target;
-    /// Which values of the target are affected; none listed: the whole feature.
-    Comparison comparison = DataModelIds::kEqual;
-    std::vector<FeatureValue> values;
+    static constexpr int kNoRow = -1;
+    static constexpr std::uint32_t kNotBroken = ~0U;
+
+    FeatureNode* target = nullptr;
+    std::uint64_t affectedCodes = 0; ///< Of a target that has codes.
+    unsigned unmet = 0;              ///< Conditions that do not hold.
     EffectKind kind = EffectKind::Disable;
-    unsigned reason = 0;
-
     bool active = false;
-    bool queued = false; ///< Waiting for evaluation.
+    bool whole = true;         ///< The feature as a whole is affected, not some of its values.
+    bool hit = false;          ///< Active, and the target's value is one that is affected.
+    bool toggled = false;      ///< In the change under way ...
+    bool activeBefore = false; ///< ... and what it was before that.
+    std::uint32_t brokenAt = kNotBroken; ///< Where the engine's list of broken ones has it.
+    std::uint64_t seen = 0;              ///< A mark of the conflict resolver.
+    int defaultRow = kNoRow; ///< For a row of adapting defaults which one; it has no effect.
 
-    bool AffectsWhole() const { return values.empty(); }
-    bool Affects(const FeatureValue& value) const;
-    bool ConditionsHold() const;
+    unsigned reason = 0;
+    std::string id;
+    std::vector<Cause> when;
+    ValueTest affected;
+    std::shared_ptr<FeatureNode> targetOwner; ///< Keeps the target.
+
+    bool Affects(const FeatureValue& value) const { return affected.Matches(value); }
     /// Whether an affected value cannot be chosen while the constraint is active.
-    bool Blocks() const;
+    bool Blocks() const
+    {
+        return kind == EffectKind::Disable || kind == EffectKind::Clear || kind == EffectKind::Hide;
+    }
+    /// Two of the person's choices clash.
+    bool IsBroken() const
+    {
+        return whole ? active && kind == EffectKind::Conflict : hit && kind != EffectKind::Info;
+    }
 };
+
+/// The order in which constraints are told: by reason, then by id; nothing that depends on the
+/// order of loading.
+bool ComesBefore(const Constraint* a, const Constraint* b);
 
 } // namespace o7

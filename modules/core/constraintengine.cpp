@@ -1,127 +1,303 @@
 #include "constraintengine.h"
 
+#include "constraintbinding.h"
+#include "prefetch.h"
+#include "valuecode.h"
+
 #include <algorithm>
-#include <stdexcept>
 #include <utility>
 
 namespace o7 {
 namespace {
 
-/// The feature in this list or in the nearest list around it that has it.
-FeatureNode& FindOutwards(FeatureNode& list, FeatureEnum number)
+/// Whether the constraint changes what others read of its target.
+bool Influences(const Constraint& constraint)
 {
-    for (FeatureNode* scope = &list; scope != nullptr; scope = scope->Parent()) {
-        auto* found = scope->Description().list ? scope->FindChild(FeatureId(number)) : nullptr;
-        if (found != nullptr)
-            return *found;
-    }
-    throw std::logic_error("a checked package names a feature that it does not have");
+    return constraint.defaultRow != Constraint::kNoRow || constraint.kind == EffectKind::Clear;
+}
+
+/// Whether a change of `from` can reach `to` along constraints that influence.
+bool Reaches(const FeatureNode& from, const FeatureNode& to)
+{
+    if (&from == &to)
+        return true;
+    const bool below = std::any_of(from.Children().begin(), from.Children().end(),
+                                   [&](const auto& child) { return Reaches(*child, to); });
+    return below || std::any_of(from.readers.begin(), from.readers.end(), [&](const auto& reader) {
+               return Influences(*reader.constraint) && Reaches(*reader.constraint->target, to);
+           });
 }
 
 } // namespace
 
-std::unique_ptr<Constraint> ConstraintEngine::Bind(const ConstraintDescription& description,
-                                                   FeatureNode& list)
+void ConstraintEngine::Attach(FeatureNode& feature)
 {
-    auto constraint = std::make_unique<Constraint>();
-    for (const ConditionDescription& condition : description.when) {
-        constraint->when.push_back({FindOutwards(list, condition.feature).shared_from_this(),
-                                    condition.comparison, condition.values,
-                                    condition.holdsWithoutValue});
-    }
-    constraint->target = FindOutwards(list, description.target).shared_from_this();
-    constraint->values = description.values;
-    constraint->kind = description.kind;
-    constraint->reason = description.reason;
-    return constraint;
-}
-
-void ConstraintEngine::Attach(FeatureNode& list)
-{
-    if (list.constraints.empty() && list.Description().list) {
-        for (const ConstraintDescription& description : list.Description().list->constraints)
-            list.constraints.push_back(Bind(description, list));
-    }
-    for (const auto& constraint : list.constraints)
+    if (feature.constraints.empty())
+        BindConstraints(feature);
+    // What is in a list that can be cleared comes after it.
+    if (feature.Parent() != nullptr && feature.Parent()->rank != 0)
+        Raise(feature, feature.Parent()->rank + 1);
+    for (const auto& constraint : feature.constraints)
         Link(*constraint);
-    for (const auto& child : list.Children())
+    for (const auto& child : feature.Children())
         Attach(*child);
-    Run();
+    Settle();
 }
 
-void ConstraintEngine::Detach(FeatureNode& list)
+void ConstraintEngine::Detach(FeatureNode& feature)
 {
-    for (const auto& child : list.Children())
+    for (const auto& child : feature.Children())
         Detach(*child);
-    for (const auto& constraint : list.constraints)
+    for (const auto& constraint : feature.constraints)
         Unlink(*constraint);
+    Settle();
 }
 
-void ConstraintEngine::Add(std::unique_ptr<Constraint> constraint)
+bool ConstraintEngine::Add(std::unique_ptr<Constraint> constraint)
 {
-    Link(*constraint);
+    FinishConstraint(*constraint);
+    for (const Constraint::Cause& cause : constraint->when) {
+        if (Influences(*constraint) && Reaches(*constraint->target, *cause.feature))
+            return false;
+    }
     m_added.push_back(std::move(constraint));
-    Run();
+    Link(*m_added.back());
+    Settle();
+    return true;
 }
 
 void ConstraintEngine::Link(Constraint& constraint)
 {
-    for (const Constraint::Cause& cause : constraint.when) {
-        auto& readers = cause.feature->readers;
-        if (std::find(readers.begin(), readers.end(), &constraint) == readers.end())
-            readers.push_back(&constraint);
+    if (constraint.defaultRow != Constraint::kNoRow)
+        constraint.target->defaultRows.push_back(&constraint);
+    else
+        constraint.target->effects.push_back(&constraint);
+    constraint.unmet = 0;
+    for (std::size_t i = 0; i < constraint.when.size(); ++i) {
+        const Constraint::Cause& cause = constraint.when[i];
+        FeatureNode& feature = *cause.feature;
+        const std::uint64_t mask =
+            feature.IsCoded() ? MaskOf(feature.Description(), cause.test, cause.holdsWithoutValue)
+                              : 0;
+        const bool holds = cause.Holds();
+        ++m_evaluations;
+        constraint.unmet += holds ? 0 : 1;
+        feature.readers.push_back({&constraint, mask, static_cast<std::uint32_t>(i), holds, false});
+        if (Influences(constraint))
+            Raise(*constraint.target, feature.rank + 1);
     }
-    constraint.target->effects.push_back(&constraint);
-    Queue(constraint);
+    if (constraint.unmet == 0)
+        Activate(constraint, true);
 }
 
 void ConstraintEngine::Unlink(Constraint& constraint)
 {
+    if (constraint.active)
+        Activate(constraint, false);
     for (const Constraint::Cause& cause : constraint.when)
-        std::erase(cause.feature->readers, &constraint);
+        std::erase_if(cause.feature->readers,
+                      [&](const auto& reader) { return reader.constraint == &constraint; });
     std::erase(constraint.target->effects, &constraint);
-    constraint.active = false;
+    std::erase(constraint.target->defaultRows, &constraint);
+}
+
+void ConstraintEngine::Raise(FeatureNode& feature, unsigned rank)
+{
+    if (feature.rank >= rank)
+        return;
+    feature.rank = rank;
+    for (const auto& child : feature.Children())
+        Raise(*child, rank + 1);
+    for (const auto& reader : feature.readers) {
+        if (Influences(*reader.constraint))
+            Raise(*reader.constraint->target, rank + 1);
+    }
+}
+
+void ConstraintEngine::Activate(Constraint& constraint, bool active)
+{
+    if (!constraint.toggled) {
+        constraint.toggled = true;
+        constraint.activeBefore = constraint.active;
+        m_toggled.push_back(&constraint);
+    }
+    constraint.active = active;
+    FeatureNode& target = *constraint.target;
+    if (constraint.defaultRow != Constraint::kNoRow) {
+        target.isUnsettled = true;
+        Postpone(target);
+        return;
+    }
+    if (active)
+        AddEffect(constraint);
+    else
+        RemoveEffect(constraint);
+    if (constraint.kind == EffectKind::Clear) {
+        target.activeClears += active ? 1U : ~0U;
+        Postpone(target);
+    }
+}
+
+void ConstraintEngine::AddEffect(Constraint& constraint)
+{
+    auto& effects = constraint.target->activeEffects;
+    effects.push_back({&constraint, constraint.affectedCodes, constraint.whole,
+                       constraint.Blocks(), false});
+    UpdateHit(*constraint.target, effects.back());
+    UpdateBroken(constraint);
+}
+
+void ConstraintEngine::RemoveEffect(Constraint& constraint)
+{
+    auto& effects = constraint.target->activeEffects;
+    *std::find_if(effects.begin(), effects.end(), [&](const auto& effect) {
+        return effect.constraint == &constraint;
+    }) = effects.back();
+    effects.pop_back();
+    constraint.hit = false;
+    UpdateBroken(constraint);
+}
+
+void ConstraintEngine::UpdateHit(const FeatureNode& feature, FeatureNode::ActiveEffect& effect)
+{
+    const bool hit =
+        !effect.whole && feature.StoredSpecified() &&
+        (feature.IsCoded() ? IsInMask(effect.codes, feature.StoredCode())
+                           : effect.constraint->Affects(feature.StoredValue()));
+    if (hit == effect.hit)
+        return;
+    effect.hit = hit;
+    effect.constraint->hit = hit;
+    UpdateBroken(*effect.constraint);
+}
+
+void ConstraintEngine::UpdateBroken(Constraint& constraint)
+{
+    const bool broken = constraint.IsBroken();
+    if (broken == (constraint.brokenAt != Constraint::kNotBroken))
+        return;
+    if (broken) {
+        constraint.brokenAt = static_cast<std::uint32_t>(m_broken.size());
+        m_broken.push_back(&constraint);
+    } else {
+        m_broken.back()->brokenAt = constraint.brokenAt;
+        m_broken[constraint.brokenAt] = m_broken.back();
+        m_broken.pop_back();
+        constraint.brokenAt = Constraint::kNotBroken;
+    }
 }
 
 void ConstraintEngine::ValueChanged(FeatureNode& feature)
 {
+    StoredChanged(feature);
+    if (feature.FollowsDefault()) {
+        feature.isUnsettled = true;
+        Postpone(feature);
+    }
+    AskReaders(feature);
+    Settle();
+}
+
+void ConstraintEngine::StoredChanged(FeatureNode& feature)
+{
     // A limited feature says something else when its value enters or leaves the limits.
-    const bool limited =
-        std::any_of(feature.effects.begin(), feature.effects.end(), [](const Constraint* effect) {
-            return effect->active && !effect->AffectsWhole();
-        });
-    if (limited)
-        m_changes.Note(feature, kStateBit);
-    for (Constraint* reader : feature.readers)
-        Queue(*reader);
-    Run();
-}
-
-void ConstraintEngine::Queue(Constraint& constraint)
-{
-    if (!constraint.queued) {
-        constraint.queued = true;
-        m_queue.push_back(&constraint);
+    for (auto& effect : feature.activeEffects) {
+        const bool before = effect.hit;
+        UpdateHit(feature, effect);
+        if (effect.hit != before)
+            m_changes.Note(feature, kStateBit);
     }
 }
 
-void ConstraintEngine::Run()
+void ConstraintEngine::AskReaders(FeatureNode& feature)
 {
-    for (std::size_t next = 0; next < m_queue.size(); ++next) {
-        Constraint& constraint = *m_queue[next];
-        constraint.queued = false;
-        ++m_evaluations;
-        const bool holds = constraint.ConditionsHold();
-        if (holds == constraint.active)
+    m_evaluations += feature.readers.size();
+    const unsigned code = feature.IsCoded() ? feature.EffectiveCode() : 0;
+    // In three rounds, so that memory is on its way before it is needed: a constraint, and then
+    // what it limits, lie anywhere.
+    for (auto& reader : feature.readers) {
+        const bool holds = feature.IsCoded()
+                               ? IsInMask(reader.holdsFor, code)
+                               : reader.constraint->when[reader.condition].Holds();
+        // The reason of an active constraint may name the value of its cause.
+        if (holds == reader.holds && (!holds || reader.condition != 0))
             continue;
-        constraint.active = holds;
-        StateChanged(*constraint.target);
-        if (constraint.kind == EffectKind::Clear) {
-            for (Constraint* reader : constraint.target->readers)
-                Queue(*reader);
-        }
+        reader.changes = holds != reader.holds;
+        m_answers.push_back(&reader);
+        Prefetch(reader.constraint);
     }
-    m_queue.clear();
+    for (const auto* reader : m_answers)
+        Prefetch(reader->constraint->target);
+    for (auto* reader : m_answers)
+        Answer(*reader);
+    m_answers.clear();
+}
+
+void ConstraintEngine::Answer(FeatureNode::Reader& reader)
+{
+    Constraint& constraint = *reader.constraint;
+    if (!reader.changes) {
+        if (constraint.active && constraint.defaultRow == Constraint::kNoRow)
+            StateChanged(*constraint.target);
+        return;
+    }
+    reader.holds = !reader.holds;
+    if (reader.holds && --constraint.unmet == 0)
+        Activate(constraint, true);
+    else if (!reader.holds && constraint.unmet++ == 0)
+        Activate(constraint, false);
+}
+
+void ConstraintEngine::Postpone(FeatureNode& feature)
+{
+    for (const auto& child : feature.Children())
+        Postpone(*child);
+    if (!feature.isPending && (!feature.readers.empty() || feature.isUnsettled)) {
+        feature.isPending = true;
+        m_pending.push_back(&feature);
+    }
+}
+
+void ConstraintEngine::Settle()
+{
+    while (!m_pending.empty()) {
+        const auto next = std::min_element(
+            m_pending.begin(), m_pending.end(),
+            [](const FeatureNode* a, const FeatureNode* b) { return a->rank < b->rank; });
+        FeatureNode& feature = **next;
+        *next = m_pending.back();
+        m_pending.pop_back();
+        feature.isPending = false;
+        if (std::exchange(feature.isUnsettled, false))
+            FollowDefault(feature);
+        AskReaders(feature);
+    }
+    TellStates();
+}
+
+void ConstraintEngine::FollowDefault(FeatureNode& feature)
+{
+    if (!feature.FollowsDefault())
+        return;
+    const FeatureValue& wanted = feature.CurrentDefault();
+    const bool specified = wanted.index() != 0;
+    const FeatureValue value = specified ? wanted : feature.StoredValue();
+    if (feature.HasStored(value, specified))
+        return;
+    feature.Store(value, specified, true);
+    m_changes.Note(feature, kValueBit);
+    StoredChanged(feature);
+}
+
+void ConstraintEngine::TellStates()
+{
+    for (Constraint* constraint : m_toggled) {
+        constraint->toggled = false;
+        if (constraint->active != constraint->activeBefore &&
+            constraint->defaultRow == Constraint::kNoRow)
+            StateChanged(*constraint->target);
+    }
+    m_toggled.clear();
 }
 
 void ConstraintEngine::StateChanged(FeatureNode& feature)

@@ -1,7 +1,8 @@
 #pragma once
 
 #include "changelog.h"
-#include "constraintmkii.h"
+#include "constraint.h"
+#include "featurenode.h"
 
 #include <cstdint>
 #include <memory>
@@ -9,39 +10,63 @@
 
 namespace o7 {
 
-/// Keeps the answer of every constraint up to date. Constraints hang on the features they read, so
-/// a change evaluates those alone, and further ones only where a feature was cleared or came back.
+/// Keeps the answer of every constraint up to date. Each condition hangs on the feature it reads;
+/// when that changes, only conditions whose answer changes touch their constraint. Features that
+/// were cleared, came back or follow a default are looked at again in the order of their rank, so
+/// that each is looked at once: the result depends on the values alone, and it always ends, because
+/// ranks rise along the way.
 class ConstraintEngine
 {
 public:
     explicit ConstraintEngine(ChangeLog& changes) : m_changes(changes) {}
 
-    /// Binds and evaluates the constraints of this list and of the lists below it.
-    void Attach(FeatureNode& list);
+    /// Binds and evaluates the constraints of this feature and of those below it.
+    void Attach(FeatureNode& feature);
     /// The inverse, for items that are deleted.
-    void Detach(FeatureNode& list);
+    void Detach(FeatureNode& feature);
 
-    /// Adds a constraint at run time; it stays for the life of the model.
-    void Add(std::unique_ptr<Constraint> constraint);
+    /// Adds a constraint at run time; it stays for the life of the model. False, and nothing added,
+    /// when it would clear its own cause in a circle.
+    bool Add(std::unique_ptr<Constraint> constraint);
 
     /// To be told after the stored value of a feature changed.
     void ValueChanged(FeatureNode& feature);
 
+    /// The constraints by which choices clash now, in no order.
+    const std::vector<Constraint*>& Broken() const { return m_broken; }
+
+    /// A number that no constraint's `seen` has.
+    std::uint64_t NewMark() { return ++m_marks; }
+
+    /// How many conditions have been asked.
     std::uint64_t Evaluations() const { return m_evaluations; }
 
 private:
-    static std::unique_ptr<Constraint> Bind(const ConstraintDescription& description,
-                                            FeatureNode& list);
     void Link(Constraint& constraint);
     void Unlink(Constraint& constraint);
-    void Queue(Constraint& constraint);
-    void Run();
+    void Raise(FeatureNode& feature, unsigned rank);
+    void Activate(Constraint& constraint, bool active);
+    void AddEffect(Constraint& constraint);
+    void RemoveEffect(Constraint& constraint);
+    void UpdateHit(const FeatureNode& feature, FeatureNode::ActiveEffect& effect);
+    void UpdateBroken(Constraint& constraint);
+    void StoredChanged(FeatureNode& feature);
+    void AskReaders(FeatureNode& feature);
+    void Answer(FeatureNode::Reader& reader);
+    void Postpone(FeatureNode& feature);
+    void Settle();
+    void FollowDefault(FeatureNode& feature);
+    void TellStates();
     void StateChanged(FeatureNode& feature);
 
     ChangeLog& m_changes;
     std::vector<std::unique_ptr<Constraint>> m_added;
-    std::vector<Constraint*> m_queue;
+    std::vector<FeatureNode*> m_pending;
+    std::vector<Constraint*> m_toggled;
+    std::vector<FeatureNode::Reader*> m_answers; ///< Empty but while readers are asked.
+    std::vector<Constraint*> m_broken;
     std::uint64_t m_evaluations = 0;
+    std::uint64_t m_marks = 0;
 };
 
 } // namespace o7

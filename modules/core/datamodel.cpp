@@ -2,11 +2,9 @@
 
 #include "trace.h"
 #include "transaction.h"
-#include "unsupportednode.h"
 
 #include <algorithm>
 #include <exception>
-#include <functional>
 #include <utility>
 
 namespace o7 {
@@ -18,69 +16,12 @@ constexpr int kDeepestDelivery = 16;
 /// Observers that never stop answering each other are cut off after this many deliveries.
 constexpr int kMostDeliveryRounds = 10000;
 
-/// Adds to a counter for as long as it lives.
-class Counted
-{
-public:
-    explicit Counted(int& counter) : m_counter(counter) { ++m_counter; }
-    ~Counted() { --m_counter; }
-    Counted(const Counted&) = delete;
-    Counted& operator=(const Counted&) = delete;
-
-private:
-    int& m_counter;
-};
-
-bool IsLeaf(const FeatureNode& feature)
-{
-    const FeatureKind kind = feature.Description().kind;
-    return kind != FeatureKind::ListOfFeatures && kind != FeatureKind::ListOfValues;
-}
-
-/// Whether an active constraint keeps this value from being chosen.
-bool IsBlocked(const FeatureNode& feature, const FeatureValue& value)
-{
-    return std::any_of(feature.effects.begin(), feature.effects.end(), [&](const Constraint* c) {
-        return c->active && !c->AffectsWhole() && c->Blocks() && c->Affects(value);
-    });
-}
-
 bool IsHiddenWhole(const FeatureNode& feature)
 {
-    return std::any_of(feature.effects.begin(), feature.effects.end(), [](const Constraint* c) {
-        return c->active && c->AffectsWhole() && c->kind == EffectKind::Hide;
-    });
-}
-
-/// Puts what `source` says over `settings`, as far as the description has and accepts it.
-void Overlay(const FeatureDescription& description, const IFeatureNode& source,
-             SettingsSnapshot& settings)
-{
-    if (description.flags.readOnly)
-        return;
-    if (description.item) {
-        settings.children.clear();
-        const std::size_t count = std::min(source.GetNumChildren(), description.maxItems);
-        for (std::size_t i = 0; i < count; ++i) {
-            settings.children.push_back(DefaultSettings(*description.item));
-            Overlay(*description.item, *source.GetChild(i), settings.children.back());
-        }
-        return;
-    }
-    if (description.list) {
-        for (std::size_t i = 0; i < settings.children.size(); ++i) {
-            const FeatureDescription& member = description.list->features[i];
-            const auto found = source.FindFeature(member.Id());
-            if (found->GetKind() == member.kind)
-                Overlay(member, *found, settings.children[i]);
-        }
-        return;
-    }
-    FeatureValue value;
-    if (!source.IsSpecified())
-        settings.value = description.flags.required ? settings.value : FeatureValue();
-    else if (source.GetValue(value) && description.Accepts(value))
-        settings.value = std::move(value);
+    return std::any_of(
+        feature.activeEffects.begin(), feature.activeEffects.end(), [](const auto& effect) {
+            return effect.whole && effect.constraint->kind == EffectKind::Hide;
+        });
 }
 
 FeatureNode* FindGroup(const FeatureNode& list, FeatureEnum group)
@@ -101,6 +42,7 @@ FeatureNode* FindGroup(const FeatureNode& list, FeatureEnum group)
 DataModel::DataModel(std::shared_ptr<const ProductDescription> product, IStringSource& strings)
     : m_product(std::move(product)),
       m_engine(m_log),
+      m_writer(m_log, m_engine),
       m_interpreter(strings),
       m_self(std::make_shared<DataModel*>(this))
 {
@@ -201,193 +143,37 @@ ListOfFeaturesRef DataModel::GetListOfFeaturesByGroup(FeatureEnum group)
     return found != nullptr ? ListOfFeaturesRef(found->shared_from_this()) : ListOfFeaturesRef();
 }
 
-SettingsSnapshot DataModel::ResettableDefaults(const FeatureNode& feature)
-{
-    const FeatureDescription& description = feature.Description();
-    if (!description.IsKept())
-        return CaptureSettings(feature);
-    if (!description.list)
-        return DefaultSettings(description);
-    SettingsSnapshot snapshot = CaptureSettings(feature);
-    for (std::size_t i = 0; i < snapshot.children.size(); ++i)
-        snapshot.children[i] = ResettableDefaults(*feature.Children()[i]);
-    return snapshot;
-}
-
-template <typename Action> bool DataModel::Operate(const Action& action)
-{
-    bool done = false;
-    {
-        const Counted counted(m_operations);
-        done = action();
-    }
-    if (m_operations == 0)
-        DeliverPending();
-    return done;
-}
-
-void DataModel::Write(FeatureNode& feature, FeatureValue value, bool specified)
-{
-    if (feature.StoredValue() == value && feature.StoredSpecified() == specified)
-        return;
-    m_log.Record({ChangeLog::Undo::Kind::Value, feature.shared_from_this(), feature.StoredValue(),
-                  feature.StoredSpecified(), nullptr, 0});
-    feature.Store(std::move(value), specified);
-    m_log.Note(feature, kValueBit);
-    m_engine.ValueChanged(feature);
-}
-
 bool DataModel::SetValue(FeatureNode& feature, const FeatureValue& value)
 {
-    const auto* option = std::get_if<ValueId>(&value);
-    if (option != nullptr && option->GetValueEnum() == DataModelIds::kValueUnspecified)
-        return SetSpecified(feature, false);
-    const FeatureDescription& description = feature.Description();
-    FeatureValue complete = value;
-    if (description.flags.readOnly || description.kind == FeatureKind::Resolution ||
-        !description.Accepts(complete))
-        return false;
-    const bool same = feature.StoredSpecified() && feature.StoredValue() == complete;
-    if (!same && IsBlocked(feature, complete))
-        return false;
-    return Operate([&] {
-        Write(feature, std::move(complete), true);
-        return true;
-    });
+    return Operate([&] { return m_writer.SetValue(feature, value); });
 }
 
 bool DataModel::SetSpecified(FeatureNode& feature, bool specified)
 {
-    const FeatureDescription& description = feature.Description();
-    if (!IsLeaf(feature) || description.flags.readOnly ||
-        description.kind == FeatureKind::Resolution)
-        return specified == feature.StoredSpecified();
-    const FeatureValue unspecified = ValueId(DataModelIds::kValueUnspecified);
-    if (!specified && feature.StoredSpecified() &&
-        (description.flags.required || IsBlocked(feature, unspecified)))
-        return false;
-    return Operate([&] {
-        Write(feature, feature.StoredValue(), specified);
-        return true;
-    });
-}
-
-void DataModel::Insert(FeatureNode& list, const std::shared_ptr<FeatureNode>& item,
-                       std::size_t index)
-{
-    list.Children().insert(list.Children().begin() + static_cast<std::ptrdiff_t>(index), item);
-    item->SetAttached(true);
-    m_engine.Attach(*item);
-    m_log.Note(list, kValueBit);
-}
-
-void DataModel::Erase(FeatureNode& list, std::size_t index)
-{
-    const auto at = list.Children().begin() + static_cast<std::ptrdiff_t>(index);
-    const std::shared_ptr<FeatureNode> item = *at;
-    list.Children().erase(at);
-    m_engine.Detach(*item);
-    item->SetAttached(false);
-    m_log.Note(list, kValueBit);
+    return Operate([&] { return m_writer.SetSpecified(feature, specified); });
 }
 
 std::shared_ptr<FeatureNode> DataModel::CreateItem(FeatureNode& list)
 {
-    const FeatureDescription& description = list.Description();
-    if (!description.item || description.flags.readOnly ||
-        list.Children().size() >= description.maxItems)
-        return nullptr;
-    std::shared_ptr<FeatureNode> item = list.MakeItem();
-    Operate([&] {
-        const std::size_t index = list.Children().size();
-        m_log.Record(
-            {ChangeLog::Undo::Kind::ItemCreated, list.shared_from_this(), {}, false, item, index});
-        Insert(list, item, index);
-        return true;
-    });
+    std::shared_ptr<FeatureNode> item;
+    Operate([&] { return (item = m_writer.CreateItem(list)) != nullptr; });
     return item;
 }
 
-bool DataModel::DeleteItems(FeatureNode& list, std::vector<std::size_t> indices)
+bool DataModel::DeleteItems(FeatureNode& list, const std::vector<std::size_t>& indices)
 {
-    const std::size_t count = list.Children().size();
-    const bool inside = std::all_of(indices.begin(), indices.end(),
-                                    [&](std::size_t index) { return index < count; });
-    if (!list.Description().item || list.Description().flags.readOnly || !inside)
-        return false;
-    // From the back, so that the indices stay right; each one once.
-    std::sort(indices.begin(), indices.end(), std::greater<>());
-    indices.erase(std::unique(indices.begin(), indices.end()), indices.end());
-    return Operate([&] {
-        for (const std::size_t index : indices) {
-            m_log.Record({ChangeLog::Undo::Kind::ItemDeleted,
-                          list.shared_from_this(),
-                          {},
-                          false,
-                          list.Children()[index],
-                          index});
-            Erase(list, index);
-        }
-        return true;
-    });
-}
-
-void DataModel::Apply(FeatureNode& feature, const SettingsSnapshot& snapshot)
-{
-    if (feature.Description().item) {
-        ApplyItems(feature, snapshot);
-        return;
-    }
-    for (std::size_t i = 0; i < snapshot.children.size(); ++i)
-        Apply(*feature.Children()[i], snapshot.children[i]);
-    if (!IsLeaf(feature))
-        return;
-    const bool specified = snapshot.value.index() != 0;
-    Write(feature, specified ? snapshot.value : feature.StoredValue(), specified);
-}
-
-void DataModel::ApplyItems(FeatureNode& list, const SettingsSnapshot& snapshot)
-{
-    const auto& items = list.Children();
-    const bool sameItems =
-        std::equal(items.begin(), items.end(), snapshot.children.begin(), snapshot.children.end(),
-                   [](const auto& item, const SettingsSnapshot& wanted) {
-                       return item->GetId().GetFeatureId().GetItem() == wanted.item;
-                   });
-    if (!sameItems) {
-        while (!items.empty()) {
-            m_log.Record({ChangeLog::Undo::Kind::ItemDeleted,
-                          list.shared_from_this(),
-                          {},
-                          false,
-                          items.back(),
-                          items.size() - 1});
-            Erase(list, items.size() - 1);
-        }
-        for (std::size_t i = 0; i < snapshot.children.size(); ++i)
-            CreateItem(list);
-    }
-    for (std::size_t i = 0; i < items.size(); ++i)
-        Apply(*items[i], snapshot.children[i]);
+    return Operate([&] { return m_writer.DeleteItems(list, indices); });
 }
 
 bool DataModel::CopyFrom(FeatureNode& feature, const IFeatureNode& source)
 {
-    if (source.GetKind() != feature.Description().kind || feature.Description().flags.readOnly)
-        return false;
-    // Read everything first: the source may lie inside what is about to change.
-    SettingsSnapshot settings = CaptureSettings(feature);
-    Overlay(feature.Description(), source, settings);
-    return Operate([&] {
-        Apply(feature, settings);
-        return true;
-    });
+    return Operate([&] { return m_writer.CopyFrom(feature, source); });
 }
 
 bool DataModel::RestoreToDefault(FeatureNode& feature)
 {
     return Operate([&] {
-        Apply(feature, ResettableDefaults(feature));
+        m_writer.RestoreToDefault(feature);
         return true;
     });
 }
@@ -397,47 +183,32 @@ std::unique_ptr<TransactionRef> DataModel::OpenTransaction(const CXString&)
     return std::make_unique<Transaction>(m_self, m_log.Open());
 }
 
-void DataModel::Undo(const ChangeLog::Undo& undo)
+void DataModel::RollBackInnermost()
 {
-    FeatureNode& feature = *undo.feature;
-    switch (undo.kind) {
-    case ChangeLog::Undo::Kind::Value:
-        feature.Store(undo.value, undo.specified);
-        m_log.Note(feature, kValueBit);
-        m_engine.ValueChanged(feature);
-        break;
-    case ChangeLog::Undo::Kind::ItemCreated:
-        Erase(feature, undo.index);
-        break;
-    case ChangeLog::Undo::Kind::ItemDeleted:
-        Insert(feature, undo.item, undo.index);
-        break;
-    }
+    auto undo = m_log.TakeUndo();
+    // Taking back is not to be taken back; the level goes with what it records.
+    for (auto step = undo.rbegin(); step != undo.rend(); ++step)
+        m_writer.Undo(std::move(*step));
+    undo.clear();
+    m_log.Innermost().undo = std::move(undo);
 }
 
 bool DataModel::CloseTransaction(std::uint64_t transaction, bool commit)
 {
     if (!m_log.IsOpen(transaction))
         return false;
-    std::vector<Change> changes;
-    for (bool last = false; !last;) {
-        last = m_log.Innermost().id == transaction;
-        if (!commit) {
-            const auto undo = std::move(m_log.Innermost().undo);
-            for (auto step = undo.rbegin(); step != undo.rend(); ++step)
-                Undo(*step);
-        }
-        for (Change& change : m_log.Pop(commit)) {
-            const auto known = std::find_if(changes.begin(), changes.end(), [&](const Change& c) {
-                return c.feature == change.feature;
-            });
-            if (known == changes.end())
-                changes.push_back(std::move(change));
-            else
-                known->bits |= change.bits;
-        }
+    while (m_log.Innermost().id != transaction) {
+        if (!commit)
+            RollBackInnermost();
+        // The changes of inner levels join those of the one that is closed.
+        auto changes = m_log.Pop(commit);
+        for (const Change& change : changes)
+            m_log.Note(*change.feature, change.bits);
+        m_log.Recycle(std::move(changes));
     }
-    Deliver(std::move(changes));
+    if (!commit)
+        RollBackInnermost();
+    Deliver(m_log.Pop(commit));
     DeliverPending();
     return true;
 }
@@ -456,6 +227,7 @@ void DataModel::Deliver(std::vector<Change> changes)
     }
     const Counted counted(m_deliveryDepth);
     m_notifier.Deliver(changes);
+    m_log.Recycle(std::move(changes));
 }
 
 void DataModel::DeliverPending()
@@ -466,8 +238,11 @@ void DataModel::DeliverPending()
             break;
         Deliver(std::move(changes));
     }
-    if (m_deliveryDepth == 0)
+    if (m_deliveryDepth == 0) {
         m_deliveryRounds = 0;
+        if (!m_log.IsAnyOpen())
+            m_log.ReleaseBuried();
+    }
 }
 
 void DataModel::SettleBeforeDisplay()
@@ -490,7 +265,7 @@ void DataModel::RevertToAccepted()
     while (m_log.IsAnyOpen())
         CloseTransaction(m_log.Innermost().id, false);
     Operate([&] {
-        Apply(*m_root, m_accepted);
+        m_writer.Apply(*m_root, m_accepted);
         return true;
     });
 }
@@ -498,7 +273,7 @@ void DataModel::RevertToAccepted()
 void DataModel::Adopt(const SettingsSnapshot& settings)
 {
     Operate([&] {
-        Apply(*m_root, settings);
+        m_writer.Apply(*m_root, settings);
         // Accepted before anybody is told, so that an observer's answer counts as a modification.
         CommitAccepted();
         return true;
@@ -541,47 +316,6 @@ void DataModel::ActOn(DataModelIds::EventEnum event)
         if (result.GetValueEnum() != DataModelIds::kValueApplyRejected)
             CommitAccepted();
     }
-}
-
-bool DataModel::AddConstraint(const ConstraintMkII& constraint)
-{
-    return AddConstraint({constraint.GetWhen()}, constraint.GetMustNotHold(),
-                         constraint.GetOptions());
-}
-
-bool DataModel::AddConstraint(const std::vector<Condition>& when, const Condition& mustNotHold,
-                              const ConstraintMkIIOptions& options)
-{
-    // Values are completed by the feature they are compared with, so that equal values are equal.
-    const auto read = [](const FeatureNode& feature, const Condition& condition) {
-        std::vector<FeatureValue> values;
-        for (const ValueFactory& value : condition.GetValues().GetValues()) {
-            values.push_back(value.GetValue());
-            feature.Description().Accepts(values.back());
-        }
-        return values;
-    };
-    auto constraint = std::make_unique<Constraint>();
-    for (const Condition& condition : when) {
-        auto* cause = FindNode(condition.GetFeature());
-        if (cause == nullptr || !IsLeaf(*cause))
-            return false;
-        constraint->when.push_back({cause->shared_from_this(), condition.GetComparison(),
-                                    read(*cause, condition),
-                                    condition.GetOptions().holdsWithoutValue});
-    }
-    auto* target = FindNode(mustNotHold.GetFeature());
-    if (target == nullptr || !IsLeaf(*target) || constraint->when.empty() ||
-        mustNotHold.GetValues().IsEmpty())
-        return false;
-    constraint->target = target->shared_from_this();
-    constraint->comparison = mustNotHold.GetComparison();
-    constraint->values = read(*target, mustNotHold);
-    constraint->reason = options.reasonStringNumber;
-    return Operate([&] {
-        m_engine.Add(std::move(constraint));
-        return true;
-    });
 }
 
 } // namespace o7

@@ -2,13 +2,15 @@
 
 #include "changelog.h"
 #include "constraintengine.h"
+#include "counted.h"
 #include "idatamodel.h"
 #include "notifier.h"
-#include "settingssnapshot.h"
+#include "settingswriter.h"
 #include "stateinterpreter.h"
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace o7 {
@@ -41,6 +43,13 @@ public:
     void RegisterForEvent(IObserver& observer, EventId event, unsigned int kind) override;
     void UnregisterForEvent(IObserver& observer, EventId event, unsigned int kind) override;
     IConstraintsIntegrator& GetConstraintsIntegrator() override { return *this; }
+    std::vector<StateReason> GetStateReasons(const FeatureIdWithContext& feature,
+                                             const ValueId& option) override;
+    std::vector<FeatureIdWithContext> GetFeaturesInConflict() override;
+    ChangeProposal ProposeChange(const FeatureIdWithContext& feature,
+                                 const FeatureValue& value) override;
+    std::vector<Consequence> PreviewAlternative(const Alternative& alternative) override;
+    bool ApplyAlternative(const Alternative& alternative) override;
 
     // IDataModel
     bool SaveJobTicket(const std::filesystem::path& file, std::string& message) override;
@@ -51,11 +60,12 @@ public:
 
     // For the nodes and the transactions.
     FeatureNode* FindNode(const FeatureIdWithContext& feature) const;
+    const ConstraintEngine& Engine() const { return m_engine; }
     StateInterpreter& Interpreter() { return m_interpreter; }
     bool SetValue(FeatureNode& feature, const FeatureValue& value);
     bool SetSpecified(FeatureNode& feature, bool specified);
     std::shared_ptr<FeatureNode> CreateItem(FeatureNode& list);
-    bool DeleteItems(FeatureNode& list, std::vector<std::size_t> indices);
+    bool DeleteItems(FeatureNode& list, const std::vector<std::size_t>& indices);
     bool CopyFrom(FeatureNode& feature, const IFeatureNode& source);
     bool RestoreToDefault(FeatureNode& feature);
     bool IsOpen(std::uint64_t transaction) const { return m_log.IsOpen(transaction); }
@@ -68,20 +78,26 @@ private:
                        const ConstraintMkIIOptions& options) override;
 
     /// Runs a change; the outermost one delivers what it changed, unless a transaction is open.
-    template <typename Action> bool Operate(const Action& action);
-    void Write(FeatureNode& feature, FeatureValue value, bool specified);
-    void Insert(FeatureNode& list, const std::shared_ptr<FeatureNode>& item, std::size_t index);
-    void Erase(FeatureNode& list, std::size_t index);
-    void Apply(FeatureNode& feature, const SettingsSnapshot& snapshot);
-    void ApplyItems(FeatureNode& list, const SettingsSnapshot& snapshot);
-    void Undo(const ChangeLog::Undo& undo);
+    template <typename Action> bool Operate(const Action& action)
+    {
+        bool done = false;
+        {
+            const Counted counted(m_operations);
+            done = action();
+        }
+        if (m_operations == 0)
+            DeliverPending();
+        return done;
+    }
+    void RollBackInnermost();
+    std::vector<std::vector<SettingChange>> RemediesOf(const Constraint& constraint);
+    /// The features of an alternative with the values they get; empty unless all take them.
+    std::vector<std::pair<FeatureNode*, FeatureValue>> Resolved(const Alternative& alternative);
     void Deliver(std::vector<Change> changes);
     void DeliverPending();
     void HandleEvent(const EventNotification& event);
     void ActOn(DataModelIds::EventEnum event);
-    /// The defaults, except that what is no setting of the job stays as it is.
     SettingsSnapshot DefaultsOf() const { return ResettableDefaults(*m_root); }
-    static SettingsSnapshot ResettableDefaults(const FeatureNode& feature);
     /// Makes a complete set of settings the current and the accepted one.
     void Adopt(const SettingsSnapshot& settings);
 
@@ -89,6 +105,7 @@ private:
     FeatureDescription m_rootDescription;
     ChangeLog m_log;
     ConstraintEngine m_engine;
+    SettingsWriter m_writer;
     Notifier m_notifier;
     StateInterpreter m_interpreter;
     std::shared_ptr<FeatureNode> m_root;

@@ -84,11 +84,22 @@ bool FeatureDescription::Accepts(FeatureValue& value) const
     return false;
 }
 
+void ListDescription::Add(FeatureDescription feature)
+{
+    m_index.try_emplace(feature.number, features.size());
+    features.push_back(std::move(feature));
+}
+
+std::size_t ListDescription::IndexOf(FeatureEnum number) const
+{
+    const auto found = m_index.find(number);
+    return found == m_index.end() ? kNotThere : found->second;
+}
+
 const FeatureDescription* ListDescription::Find(FeatureEnum number) const
 {
-    const auto found = std::find_if(features.begin(), features.end(),
-                                    [&](const auto& feature) { return feature.number == number; });
-    return found == features.end() ? nullptr : &*found;
+    const std::size_t index = IndexOf(number);
+    return index == kNotThere ? nullptr : &features[index];
 }
 
 const FeatureDescription* ListDescription::Find(const CXString& name) const

@@ -3,14 +3,16 @@
 
 #include "capabilitiesnode.h"
 #include "dimension.h"
-#include "featurevalue.h"
+#include "effectkind.h"
 #include "productinfo.h"
+#include "valuetest.h"
 
 #include <cstddef>
 #include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -24,23 +26,14 @@ struct OptionDescription
 {
     ValueEnum number = DataModelIds::kNoValue;
     CXString name;
+    std::optional<std::pair<Dimension, Dimension>> size; ///< Of a medium: width and height.
 };
 
 struct ConditionDescription
 {
     FeatureEnum feature = DataModelIds::kNoFeature;
-    Comparison comparison = DataModelIds::kEqual;
-    std::vector<FeatureValue> values;
-    bool holdsWithoutValue = false;
-};
-
-enum class EffectKind
-{
-    Disable,
-    Clear, ///< Disabled and shown as having no value.
-    Hide,
-    Info,
-    Conflict,
+    ValueTest test;
+    bool holdsWithoutValue = false; ///< Also where the test itself does not.
 };
 
 struct ConstraintDescription
@@ -48,9 +41,17 @@ struct ConstraintDescription
     std::string id;
     std::vector<ConditionDescription> when; ///< All must hold; the first is the cause.
     FeatureEnum target = DataModelIds::kNoFeature;
-    std::vector<FeatureValue> values; ///< The values affected; empty for the whole feature.
+    ValueTest affected; ///< The values affected; no values in it: the whole feature.
     EffectKind kind = EffectKind::Disable;
     unsigned reason = 0;
+    unsigned line = 0;
+};
+
+/// A default that counts while its conditions hold.
+struct AdaptingDefault
+{
+    std::vector<ConditionDescription> when;
+    FeatureValue value;
     unsigned line = 0;
 };
 
@@ -67,6 +68,7 @@ struct FeatureDescription
     std::optional<std::pair<Dimension, Dimension>> limits;
     std::size_t maxLength = 4096; ///< In UTF-16 units.
     FeatureValue defaultValue;    ///< monostate: starts unspecified.
+    std::vector<AdaptingDefault> defaults; ///< Before that one; the first that holds counts.
     CapabilityFlags flags;
     bool userDefinedValues = false;
     bool savedInTicket = true;
@@ -74,6 +76,7 @@ struct FeatureDescription
     std::shared_ptr<const ListDescription> list;    ///< ListOfFeatures: its members.
     std::shared_ptr<const FeatureDescription> item; ///< ListOfValues: what its items are.
     std::size_t maxItems = 1000;
+    unsigned line = 0;
 
     bool IsPrivate() const;
     /// Whether the feature is a setting of the job that can be kept outside the process.
@@ -91,12 +94,20 @@ private:
 
 struct ListDescription
 {
-    std::vector<FeatureDescription> features;
+    static constexpr std::size_t kNotThere = ~std::size_t{0};
+
+    std::vector<FeatureDescription> features; ///< Added with Add() alone.
     std::vector<ConstraintDescription> constraints;
 
+    void Add(FeatureDescription feature);
+    /// kNotThere when the list has no such member.
+    std::size_t IndexOf(FeatureEnum number) const;
     /// Null when the list has no such member.
     const FeatureDescription* Find(FeatureEnum number) const;
     const FeatureDescription* Find(const CXString& name) const;
+
+private:
+    std::unordered_map<int, std::size_t> m_index;
 };
 
 struct ProductDescription

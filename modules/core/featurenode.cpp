@@ -2,7 +2,9 @@
 
 #include "datamodel.h"
 #include "unsupportednode.h"
+#include "valuecode.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace o7 {
@@ -60,7 +62,10 @@ FeatureNode::FeatureNode(DataModel& model, FeatureNode* parent,
       m_description(&description),
       m_id(std::move(id)),
       m_value(InitialValue(description)),
-      m_specified(IsList(description.kind) || description.defaultValue.index() != 0)
+      m_specified(IsList(description.kind) || description.defaultValue.index() != 0),
+      m_followsDefault(!description.defaults.empty()),
+      m_coded(HasCodes(description)),
+      m_code(CodeOf(description, m_value))
 {
 }
 
@@ -96,7 +101,7 @@ bool FeatureNode::GetDefaultValue(FeatureValue& value) const
 {
     if (!IsAlive() || IsList(m_description->kind))
         return false;
-    value = m_description->defaultValue;
+    value = CurrentDefault();
     if (m_description->kind == FeatureKind::Option) {
         const auto& found = value.index() != 0 ? value : UnspecifiedOption();
         value = m_model->Interpreter().Complete(*this, std::get<ValueId>(found));
@@ -176,6 +181,12 @@ FeatureNode* FeatureNode::FindChild(const FeatureId& feature) const
         }
         return nullptr;
     }
+    if (feature.GetItem() != FeatureId::kNoItem || !m_description->list)
+        return nullptr;
+    if (feature.GetFeatureEnum() != DataModelIds::kFeatureByName) {
+        const std::size_t index = m_description->list->IndexOf(feature.GetFeatureEnum());
+        return index < m_children.size() ? m_children[index].get() : nullptr;
+    }
     for (const auto& child : m_children) {
         if (child->m_id.GetFeatureId() == feature)
             return child.get();
@@ -183,22 +194,69 @@ FeatureNode* FeatureNode::FindChild(const FeatureId& feature) const
     return nullptr;
 }
 
-void FeatureNode::Store(FeatureValue value, bool specified)
+void FeatureNode::Store(FeatureValue value, bool specified, bool followsDefault)
 {
     m_value = std::move(value);
     m_specified = specified;
+    m_followsDefault = followsDefault;
+    if (m_coded)
+        m_code = CodeOf(*m_description, m_value);
+}
+
+const FeatureValue& FeatureNode::CurrentDefault() const
+{
+    for (const Constraint* row : defaultRows) {
+        if (row->active)
+            return m_description->defaults[static_cast<std::size_t>(row->defaultRow)].value;
+    }
+    return m_description->defaultValue;
+}
+
+bool FeatureNode::IsCleared() const
+{
+    const bool here =
+        activeClears != 0 &&
+        std::any_of(activeEffects.begin(), activeEffects.end(), [&](const auto& effect) {
+            return effect.constraint->kind == EffectKind::Clear &&
+                   (effect.whole || effect.constraint->Affects(m_value));
+        });
+    return here || (m_parent != nullptr && m_parent->IsCleared());
 }
 
 const FeatureValue* FeatureNode::EffectiveValue() const
 {
-    for (const Constraint* constraint : effects) {
-        if (constraint->active && constraint->kind == EffectKind::Clear &&
-            (constraint->AffectsWhole() || constraint->Affects(m_value)))
-            return nullptr;
-    }
+    if (IsCleared())
+        return nullptr;
     if (m_specified)
         return &m_value;
     return m_description->kind == FeatureKind::Option ? &UnspecifiedOption() : nullptr;
+}
+
+unsigned FeatureNode::EffectiveCode() const
+{
+    if (IsCleared())
+        return kCodeNothing;
+    if (m_specified)
+        return m_code;
+    return m_description->kind == FeatureKind::Option ? CodeOf(*m_description, UnspecifiedOption())
+                                                      : kCodeNothing;
+}
+
+bool FeatureNode::IsLimitedWhole() const
+{
+    const bool here =
+        std::any_of(activeEffects.begin(), activeEffects.end(),
+                    [](const auto& effect) { return effect.whole && effect.blocks; });
+    return here || (m_parent != nullptr && m_parent->IsLimitedWhole());
+}
+
+bool FeatureNode::IsBlocked(const FeatureValue& value) const
+{
+    const unsigned code = m_coded ? CodeOf(*m_description, value) : 0;
+    return std::any_of(activeEffects.begin(), activeEffects.end(), [&](const auto& effect) {
+        return !effect.whole && effect.blocks &&
+               (m_coded ? IsInMask(effect.codes, code) : effect.constraint->Affects(value));
+    });
 }
 
 void FeatureNode::BuildMembers()

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "constraint.h"
+#include "deliverylist.h"
 #include "description.h"
 #include "ifeaturenode.h"
 
 #include <cstdint>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace o7 {
@@ -53,11 +55,33 @@ public:
     /// What is stored, whether specified or not.
     const FeatureValue& StoredValue() const { return m_value; }
     bool StoredSpecified() const { return m_specified; }
-    void Store(FeatureValue value, bool specified);
+    /// Whether it has the default, whatever that becomes; of use only where defaults adapt.
+    bool FollowsDefault() const { return m_followsDefault; }
+    void Store(FeatureValue value, bool specified, bool followsDefault);
+    /// The value is given away; Store() has to follow.
+    FeatureValue Release() { return std::move(m_value); }
+    /// What the default is now; monostate: unspecified.
+    const FeatureValue& CurrentDefault() const;
+    bool HasStored(const FeatureValue& value, bool specified) const
+    {
+        return m_specified == specified && m_value == value;
+    }
 
     /// What constraints read: null without a value (unspecified or cleared); an unspecified option
     /// feature counts as having value 5001.
     const FeatureValue* EffectiveValue() const;
+    /// Cleared as a whole, with a list around it, or its present value.
+    bool IsCleared() const;
+
+    /// Whether the values have codes, and the codes of what is stored and of what is read.
+    bool IsCoded() const { return m_coded; }
+    unsigned StoredCode() const { return m_code; }
+    unsigned EffectiveCode() const;
+
+    /// Active constraints disable, clear or hide the feature, or a list around it, as a whole.
+    bool IsLimitedWhole() const;
+    /// An active constraint keeps this value from being chosen.
+    bool IsBlocked(const FeatureValue& value) const;
 
     /// Builds the members below a list; for a list of values builds nothing.
     void BuildMembers();
@@ -69,13 +93,40 @@ public:
     /// The model is going: from now on the node is unsupported for good.
     void Abandon();
 
-    // Links kept by the constraint engine and the notifier.
-    std::vector<Constraint*> readers; ///< Constraints with this feature among their causes.
-    std::vector<Constraint*> effects; ///< Constraints with this feature as target.
-    std::vector<std::unique_ptr<Constraint>> constraints; ///< Those declared in this list.
-    std::vector<std::shared_ptr<Registration>> registrations;
+    /// A condition that reads this feature.
+    struct Reader
+    {
+        Constraint* constraint;
+        std::uint64_t holdsFor; ///< Codes, where the feature has them.
+        std::uint32_t condition;
+        bool holds;
+        bool changes; ///< In the round of questions under way.
+    };
+
+    /// An active constraint with this target, and what is often asked of it.
+    struct ActiveEffect
+    {
+        Constraint* constraint;
+        std::uint64_t codes; ///< That it affects, where the feature has codes.
+        bool whole;
+        bool blocks;
+        bool hit; ///< As in the constraint.
+    };
+
+    // Links kept by the constraint engine, the change log and the notifier.
+    std::vector<Reader> readers;
+    std::vector<ActiveEffect> activeEffects; ///< In no order.
+    unsigned activeClears = 0;              ///< How many of them clear.
+    unsigned rank = 0;        ///< Above those whose clearing or value can change this one's.
+    bool isPending = false;   ///< Its readers have to look again.
+    bool isUnsettled = false; ///< Its default may have changed.
     std::uint64_t dirtyLevel = 0; ///< Transaction level that has this node noted as changed ...
     std::size_t dirtyIndex = 0;   ///< ... and where in its list.
+    std::vector<Constraint*> defaultRows; ///< In their order.
+    std::vector<Constraint*> effects;     ///< All constraints with this feature as target.
+    std::vector<std::unique_ptr<Constraint>> constraints; ///< Those declared here.
+    std::vector<std::shared_ptr<Registration>> registrations;
+    std::unique_ptr<DeliveryList> delivery; ///< Null until somebody registered.
 
 private:
     bool IsAlive() const { return m_model != nullptr && m_attached; }
@@ -87,7 +138,10 @@ private:
     std::vector<std::shared_ptr<FeatureNode>> m_children;
     FeatureValue m_value;
     bool m_specified = true;
+    bool m_followsDefault = false;
+    bool m_coded = false;
     bool m_attached = true;
+    unsigned m_code = 0;
     int m_nextItem = 0;
 };
 

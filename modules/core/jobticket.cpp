@@ -56,7 +56,9 @@ json ToJson(const ListDescription& list, const SettingsSnapshot& settings, json 
         if (!member.IsKept() || !member.savedInTicket || member.kind == FeatureKind::Resolution)
             continue;
         const std::string name = member.name.ToUtf8();
-        if (member.list) {
+        if (settings.children[i].followsDefault) {
+            entries.erase(name); // left out, it follows again when it is read
+        } else if (member.list) {
             const auto foreign = entries.find(name);
             const bool object = foreign != entries.end() && foreign->is_object();
             entries[name] =
@@ -159,11 +161,11 @@ private:
             else
                 Refuse(description);
         } else if (entry.is_null() && !description.flags.required) {
-            settings.value = FeatureValue();
+            settings.Choose({});
         } else {
             FeatureValue value = FromJson(description, entry);
             if (description.Accepts(value))
-                settings.value = std::move(value);
+                settings.Choose(std::move(value));
             else
                 Refuse(description);
         }

@@ -1,8 +1,10 @@
 #include "notifier.h"
 
+#include "counted.h"
 #include "featurechangenotification.h"
 
 #include <algorithm>
+#include <array>
 #include <exception>
 
 namespace o7 {
@@ -23,7 +25,7 @@ unsigned WantedBits(DataModelIds::SettingsEnum instance)
 }
 
 std::shared_ptr<const INotification> MakeNotification(unsigned bit, const FeatureIdWithContext& id,
-                                                      const Registration& registration)
+                                                      const FeatureIdWithContext& registered)
 {
     const bool value = bit == kValueBit;
     return std::make_shared<FeatureChangeNotification>(
@@ -31,7 +33,7 @@ std::shared_ptr<const INotification> MakeNotification(unsigned bit, const Featur
                                  : DataModelIds::kSettingsConstraintState),
         FeatureChangeId(value ? DataModelIds::kFeatureValueChanged
                               : DataModelIds::kFeatureConstraintStateChanged),
-        id, registration.feature);
+        id, registered);
 }
 
 bool Same(const Registration& registration, DataModelIds::SettingsEnum instance,
@@ -39,6 +41,39 @@ bool Same(const Registration& registration, DataModelIds::SettingsEnum instance,
 {
     return registration.instance == instance && registration.kind == kind &&
            registration.feature == feature;
+}
+
+/// By observer and kind: who shares both gets one bundle.
+bool ComesBefore(const Registration& a, const Registration& b)
+{
+    return a.serial != b.serial ? a.serial < b.serial : a.kind < b.kind;
+}
+
+void Rebuild(const FeatureNode& feature)
+{
+    auto sorted = feature.registrations;
+    std::stable_sort(sorted.begin(), sorted.end(),
+                     [](const auto& a, const auto& b) { return ComesBefore(*a, *b); });
+    DeliveryList& list = *feature.delivery;
+    list.slots.clear();
+    for (const auto& registration : sorted)
+        list.slots.push_back(
+            {registration->observer, registration->kind, WantedBits(registration->instance)});
+    list.valid = true;
+    list.simple = std::adjacent_find(sorted.begin(), sorted.end(),
+                                     [](const auto& a, const auto& b) {
+                                         return !ComesBefore(*a, *b);
+                                     }) == sorted.end();
+}
+
+/// Takes an observer out of a delivery that may be under way.
+void StrikeOut(DeliveryList& list, const IObserver& observer, unsigned kind)
+{
+    list.valid = false;
+    for (DeliveryList::Slot& slot : list.slots) {
+        if (slot.observer == &observer && slot.kind == kind)
+            slot.observer = nullptr;
+    }
 }
 
 /// Calls one after the other; the first exception waits until everybody was called.
@@ -86,8 +121,10 @@ void Notifier::Register(IObserver& observer, DataModelIds::SettingsEnum instance
     registration->serial = entry.serial;
     if (node != nullptr) {
         registration->node = node->weak_from_this();
-        registration->self = node;
         node->registrations.push_back(registration);
+        if (!node->delivery)
+            node->delivery = std::make_unique<DeliveryList>();
+        node->delivery->valid = false;
     }
     entry.registrations.push_back(std::move(registration));
 }
@@ -106,8 +143,10 @@ void Notifier::Unregister(IObserver& observer, DataModelIds::SettingsEnum instan
     if (found == registrations.end() || --(*found)->count > 0)
         return;
     (*found)->alive = false;
-    if (const auto node = (*found)->node.lock())
+    if (const auto node = (*found)->node.lock()) {
         std::erase(node->registrations, *found);
+        StrikeOut(*node->delivery, observer, kind);
+    }
     registrations.erase(found);
     if (registrations.empty())
         m_observers.erase(entry);
@@ -133,24 +172,53 @@ void Notifier::UnregisterForEvent(IObserver& observer, DataModelIds::EventEnum e
 
 void Notifier::Gather(const Change& change, std::vector<Entry>& entries)
 {
-    for (FeatureNode* node = change.feature.get(); node != nullptr; node = node->Parent()) {
+    for (FeatureNode* node = change.feature; node != nullptr; node = node->Parent()) {
         for (const auto& registration : node->registrations) {
             const unsigned bits = change.bits & WantedBits(registration->instance);
             if (bits != 0)
-                entries.push_back({registration, change.feature.get(), bits});
+                entries.push_back({registration, change.feature, bits});
         }
     }
 }
 
+bool Notifier::DeliverAlone(const Change& change)
+{
+    FeatureNode& feature = *change.feature;
+    for (const FeatureNode* list = feature.Parent(); list != nullptr; list = list->Parent()) {
+        if (!list->registrations.empty())
+            return false;
+    }
+    if (feature.registrations.empty())
+        return true;
+    DeliveryList& list = *feature.delivery;
+    if (!list.valid && list.deliveries == 0)
+        Rebuild(feature);
+    if (!list.valid || !list.simple)
+        return false;
+    const Counted counted(list.deliveries);
+    const unsigned changed = change.bits;
+    std::array<const NotificationBundle*, 4> bundles{};
+    for (unsigned bits = 1; bits < bundles.size(); ++bits)
+        bundles[bits] = (bits & changed) == bits ? &KeptBundle(feature, bits) : nullptr;
+    CallAll call;
+    for (const DeliveryList::Slot& slot : list.slots) {
+        const unsigned bits = changed & slot.wanted;
+        if (bits != 0 && slot.observer != nullptr)
+            call([&] { slot.observer->ProcessNotification(*bundles[bits], slot.kind); });
+    }
+    call.Rethrow();
+    return true;
+}
+
 void Notifier::Deliver(const std::vector<Change>& changes)
 {
+    if (changes.size() == 1 && DeliverAlone(changes.front()))
+        return;
     std::vector<Entry> entries;
     for (const Change& change : changes)
         Gather(change, entries);
     const auto before = [](const Entry& a, const Entry& b) {
-        return a.registration->serial != b.registration->serial
-                   ? a.registration->serial < b.registration->serial
-                   : a.registration->kind < b.registration->kind;
+        return ComesBefore(*a.registration, *b.registration);
     };
     if (!std::is_sorted(entries.begin(), entries.end(), before))
         std::stable_sort(entries.begin(), entries.end(), before);
@@ -171,25 +239,29 @@ void Notifier::DeliverRun(const Entry* first, const Entry* last)
         std::find_if(first, last, [](const Entry& entry) { return entry.registration->alive; });
     if (alive == last)
         return;
-    IObserver& observer = *alive->registration->observer;
-    // The entries keep their registrations, and with them the bundle, alive during the call.
-    if (const NotificationBundle* kept = KeptBundle(first, last))
-        observer.ProcessNotification(*kept, alive->registration->kind);
+    const Registration& registration = *alive->registration;
+    // The change keeps its feature, and with it the bundle, during the call.
+    const bool alone =
+        last - first == 1 && registration.node.lock().get() == first->feature;
+    if (alone)
+        registration.observer->ProcessNotification(KeptBundle(*first->feature, first->bits),
+                                                   registration.kind);
     else
-        observer.ProcessNotification(MakeBundle(first, last), alive->registration->kind);
+        registration.observer->ProcessNotification(MakeBundle(first, last), registration.kind);
 }
 
-const NotificationBundle* Notifier::KeptBundle(const Entry* first, const Entry* last)
+const NotificationBundle& Notifier::KeptBundle(FeatureNode& feature, unsigned bits)
 {
-    Registration& registration = *first->registration;
-    if (last - first != 1 || registration.self != first->feature ||
-        first->bits == (kValueBit | kStateBit))
-        return nullptr;
-    auto& kept = first->bits == kValueBit ? registration.valueBundle : registration.stateBundle;
-    if (!kept)
-        kept = std::make_unique<NotificationBundle>(
-            std::vector{MakeNotification(first->bits, first->feature->GetId(), registration)});
-    return kept.get();
+    auto& kept = feature.delivery->bundles.at(bits);
+    if (!kept) {
+        auto bundle = std::make_unique<NotificationBundle>();
+        for (const unsigned bit : {kValueBit, kStateBit}) {
+            if ((bits & bit) != 0)
+                bundle->Add(MakeNotification(bit, feature.GetId(), feature.GetId()));
+        }
+        kept = std::move(bundle);
+    }
+    return *kept;
 }
 
 NotificationBundle Notifier::MakeBundle(const Entry* first, const Entry* last)
@@ -198,7 +270,7 @@ NotificationBundle Notifier::MakeBundle(const Entry* first, const Entry* last)
     for (const Entry* entry = first; entry != last; ++entry) {
         for (const unsigned bit : {kValueBit, kStateBit}) {
             if (entry->registration->alive && (entry->bits & bit) != 0)
-                bundle.Add(MakeNotification(bit, entry->feature->GetId(), *entry->registration));
+                bundle.Add(MakeNotification(bit, entry->feature->GetId(), entry->registration->feature));
         }
     }
     return bundle;

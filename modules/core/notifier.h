@@ -2,6 +2,7 @@
 
 #include "changelog.h"
 #include "eventnotification.h"
+#include "featurenode.h"
 #include "registration.h"
 
 #include <cstdint>
@@ -33,7 +34,7 @@ private:
     struct Entry
     {
         std::shared_ptr<Registration> registration;
-        const FeatureNode* feature;
+        FeatureNode* feature;
         unsigned bits;
     };
     struct EventRegistration
@@ -48,10 +49,13 @@ private:
         std::vector<std::shared_ptr<Registration>> registrations;
     };
 
+    /// A change of one feature that nobody watches through a list around it: the short way. False,
+    /// and nothing done, when it is something else.
+    static bool DeliverAlone(const Change& change);
     static void Gather(const Change& change, std::vector<Entry>& entries);
     static void DeliverRun(const Entry* first, const Entry* last);
-    /// The bundle that a registration keeps for a change of just its own feature; null otherwise.
-    static const NotificationBundle* KeptBundle(const Entry* first, const Entry* last);
+    /// The bundle that a feature keeps for a change of just itself.
+    static const NotificationBundle& KeptBundle(FeatureNode& feature, unsigned bits);
     static NotificationBundle MakeBundle(const Entry* first, const Entry* last);
 
     std::unordered_map<IObserver*, ObserverEntry> m_observers;

@@ -2,11 +2,14 @@
 // references to features and options, duplicates, defaults, and circles of constraints.
 #pragma once
 
+#include "constraintreader.h"
 #include "description.h"
 #include "locatedjson.h"
 
+#include <optional>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace o7 {
@@ -15,20 +18,23 @@ class PackageReader
 {
 public:
     /// Faults are added to the list, which is borrowed.
-    explicit PackageReader(std::vector<JsonFault>& faults) : m_faults(faults) {}
+    explicit PackageReader(std::vector<JsonFault>& faults) : m_constraints(faults), m_faults(faults)
+    {
+    }
 
     /// The description; of use only when no fault was added.
     ProductDescription Read(const LocatedJson& document);
 
 private:
-    /// The lists around the one being read, innermost last: where conditions look features up.
-    using Scope = std::vector<const ListDescription*>;
+    using Scope = ConstraintReader::Scope;
 
     void ReadProduct(const LocatedJson& json, ProductInfo& info);
     ListDescription ReadList(const LocatedJson& json, Scope& scope);
+    void ReadFeatures(const LocatedJson& features, Scope& scope, ListDescription& list);
     FeatureDescription ReadFeature(const LocatedJson& json, Scope& scope);
     void ReadKind(const LocatedJson& json, FeatureDescription& feature, Scope& scope);
     void ReadOptions(const LocatedJson& json, FeatureDescription& feature);
+    std::optional<std::pair<Dimension, Dimension>> ReadSize(const LocatedJson& option);
     void ReadRanges(const LocatedJson& json, FeatureDescription& feature);
     void ReadFlags(const LocatedJson& json, FeatureDescription& feature);
     void ReadDefault(const LocatedJson& json, FeatureDescription& feature);
@@ -36,20 +42,10 @@ private:
     void CheckDistinct(const LocatedJson& entries, const FeatureDescription& feature,
                        std::set<int>& numbers, std::set<CXString>& names);
 
-    ConstraintDescription ReadConstraint(const LocatedJson& json, const Scope& scope);
-    ConditionDescription ReadCondition(const LocatedJson& json, const Scope& scope);
-    void ReadEffect(const LocatedJson& json, const Scope& scope, ConstraintDescription& constraint);
-    const FeatureDescription* FindFeature(const LocatedJson& reference, const Scope& scope);
-    FeatureValue ReadComparedValue(const LocatedJson& json, const FeatureDescription& feature);
-
     void Fail(const LocatedJson& at, std::string message);
 
+    ConstraintReader m_constraints;
     std::vector<JsonFault>& m_faults;
-    std::set<std::string> m_constraintIds;
 };
-
-/// The ids of constraints that clear each other's causes in a circle ("a -> b -> a"), or nothing.
-/// Only clearing changes what other constraints read, so only it can go round.
-std::string FindConstraintCircle(const ListDescription& list);
 
 } // namespace o7

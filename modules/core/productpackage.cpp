@@ -50,6 +50,31 @@ void CollectStrings(const FeatureDescription& feature, std::set<unsigned>& numbe
         CollectStrings(*feature.item, numbers);
 }
 
+const ListDescription* ListIn(const FeatureDescription& feature)
+{
+    return feature.list ? feature.list.get() : feature.item ? feature.item->list.get() : nullptr;
+}
+
+std::size_t CountFeatures(const ListDescription& list)
+{
+    std::size_t count = list.features.size();
+    for (const FeatureDescription& feature : list.features) {
+        if (const auto* inner = ListIn(feature))
+            count += CountFeatures(*inner);
+    }
+    return count;
+}
+
+void CollectConstraintIds(const ListDescription& list, std::set<std::string_view>& ids)
+{
+    for (const ConstraintDescription& constraint : list.constraints)
+        ids.insert(constraint.id);
+    for (const FeatureDescription& feature : list.features) {
+        if (const auto* inner = ListIn(feature))
+            CollectConstraintIds(*inner, ids);
+    }
+}
+
 } // namespace
 
 LoadedPackage::LoadedPackage(ProductDescription product)
@@ -59,12 +84,14 @@ LoadedPackage::LoadedPackage(ProductDescription product)
 
 std::size_t LoadedPackage::GetFeatureCount() const
 {
-    return m_product->root.features.size();
+    return CountFeatures(m_product->root);
 }
 
 std::size_t LoadedPackage::GetConstraintCount() const
 {
-    return m_product->root.constraints.size();
+    std::set<std::string_view> ids;
+    CollectConstraintIds(m_product->root, ids);
+    return ids.size();
 }
 
 std::vector<unsigned> LoadedPackage::GetStringNumbers() const

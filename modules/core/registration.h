@@ -2,7 +2,6 @@
 
 #include "featureidwithcontext.h"
 #include "iobserver.h"
-#include "notificationbundle.h"
 
 #include <cstdint>
 #include <memory>
@@ -23,11 +22,6 @@ struct Registration
     std::uint64_t serial = 0; ///< Order of the observer's first registration.
     bool alive = true;
     std::weak_ptr<FeatureNode> node;
-    const FeatureNode* self = nullptr; ///< The same, for comparing alone.
-
-    // The two bundles that are sent when just this feature changed, made once.
-    std::unique_ptr<const NotificationBundle> valueBundle;
-    std::unique_ptr<const NotificationBundle> stateBundle;
 };
 
 } // namespace o7

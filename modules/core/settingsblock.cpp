@@ -169,7 +169,7 @@ void WriteMembers(const ListDescription& list, const SettingsSnapshot& settings,
         const FeatureDescription& member = list.features[i];
         const SettingsSnapshot& child = settings.children[i];
         if (!member.IsKept() || !member.savedInTicket || member.kind == FeatureKind::Resolution ||
-            SameSettings(member, child, DefaultSettings(member)))
+            IsDefault(member, child))
             continue;
         Writer block;
         WriteFeature(member, child, block);
@@ -287,14 +287,14 @@ bool ReadFeature(const FeatureDescription& description, Reader in, SettingsSnaps
     FeatureValue value;
     if (tag == kUnspecified) {
         if (!description.flags.required)
-            settings.value = value;
+            settings.Choose(value);
         return in.AtEnd();
     }
     if (!ReadValue(description.kind, in, value))
         return false;
     // A value that this product does not have (any more) leaves the default.
     if (description.Accepts(value))
-        settings.value = std::move(value);
+        settings.Choose(std::move(value));
     return true;
 }
 

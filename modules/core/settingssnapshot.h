@@ -1,7 +1,9 @@
 #pragma once
 
 #include "description.h"
+#include "ifeaturenode.h"
 
+#include <utility>
 #include <vector>
 
 namespace o7 {
@@ -15,15 +17,32 @@ struct SettingsSnapshot
     static constexpr int kNewItem = -1;
 
     FeatureValue value;  ///< monostate: unspecified, or a list.
+    bool followsDefault = false; ///< The value is the default, whatever that becomes.
     int item = kNewItem; ///< For an item of a list of values the key it has in the model.
     std::vector<SettingsSnapshot> children;
+
+    /// Somebody's choice instead of a default.
+    void Choose(FeatureValue chosen)
+    {
+        value = std::move(chosen);
+        followsDefault = false;
+    }
 };
 
 SettingsSnapshot CaptureSettings(const FeatureNode& feature);
 SettingsSnapshot DefaultSettings(const FeatureDescription& description);
+/// The defaults, except that what is no setting of the job stays as it is.
+SettingsSnapshot ResettableDefaults(const FeatureNode& feature);
+
+/// Puts what `source` says over `settings`, as far as the description has and accepts it.
+void Overlay(const FeatureDescription& description, const IFeatureNode& source,
+             SettingsSnapshot& settings);
 
 /// Whether two snapshots of the same feature say the same; features private to the UI do not count.
 bool SameSettings(const FeatureDescription& description, const SettingsSnapshot& a,
                   const SettingsSnapshot& b);
+/// Whether the snapshot says of the feature what DefaultSettings() does, choices of values that
+/// only happen to be the default not included.
+bool IsDefault(const FeatureDescription& description, const SettingsSnapshot& settings);
 
 } // namespace o7

@@ -4,6 +4,7 @@
 #include "rangecapability.h"
 #include "rangeofdimensioncapability.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <utility>
@@ -56,6 +57,15 @@ void AddEffect(EffectKind kind, const CXString& reason, InterpretedState& state)
 
 } // namespace
 
+std::vector<const Constraint*> ActiveInOrder(const FeatureNode& feature)
+{
+    std::vector<const Constraint*> active;
+    for (const auto& effect : feature.activeEffects)
+        active.push_back(effect.constraint);
+    std::sort(active.begin(), active.end(), ComesBefore);
+    return active;
+}
+
 const CXString& StateInterpreter::Text(unsigned number)
 {
     const auto [entry, added] = m_texts.try_emplace(number);
@@ -105,7 +115,7 @@ CXString StateInterpreter::ValueText(const FeatureNode& feature, const FeatureVa
 CXString StateInterpreter::AffectedText(const Constraint& constraint)
 {
     CXString all;
-    for (const FeatureValue& value : constraint.values) {
+    for (const FeatureValue& value : constraint.affected.values) {
         const CXString text = ValueText(*constraint.target, value);
         if (!all.IsEmpty() && !text.IsEmpty())
             all += L", ";
@@ -129,11 +139,22 @@ CXString StateInterpreter::Reason(const Constraint& constraint, const ValueId* o
     return reason.IsBlank() ? CXString::Formatted(L"#%u", constraint.reason) : reason;
 }
 
+FeatureValue StateInterpreter::Shown(const FeatureNode& feature, const FeatureValue& value)
+{
+    const auto* option = std::get_if<ValueId>(&value);
+    return option != nullptr ? FeatureValue(Complete(feature, *option)) : value;
+}
+
+FeatureValue StateInterpreter::ShownPresent(const FeatureNode& feature)
+{
+    return feature.StoredSpecified() ? Shown(feature, feature.StoredValue()) : FeatureValue();
+}
+
 void StateInterpreter::AddValueEffect(const FeatureNode& feature, const Constraint& constraint,
                                       InterpretedState& state)
 {
     const FeatureValue& value = feature.StoredValue();
-    const bool hit = feature.StoredSpecified() && constraint.Affects(value);
+    const bool hit = constraint.hit;
     const auto* option = std::get_if<ValueId>(&value);
     if (hit && constraint.kind == EffectKind::Info) {
         state.AddInfo(Reason(constraint, option));
@@ -153,28 +174,31 @@ void StateInterpreter::AddValueEffect(const FeatureNode& feature, const Constrai
 InterpretedState StateInterpreter::FeatureState(const FeatureNode& feature)
 {
     InterpretedState state;
-    for (const Constraint* constraint : feature.effects) {
-        if (constraint->active && constraint->AffectsWhole())
+    for (const Constraint* constraint : ActiveInOrder(feature)) {
+        if (constraint->whole)
             AddEffect(constraint->kind, Reason(*constraint), state);
-        else if (constraint->active)
+        else
             AddValueEffect(feature, *constraint, state);
     }
     for (const FeatureNode* list = feature.Parent(); list != nullptr; list = list->Parent()) {
-        for (const Constraint* constraint : list->effects) {
-            if (constraint->active && constraint->AffectsWhole())
-                AddEffect(constraint->kind, Reason(*constraint), state);
-        }
+        for (const Constraint* constraint : ActiveInOrder(*list))
+            AddEffect(constraint->kind, Reason(*constraint), state);
     }
     return state;
 }
 
 InterpretedState StateInterpreter::OptionState(const FeatureNode& feature, const ValueId& option)
 {
+    return OptionState(ActiveInOrder(feature), option);
+}
+
+InterpretedState StateInterpreter::OptionState(const std::vector<const Constraint*>& active,
+                                               const ValueId& option)
+{
     InterpretedState state;
-    for (const Constraint* constraint : feature.effects) {
-        if (constraint->active && !constraint->AffectsWhole() && constraint->Affects(option)) {
+    for (const Constraint* constraint : active) {
+        if (!constraint->whole && constraint->Affects(option))
             AddEffect(constraint->kind, Reason(*constraint, &option), state);
-        }
     }
     return state;
 }
@@ -234,10 +258,11 @@ std::unique_ptr<CapabilitiesNode> StateInterpreter::OptionCapabilities(const Fea
     const FeatureDescription& description = feature.Description();
     std::vector<OptionWithState> options;
     options.reserve(description.options.size() + 1);
+    const auto active = ActiveInOrder(feature);
     bool currentListed = false;
     for (const OptionDescription& option : description.options) {
         const ValueId value = Complete(feature, ValueId(option.number));
-        options.emplace_back(value, OptionState(feature, value));
+        options.emplace_back(value, OptionState(active, value));
         currentListed = currentListed || FeatureValue(value) == feature.StoredValue();
     }
     // The user's own value has to be in the list that shows it as chosen.
@@ -245,7 +270,7 @@ std::unique_ptr<CapabilitiesNode> StateInterpreter::OptionCapabilities(const Fea
     if (!currentListed && description.userDefinedValues && feature.StoredSpecified() &&
         current != nullptr) {
         const ValueId value = Complete(feature, *current);
-        options.emplace_back(value, OptionState(feature, value));
+        options.emplace_back(value, OptionState(active, value));
     }
     return std::make_unique<OptionCapability>(base, std::move(options),
                                               description.userDefinedValues);

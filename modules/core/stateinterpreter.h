@@ -6,8 +6,12 @@
 
 #include <memory>
 #include <unordered_map>
+#include <vector>
 
 namespace o7 {
+
+/// The active constraints on a feature in the order in which they are told.
+std::vector<const Constraint*> ActiveInOrder(const FeatureNode& feature);
 
 /// Puts the active constraints of a feature into words: states, messages and capability snapshots.
 /// Texts come from the string source, each once.
@@ -25,15 +29,23 @@ public:
     InterpretedState FeatureState(const FeatureNode& feature);
     InterpretedState OptionState(const FeatureNode& feature, const ValueId& option);
 
+    /// The reason, with names filled in; for one value of the target, or for all it affects.
+    CXString Reason(const Constraint& constraint, const ValueId* option = nullptr);
+
+    /// A value as it is shown: of an option feature with its display string.
+    FeatureValue Shown(const FeatureNode& feature, const FeatureValue& value);
+    /// The feature's present one; monostate: unspecified.
+    FeatureValue ShownPresent(const FeatureNode& feature);
+
 private:
     void AddValueEffect(const FeatureNode& feature, const Constraint& constraint,
                         InterpretedState& state);
+    InterpretedState OptionState(const std::vector<const Constraint*>& active,
+                                 const ValueId& option);
     InterpretedState UnspecifiedState(const FeatureNode& feature, const InterpretedState& state);
     std::unique_ptr<CapabilitiesNode> OptionCapabilities(const FeatureNode& feature,
                                                          const CapabilitiesNode& base);
 
-    /// The reason, with names filled in; for one value of the target, or for all it affects.
-    CXString Reason(const Constraint& constraint, const ValueId* option = nullptr);
     CXString FeatureName(const FeatureNode& feature);
     CXString ValueText(const FeatureNode& feature, const FeatureValue& value);
     CXString AffectedText(const Constraint& constraint);

@@ -1,7 +1,7 @@
 // The texts of the pages in every language: none missing, and no two controls of a page that
 // answer to the same key.
 
-#include "officec430.h"
+#include "products.h"
 #include "uidata.h"
 
 #include <gtest/gtest.h>
@@ -59,12 +59,11 @@ private:
     std::map<std::string, std::string> m_keys;
 };
 
-void checkPages(const char* language, const UIData& data, const std::string& where)
+void checkPages(const StringTable& strings, const UIData& data, const std::string& where)
 {
-    const StringTable strings = o7::officeC430Strings(language);
     for (const auto* containers : {&data.getTabs(), &data.getDialogs()}) {
         for (const auto& page : *containers) {
-            SCOPED_TRACE(language + where + " page " + std::to_string(page->getId()));
+            SCOPED_TRACE(where + " page " + std::to_string(page->getId()));
             PageWalk(strings).container(page->getRecord());
         }
     }
@@ -73,13 +72,16 @@ void checkPages(const char* language, const UIData& data, const std::string& whe
 
 TEST(PageTexts, AreThereAndHaveDistinctMnemonics)
 {
-    for (const int family : {8430, 8431, 8432, 8433, 8434}) {
-        for (const int mode : {1, 2, 3, 4}) {
-            const UIData data(static_cast<UIMode>(mode),
-                              static_cast<DataModelIds::tagValueEnum>(family), Workflow::Standard);
-            for (const char* language : o7::kLanguages)
-                checkPages(language, data,
-                           ' ' + std::to_string(family) + " mode " + std::to_string(mode));
+    for (const std::string language : o7::kLanguages) {
+        for (const auto& product : o7::kProducts) {
+            const StringTable strings = o7::productStrings(product.name, language);
+            for (const int mode : {1, 2, 3, 4}) {
+                const UIData data(static_cast<UIMode>(mode),
+                                  static_cast<DataModelIds::tagValueEnum>(product.family),
+                                  Workflow::Standard);
+                checkPages(strings, data,
+                           language + ' ' + product.name + " mode " + std::to_string(mode));
+            }
         }
     }
 }

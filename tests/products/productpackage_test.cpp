@@ -1,25 +1,26 @@
-// The office colour device as a whole: its package loads, every text exists in every language, and
-// its constraints limit what a person would expect, each with a sentence that says why.
+// The products as a whole: each package loads, every text exists in every language, and the
+// constraints limit what a person would expect, each with a sentence that says why.
 
 #include "datamodelfactory.h"
-#include "officec430.h"
 #include "optioncapability.h"
+#include "products.h"
 
 #include <gmock/gmock.h>
 
 #include <map>
 #include <regex>
 #include <set>
+#include <span>
 
 namespace {
 
 using o7::FeatureKind;
 using o7::StringTable;
 
-std::unique_ptr<o7::ProductPackage> loadPackage()
+std::unique_ptr<o7::ProductPackage> loadPackage(const std::string& product)
 {
     std::vector<o7::PackageError> errors;
-    auto package = o7::LoadProductPackage(o7::officeC430Folder(), errors);
+    auto package = o7::LoadProductPackage(o7::productFolder(product), errors);
     for (const auto& error : errors)
         ADD_FAILURE() << error.ToString();
     return package;
@@ -35,26 +36,25 @@ ValueId valueId(int number)
     return ValueId(static_cast<DataModelIds::tagValueEnum>(number));
 }
 
-/// Features that pages show: 3001 and up. The numbers in these tests are those of package.json.
+/// The settings: device settings from 3040, printing from 3001 and from 3101. The numbers in these
+/// tests are those of the packages.
 constexpr int kFirstFeature = 3001;
-constexpr int kLastFeature = 3047;
+constexpr int kLastFeature = 3399;
 
-class OfficeC430 : public testing::Test
+/// A product in a data model, with English texts.
+class Product
 {
-protected:
-    void SetUp() override
+public:
+    explicit Product(const std::string& name)
+        : m_package(loadPackage(name)), m_strings(o7::productStrings(name, "en"))
     {
-        m_package = loadPackage();
-        ASSERT_TRUE(m_package);
-        useLanguage("en");
+        if (m_package)
+            m_model = o7::CreateDataModel(*m_package, m_strings);
     }
 
-    void useLanguage(const std::string& language)
-    {
-        m_model.reset();
-        m_strings = std::make_unique<o7::StringTableSource>(o7::officeC430Strings(language));
-        m_model = o7::CreateDataModel(*m_package, *m_strings);
-    }
+    const o7::ProductPackage& package() const { return *m_package; }
+    bool loaded() const { return m_model != nullptr; }
+    void restore() { m_model->RevertToAccepted(); }
 
     bool set(int feature, int value)
     {
@@ -67,9 +67,21 @@ protected:
             return list.GetBooleanFeature(id).SetValue(value != 0);
         case FeatureKind::Integer:
             return list.GetIntegerFeature(id).SetValue(value);
+        case FeatureKind::Dimension:
+            return list.GetDimensionFeature(id).SetValue(
+                Dimension(value, Dimension::UnitsEnum::Millimetre));
         default:
             return false;
         }
+    }
+
+    std::vector<int> features()
+    {
+        std::vector<int> result;
+        for (int number = kFirstFeature; number <= kLastFeature; ++number)
+            if (m_model->GetFeatureRef(featureId(number))->IsSupported())
+                result.push_back(number);
+        return result;
     }
 
     InterpretedState state(int feature)
@@ -95,10 +107,9 @@ protected:
         return {};
     }
 
-    void expectAllExplained(const std::string& after);
-
+private:
     std::unique_ptr<o7::ProductPackage> m_package;
-    std::unique_ptr<o7::StringTableSource> m_strings;
+    o7::StringTableSource m_strings;
     std::unique_ptr<IDataModel> m_model;
 };
 
@@ -111,40 +122,48 @@ std::set<std::string> placeholders(const std::string& text)
     return found;
 }
 
-TEST_F(OfficeC430, IsOneWholeProduct)
+class Products : public testing::TestWithParam<o7::ProductUnderTest>
 {
-    EXPECT_GE(m_package->GetFeatureCount(), 45U);
-    EXPECT_GE(m_package->GetConstraintCount(), 40U);
-    const ProductInfo& info = m_package->GetProductInfo();
-    EXPECT_EQ(info.id.ToUtf8(), "office-c430");
+};
+
+TEST_P(Products, AreWhole)
+{
+    const auto package = loadPackage(GetParam().name);
+    ASSERT_TRUE(package);
+    EXPECT_THAT(package->GetFeatureCount(), testing::AllOf(testing::Ge(60U), testing::Le(150U)));
+    EXPECT_THAT(package->GetConstraintCount(), testing::AllOf(testing::Ge(80U), testing::Le(300U)));
+    const ProductInfo& info = package->GetProductInfo();
+    EXPECT_EQ(info.id.ToUtf8(), GetParam().name);
+    EXPECT_EQ(info.controllerFamily, GetParam().family);
     std::vector<std::string> languages;
     for (const auto& language : info.languages)
         languages.push_back(language.ToUtf8());
-    EXPECT_THAT(languages, testing::UnorderedElementsAreArray(o7::kLanguages));
+    EXPECT_THAT(languages, testing::ElementsAreArray(o7::kLanguages));
 }
 
-TEST_F(OfficeC430, HasEveryTextItNeedsAndNoReasonWithoutUse)
+TEST_P(Products, HaveEveryTextTheyNeed)
 {
-    const auto needed = m_package->GetStringNumbers();
-    const std::set<unsigned> neededSet(needed.begin(), needed.end());
-    const StringTable strings = o7::officeC430Strings("en");
-    for (const unsigned number : needed)
+    const auto package = loadPackage(GetParam().name);
+    ASSERT_TRUE(package);
+    const StringTable strings = o7::productStrings(GetParam().name, "en");
+    for (const unsigned number : package->GetStringNumbers())
         EXPECT_TRUE(strings.count(number)) << "missing: " << number;
     for (const unsigned number : {1357U, 1358U, 11014U, 11015U, 35000U, 35001U, 35002U})
         EXPECT_TRUE(strings.count(number)) << "missing: " << number;
-    for (auto at = strings.lower_bound(60000); at != strings.end(); ++at)
-        EXPECT_TRUE(neededSet.count(at->first)) << "never used: " << at->first;
 }
 
-TEST_F(OfficeC430, SaysTheSameInEveryLanguage)
+TEST_P(Products, SayTheSameInEveryLanguage)
 {
-    const StringTable english = o7::officeC430Strings("en");
+    const StringTable english = o7::productStrings(GetParam().name, "en");
     for (const char* language : o7::kLanguages) {
-        const StringTable other = o7::officeC430Strings(language);
+        const StringTable other = o7::productStrings(GetParam().name, language);
         for (const auto& [number, text] : english) {
             SCOPED_TRACE(std::string(language) + " " + std::to_string(number));
             const auto found = other.find(number);
-            ASSERT_NE(found, other.end());
+            if (found == other.end()) {
+                ADD_FAILURE() << "missing";
+                continue;
+            }
             EXPECT_NE(found->second, "");
             EXPECT_EQ(placeholders(found->second), placeholders(text));
             EXPECT_EQ(o7::mnemonicOf(found->second).empty(), o7::mnemonicOf(text).empty());
@@ -154,54 +173,41 @@ TEST_F(OfficeC430, SaysTheSameInEveryLanguage)
     }
 }
 
-TEST_F(OfficeC430, OpensWithAlmostEverythingToChooseFrom)
+TEST_P(Products, OpenWithoutAConflict)
 {
-    std::set<int> disabled;
-    std::set<int> noted;
-    for (int feature = kFirstFeature; feature <= kLastFeature; ++feature) {
-        const auto now = state(feature);
-        if (now.IsDisabled() || now.IsCleared())
-            disabled.insert(feature);
-        else if (now.HasInfoBtnMsg())
-            noted.insert(feature);
+    Product product(GetParam().name);
+    ASSERT_TRUE(product.loaded());
+    for (const int feature : product.features()) {
+        const auto now = product.state(feature);
         EXPECT_FALSE(now.IsHidden()) << feature;
-        EXPECT_FALSE(now.HasCbrBtnMsg()) << feature;
-    }
-    // No folding unit, one page on a sheet, no watermark, no covers.
-    EXPECT_THAT(disabled, testing::ElementsAre(3014, 3017, 3024, 3026));
-    // No booklet finisher: no saddle stitch, no booklet tray.
-    EXPECT_THAT(noted, testing::ElementsAre(3012, 3015));
-}
-
-void OfficeC430::expectAllExplained(const std::string& after)
-{
-    const auto check = [&](const InterpretedState& now, const std::string& where) {
-        const bool limited = now.IsDisabled() || now.IsCleared() || now.IsHidden();
-        EXPECT_EQ(limited, !now.GetReason().IsEmpty()) << after << ": " << where;
-        for (const auto& text : {now.GetReason(), now.GetInfoBtnMsg(), now.GetCbrBtnMsg()})
-            EXPECT_EQ(text.ToUtf8().find_first_of("{}#"), std::string::npos)
-                << after << ": " << where << ": " << text.ToUtf8();
-    };
-    for (int feature = kFirstFeature; feature <= kLastFeature; ++feature) {
-        check(state(feature), std::to_string(feature));
-        for (const auto& option : options(feature))
-            check(option.GetInterpretedState(), option.GetOptionDisplayString().ToUtf8());
+        EXPECT_FALSE(now.HasCbrBtnMsg()) << feature << ": " << now.GetCbrBtnMsg().ToUtf8();
     }
 }
 
-TEST_F(OfficeC430, ExplainsEveryLimitAfterAnySingleChange)
+std::string nameOf(const testing::TestParamInfo<o7::ProductUnderTest>& product)
 {
-    for (const char* language : o7::kLanguages) {
-        useLanguage(language);
-        for (int feature = kFirstFeature; feature <= kLastFeature; ++feature) {
-            std::vector<int> values{0, 1}; // of a switch
-            for (const auto& option : options(feature))
-                values.push_back(option.GetValueId().GetValueEnum());
-            for (const int value : values) {
-                m_model->RevertToAccepted();
-                set(feature, value);
-                expectAllExplained(std::to_string(feature) + "=" + std::to_string(value));
-            }
+    return "family" + std::to_string(product.param.family);
+}
+INSTANTIATE_TEST_SUITE_P(All, Products, testing::ValuesIn(o7::kProducts), nameOf);
+
+/// Names of settings, and reasons: each is there because some product needs it.
+TEST(SharedTexts, AreNeededBySomeProduct)
+{
+    std::set<unsigned> needed;
+    std::set<unsigned> written;
+    for (const auto& [name, family] : o7::kProducts) {
+        const auto package = loadPackage(name);
+        ASSERT_TRUE(package);
+        const auto numbers = package->GetStringNumbers();
+        needed.insert(numbers.begin(), numbers.end());
+        for (const auto& [number, text] : o7::productStrings(name, "en"))
+            written.insert(number);
+    }
+    for (const unsigned number : written) {
+        const bool named = number > 20000 && number < 30000;
+        const bool ofDriver = number == 21781 || number == 21807;
+        if ((named && !ofDriver) || number > 45000) {
+            EXPECT_TRUE(needed.count(number)) << "never used: " << number;
         }
     }
 }
@@ -238,7 +244,7 @@ struct Story
     Effect effect;
 };
 
-const Story kStories[] = {
+const Story kOfficeStories[] = {
     {"no finisher, no stapling", {{3040, 5220}}, 3012, 0, Effect::Disabled},
     {"no finisher, no punching", {{3040, 5220}}, 3013, 0, Effect::Disabled},
     {"office finisher cannot stitch", {{3018, 1}}, 3012, 5163, Effect::Disabled},
@@ -276,21 +282,92 @@ const Story kStories[] = {
     {"edge to edge on A5", {{3002, 5112}}, 3031, 0, Effect::Cleared},
     {"watermark on first page", {{3023, 5201}}, 3024, 0, Effect::Free},
     {"pale watermark", {{3023, 5201}, {3011, 1}}, 3023, 0, Effect::Info},
-    {"cover tray", {{3025, 5206}}, 3026, 0, Effect::Free},
+    {"cover tray", {{3025, 5206}}, 3026, 5122, Effect::Free},
     {"secure job, no banner", {{3001, 5101}}, 3022, 0, Effect::Cleared},
     {"no two-way communication", {{3045, 0}}, 3029, 0, Effect::Cleared},
+    {"A5 too small for a booklet", {{3002, 5112}}, 3018, 0, Effect::Cleared},
+    {"heavy sheets from tray 2", {{3004, 5132}, {3101, 5417}}, 3003, 5121, Effect::Disabled},
+    {"narrow sheets from the bypass", {{3002, 5250}, {3103, 95}}, 3003, 5121, Effect::Disabled},
+    {"a fax is not stapled", {{3050, 1}, {3001, 5240}}, 3012, 0, Effect::Disabled},
+    {"recipients of a fax", {{3050, 1}, {3001, 5240}}, 3260, 0, Effect::Free},
+    {"PIN of a secure job", {{3001, 5101}}, 3240, 0, Effect::Free},
+    {"colour not allowed", {{3083, 5786}}, 3009, 0, Effect::Info},
+    {"colour, then not allowed", {{3009, 5151}, {3083, 5786}}, 3009, 0, Effect::Conflict},
+    {"glossy paper in tray 2", {{3076, 5133}, {3004, 5133}}, 3003, 5122, Effect::Free},
 };
 
-TEST_F(OfficeC430, LimitsWhatAPersonExpects)
+const Story kProductionStories[] = {
+    {"no binder, no binding", {{3055, 5758}, {3002, 5111}}, 3152, 5497, Effect::Disabled},
+    {"rings without holes", {{3055, 5759}, {3002, 5111}, {3152, 5495}}, 3013, 0, Effect::Conflict},
+    {"rings with holes",
+     {{3055, 5759}, {3056, 5765}, {3002, 5111}, {3013, 5360}, {3152, 5495}},
+     3013,
+     0,
+     Effect::Info},
+    {"Swedish holes need their die", {}, 3013, 5359, Effect::Disabled},
+    {"two copies are sets", {{3007, 2}}, 3147, 5487, Effect::Free},
+    {"stitched books are trimmed", {{3018, 1}, {3012, 5163}}, 3149, 5491, Effect::Free},
+    {"card cracks", {{3004, 5321}, {3101, 5416}, {3014, 5171}}, 3014, 0, Effect::Info},
+    {"inserted covers stay blank", {{3025, 5206}, {3026, 5305}}, 3160, 5505, Effect::Disabled},
+    {"each side shifted", {{3005, 5141}, {3130, 5466}}, 3133, 0, Effect::Free},
+    {"no white toner", {}, 3205, 5578, Effect::Disabled},
+    {"high gloss, then draft", {{3004, 5323}, {3204, 5574}}, 3010, 5155, Effect::Disabled},
+    {"draft, then high gloss", {{3004, 5323}, {3010, 5155}}, 3204, 5574, Effect::Disabled},
+};
+
+const Story kMonoStories[] = {
+    {"one tray", {}, 3003, 5122, Effect::Disabled},
+    {"envelopes from the bypass", {{3002, 5267}, {3004, 5136}}, 3003, 5125, Effect::Free},
+    {"no storage card, no PIN job", {}, 3001, 5101, Effect::Disabled},
+    {"two-sided by hand without a duplex unit", {{3046, 0}}, 3114, 0, Effect::Free},
+    {"poster is one-sided", {{3127, 5459}}, 3005, 5141, Effect::Disabled},
+    {"saving toner sets the density", {{3011, 1}}, 3200, 0, Effect::Disabled},
+};
+
+const Story kPhotoStories[] = {
+    {"canvas not to the edges", {{3004, 5336}}, 3031, 0, Effect::Cleared},
+    {"no matte ink", {{3004, 5334}}, 3284, 5661, Effect::Disabled},
+    {"thick paper, wide gap", {{3115, 1}}, 3286, 5665, Effect::Disabled},
+    {"panorama from the roll", {{3002, 5274}}, 3003, 5306, Effect::Free},
+    {"cut from the roll", {{3003, 5306}}, 3287, 0, Effect::Free},
+    {"sheets are not cut", {}, 3287, 0, Effect::Disabled},
+    {"tone of black and white", {{3009, 5152}}, 3195, 0, Effect::Free},
+};
+
+const Story kWideStories[] = {
+    {"A0 on a narrow roll", {{3088, 610}, {3002, 5254}}, 3003, 5306, Effect::Disabled},
+    {"tracing paper on roll 2", {{3091, 5340}, {3004, 5340}}, 3003, 5307, Effect::Free},
+    {"tracing paper not on roll 1", {{3004, 5340}}, 3003, 5306, Effect::Disabled},
+    {"sheets are not nested", {{3003, 5310}}, 3301, 0, Effect::Disabled},
+    {"folding at the folder", {{3044, 1}, {3015, 5377}}, 3316, 0, Effect::Free},
+    {"drawing scale", {{3028, 5402}}, 3312, 0, Effect::Free},
+    {"pen table", {{3306, 5693}}, 3307, 0, Effect::Free},
+};
+
+constexpr struct
 {
-    for (const Story& story : kStories) {
-        SCOPED_TRACE(story.name);
-        m_model->RevertToAccepted();
-        for (const auto& [feature, value] : story.choices)
-            EXPECT_TRUE(set(feature, value)) << feature << "=" << value;
-        const auto now =
-            story.option == 0 ? state(story.feature) : optionState(story.feature, story.option);
-        EXPECT_EQ(effectOf(now), story.effect);
+    const char* product;
+    std::span<const Story> stories;
+} kStories[] = {
+    {"office-c430", kOfficeStories}, {"production-p900", kProductionStories},
+    {"mono-m210", kMonoStories},     {"photo-x150", kPhotoStories},
+    {"wide-w360", kWideStories},
+};
+
+TEST(Constraints, LimitWhatAPersonExpects)
+{
+    for (const auto& [name, stories] : kStories) {
+        Product product(name);
+        ASSERT_TRUE(product.loaded());
+        for (const Story& story : stories) {
+            SCOPED_TRACE(std::string(name) + ": " + story.name);
+            product.restore();
+            for (const auto& [feature, value] : story.choices)
+                EXPECT_TRUE(product.set(feature, value)) << feature << "=" << value;
+            const auto now = story.option == 0 ? product.state(story.feature)
+                                               : product.optionState(story.feature, story.option);
+            EXPECT_EQ(effectOf(now), story.effect);
+        }
     }
 }
 

@@ -14,13 +14,6 @@ namespace o7::test {
 
 namespace {
 
-std::filesystem::path productFolder()
-{
-    std::wstring program(32768, L'\0');
-    program.resize(GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size())));
-    return std::filesystem::path(program).parent_path() / L"products" / kProduct;
-}
-
 struct Search
 {
     const wchar_t* className;
@@ -43,10 +36,17 @@ BOOL CALLBACK matchControl(HWND window, LPARAM parameter)
 
 } // namespace
 
+std::filesystem::path productsFolder()
+{
+    std::wstring program(32768, L'\0');
+    program.resize(GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size())));
+    return std::filesystem::path(program).parent_path() / L"products";
+}
+
 void UIFixture::SetUp()
 {
     std::vector<CXString> errors;
-    m_session = o7::ProductSession::open(productFolder(), CXString(L"en"), errors);
+    m_session = o7::ProductSession::open(productsFolder() / kProduct, CXString(L"en"), errors);
     std::string text;
     for (const CXString& error : errors)
         text += error.ToUtf8() + "\n";

@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include <filesystem>
 #include <memory>
 #include <string>
 
@@ -15,6 +16,9 @@ namespace o7::test {
 
 /// The product whose pages the tests open.
 inline constexpr wchar_t kProduct[] = L"office-c430";
+
+/// The folder of the built products, beside the test program.
+std::filesystem::path productsFolder();
 
 /// Base of tests that open the real product: a fresh session for every test.
 class UIFixture : public ::testing::Test

@@ -52,6 +52,153 @@ inline constexpr UIMoleculeRecord kTrackJobs         = check<DataModelIds::kFeat
                                                              DataModelIds::kValueJobTrackerOn, kJobTrackingOff>();
 inline constexpr UIMoleculeRecord kWarnOnApply       = check<DataModelIds::kFeatureApplyResult, O7STR_L_WARN_APPLY,
                                                              DataModelIds::kValueApplyRejected, kApplyQuietly>();
+
+// Paper
+inline constexpr UIMoleculeRecord kPaperWeight         = combo<o7::kPaperWeight, O7STR_L_PAPER_WEIGHT>();
+inline constexpr UIMoleculeRecord kPaperColour         = combo<o7::kPaperColour, O7STR_L_PAPER_COLOUR>();
+inline constexpr UIMoleculeRecord kTargetSize          = combo<o7::kTargetSize, O7STR_L_TARGET_SIZE>();
+inline constexpr UIMoleculeRecord kTraySwitching       = check<o7::kTraySwitching, O7STR_L_TRAY_SWITCHING>();
+inline constexpr UIMoleculeRecord kMissingPaper        = combo<o7::kMissingPaper, O7STR_L_MISSING_PAPER>();
+inline constexpr UIMoleculeRecord kFeedDirection       = combo<o7::kFeedDirection, O7STR_L_FEED_DIRECTION>();
+inline constexpr UIMoleculeRecord kLetterhead          = check<o7::kLetterheadMode, O7STR_L_LETTERHEAD>();
+inline constexpr UIMoleculeRecord kManualFeed          = check<o7::kManualFeed, O7STR_L_MANUAL_FEED>();
+inline constexpr UIMoleculeRecord kManualTwoSided      = check<o7::kManualTwoSided, O7STR_L_MANUAL_TWO_SIDED>();
+
+// Layout
+inline constexpr UIMoleculeRecord kBindingEdge         = combo<o7::kBindingEdge, O7STR_L_BINDING_EDGE>();
+inline constexpr UIMoleculeRecord kBookletDirection    = combo<o7::kBookletDirection, O7STR_L_BOOKLET_DIRECTION>();
+inline constexpr UIMoleculeRecord kPageOrder           = combo<o7::kPageOrder, O7STR_L_PAGE_ORDER>();
+inline constexpr UIMoleculeRecord kPoster              = combo<o7::kPoster, O7STR_L_POSTER>();
+inline constexpr UIMoleculeRecord kRotate180           = check<o7::kRotate180, O7STR_L_ROTATE_180>();
+inline constexpr UIMoleculeRecord kReverseOrder        = check<o7::kReverseOrder, O7STR_L_REVERSE_ORDER>();
+inline constexpr UIMoleculeRecord kImageShift          = combo<o7::kImageShift, O7STR_L_IMAGE_SHIFT>();
+inline constexpr UIMoleculeRecord kCropMarks           = combo<o7::kCropMarks, O7STR_L_CROP_MARKS>();
+inline constexpr UIMoleculeRecord kImposition          = combo<o7::kImposition, O7STR_L_IMPOSITION>();
+
+// Finishing
+inline constexpr UIMoleculeRecord kOffsetStacking      = combo<o7::kOffsetStacking, O7STR_L_OFFSET_STACKING>();
+inline constexpr UIMoleculeRecord kSeparators          = combo<o7::kSeparators, O7STR_L_SEPARATORS>();
+inline constexpr UIMoleculeRecord kSeparatorTray       = combo<o7::kSeparatorTray, O7STR_L_SEPARATOR_TRAY>();
+inline constexpr UIMoleculeRecord kTrim                = combo<o7::kTrim, O7STR_L_TRIM>();
+inline constexpr UIMoleculeRecord kCrease              = check<o7::kCrease, O7STR_L_CREASE>();
+inline constexpr UIMoleculeRecord kBinding             = combo<o7::kBinding, O7STR_L_BINDING>();
+inline constexpr UIMoleculeRecord kFoldPrintSide       = combo<o7::kFoldPrintSide, O7STR_L_FOLD_PRINT_SIDE>();
+inline constexpr UIMoleculeRecord kSquareSpine         = check<o7::kSquareSpine, O7STR_L_SQUARE_SPINE>();
+
+// Covers
+inline constexpr UIMoleculeRecord kCoverPrinting       = combo<o7::kCoverPrinting, O7STR_L_COVER_PRINTING>();
+inline constexpr UIMoleculeRecord kCoverType           = combo<o7::kCoverType, O7STR_L_COVER_TYPE>();
+inline constexpr UIMoleculeRecord kCoverWeight         = combo<o7::kCoverWeight, O7STR_L_COVER_WEIGHT>();
+inline constexpr UIMoleculeRecord kBackCoverTray       = combo<o7::kBackCoverTray, O7STR_L_BACK_COVER_TRAY>();
+inline constexpr UIMoleculeRecord kBackCoverPrinting   = combo<o7::kBackCoverPrinting, O7STR_L_BACK_COVER_PRINTING>();
+
+// Image and colour
+inline constexpr UIMoleculeRecord kColourCorrection    = combo<o7::kColourCorrection, O7STR_L_COLOUR_CORRECTION>();
+inline constexpr UIMoleculeRecord kRenderingIntent     = combo<o7::kRenderingIntent, O7STR_L_RENDERING_INTENT>();
+inline constexpr UIMoleculeRecord kRgbProfile          = combo<o7::kRgbProfile, O7STR_L_RGB_PROFILE>();
+inline constexpr UIMoleculeRecord kPressSimulation     = combo<o7::kPressSimulation, O7STR_L_PRESS_SIMULATION>();
+inline constexpr UIMoleculeRecord kPureBlack           = check<o7::kPureBlack, O7STR_L_PURE_BLACK>();
+inline constexpr UIMoleculeRecord kHalftone            = combo<o7::kHalftone, O7STR_L_HALFTONE>();
+inline constexpr UIMoleculeRecord kTrapping            = combo<o7::kTrapping, O7STR_L_TRAPPING>();
+inline constexpr UIMoleculeRecord kBlackOverprint      = check<o7::kBlackOverprint, O7STR_L_BLACK_OVERPRINT>();
+inline constexpr UIMoleculeRecord kSpotColours         = check<o7::kSpotColours, O7STR_L_SPOT_COLOURS>();
+inline constexpr UIMoleculeRecord kTone                = combo<o7::kTone, O7STR_L_TONE>();
+inline constexpr UIMoleculeRecord kRedEye              = check<o7::kRedEye, O7STR_L_RED_EYE>();
+inline constexpr UIMoleculeRecord kNoiseReduction      = check<o7::kNoiseReduction, O7STR_L_NOISE_REDUCTION>();
+inline constexpr UIMoleculeRecord kPhotoEnhancement    = combo<o7::kPhotoEnhancement, O7STR_L_PHOTO_ENHANCEMENT>();
+inline constexpr UIMoleculeRecord kEdgeSmoothing       = check<o7::kEdgeSmoothing, O7STR_L_EDGE_SMOOTHING>();
+inline constexpr UIMoleculeRecord kImageCompression    = combo<o7::kImageCompression, O7STR_L_IMAGE_COMPRESSION>();
+inline constexpr UIMoleculeRecord kThickenLines        = check<o7::kThickenLines, O7STR_L_THICKEN_LINES>();
+inline constexpr UIMoleculeRecord kGloss               = combo<o7::kGloss, O7STR_L_GLOSS>();
+inline constexpr UIMoleculeRecord kSpecialColour       = combo<o7::kSpecialColour, O7STR_L_SPECIAL_COLOUR>();
+inline constexpr UIMoleculeRecord kSpecialColourArea   = combo<o7::kSpecialColourArea, O7STR_L_SPECIAL_COLOUR_AREA>();
+inline constexpr UIMoleculeRecord kSkinSmoothing       = check<o7::kSkinSmoothing, O7STR_L_SKIN_SMOOTHING>();
+inline constexpr UIMoleculeRecord kFonts               = combo<o7::kFonts, O7STR_L_FONTS>();
+inline constexpr UIMoleculeRecord kPrintAsPicture      = check<o7::kPrintAsPicture, O7STR_L_PRINT_AS_PICTURE>();
+inline constexpr UIMoleculeRecord kErrorReport         = check<o7::kErrorReport, O7STR_L_ERROR_REPORT>();
+inline constexpr UIMoleculeRecord kQuietMode           = check<o7::kQuietMode, O7STR_L_QUIET_MODE>();
+
+// Watermarks, overlays and stamps
+inline constexpr UIMoleculeRecord kWatermarkLayer      = combo<o7::kWatermarkLayer, O7STR_L_WATERMARK_LAYER>();
+inline constexpr UIMoleculeRecord kOverlay             = combo<o7::kOverlay, O7STR_L_OVERLAY>();
+inline constexpr UIMoleculeRecord kPageNumbers         = combo<o7::kPageNumbers, O7STR_L_PAGE_NUMBERS>();
+inline constexpr UIMoleculeRecord kDateStamp           = combo<o7::kDateStamp, O7STR_L_DATE_STAMP>();
+
+// Job
+inline constexpr UIMoleculeRecord kSavedFolder         = combo<o7::kSavedFolder, O7STR_L_SAVED_FOLDER>();
+inline constexpr UIMoleculeRecord kDeleteAfterPrinting = check<o7::kDeleteAfterPrinting, O7STR_L_DELETE_AFTER_PRINTING>();
+inline constexpr UIMoleculeRecord kJobPriority         = combo<o7::kJobPriority, O7STR_L_JOB_PRIORITY>();
+inline constexpr UIMoleculeRecord kAccountKind         = combo<o7::kAccountKind, O7STR_L_ACCOUNT_KIND>();
+inline constexpr UIMoleculeRecord kEncryptJob          = check<o7::kEncryptJob, O7STR_L_ENCRYPT_JOB>();
+inline constexpr UIMoleculeRecord kCopiesTogether      = combo<o7::kCopiesTogether, O7STR_L_COPIES_TOGETHER>();
+
+// Photographs
+inline constexpr UIMoleculeRecord kBorderExpansion     = combo<o7::kBorderExpansion, O7STR_L_BORDER_EXPANSION>();
+inline constexpr UIMoleculeRecord kPhotoLayout         = combo<o7::kPhotoLayout, O7STR_L_PHOTO_LAYOUT>();
+inline constexpr UIMoleculeRecord kFrame               = combo<o7::kFrame, O7STR_L_FRAME>();
+inline constexpr UIMoleculeRecord kHighSpeed           = check<o7::kHighSpeed, O7STR_L_HIGH_SPEED>();
+inline constexpr UIMoleculeRecord kBlackInk            = combo<o7::kBlackInk, O7STR_L_BLACK_INK>();
+inline constexpr UIMoleculeRecord kPlatenGap           = combo<o7::kPlatenGap, O7STR_L_PLATEN_GAP>();
+inline constexpr UIMoleculeRecord kCut                 = combo<o7::kCut, O7STR_L_CUT>();
+inline constexpr UIMoleculeRecord kAutoRotate          = check<o7::kAutoRotate, O7STR_L_AUTO_ROTATE>();
+inline constexpr UIMoleculeRecord kClearCoat           = combo<o7::kClearCoat, O7STR_L_CLEAR_COAT>();
+
+// Drawings
+inline constexpr UIMoleculeRecord kRollRotation        = combo<o7::kRollRotation, O7STR_L_ROLL_ROTATION>();
+inline constexpr UIMoleculeRecord kNesting             = combo<o7::kNesting, O7STR_L_NESTING>();
+inline constexpr UIMoleculeRecord kCutLines            = check<o7::kCutLines, O7STR_L_CUT_LINES>();
+inline constexpr UIMoleculeRecord kLineWeight          = combo<o7::kLineWeight, O7STR_L_LINE_WEIGHT>();
+inline constexpr UIMoleculeRecord kPens                = combo<o7::kPens, O7STR_L_PENS>();
+inline constexpr UIMoleculeRecord kDrawingScale        = combo<o7::kDrawingScale, O7STR_L_DRAWING_SCALE>();
+inline constexpr UIMoleculeRecord kSheetMargins        = combo<o7::kSheetMargins, O7STR_L_SHEET_MARGINS>();
+inline constexpr UIMoleculeRecord kFoldProgram         = combo<o7::kFoldProgram, O7STR_L_FOLD_PROGRAM>();
+inline constexpr UIMoleculeRecord kTitleBlock          = combo<o7::kTitleBlock, O7STR_L_TITLE_BLOCK>();
+inline constexpr UIMoleculeRecord kCropToContent       = check<o7::kCropToContent, O7STR_L_CROP_TO_CONTENT>();
+inline constexpr UIMoleculeRecord kInkSaving           = check<o7::kInkSaving, O7STR_L_INK_SAVING>();
+inline constexpr UIMoleculeRecord kHiddenLines         = check<o7::kHiddenLines, O7STR_L_HIDDEN_LINES>();
+
+// Device settings
+inline constexpr UIMoleculeRecord kLargeTray           = check<o7::kInstalledLargeTray, O7STR_L_LARGE_TRAY>();
+inline constexpr UIMoleculeRecord kFaxBoard            = check<o7::kInstalledFax, O7STR_L_FAX_BOARD>();
+inline constexpr UIMoleculeRecord kMemory              = combo<o7::kInstalledMemory, O7STR_L_MEMORY>();
+inline constexpr UIMoleculeRecord kInserter            = check<o7::kInstalledInserter, O7STR_L_INSERTER>();
+inline constexpr UIMoleculeRecord kStackers            = combo<o7::kInstalledStackers, O7STR_L_STACKERS>();
+inline constexpr UIMoleculeRecord kTrimmer             = combo<o7::kInstalledTrimmer, O7STR_L_TRIMMER>();
+inline constexpr UIMoleculeRecord kBinder              = combo<o7::kInstalledBinder, O7STR_L_BINDER>();
+inline constexpr UIMoleculeRecord kPunchDie            = combo<o7::kInstalledPunchDie, O7STR_L_PUNCH_DIE>();
+inline constexpr UIMoleculeRecord kCreaser             = check<o7::kInstalledCreaser, O7STR_L_CREASER>();
+inline constexpr UIMoleculeRecord kSpecialColourStation = combo<o7::kInstalledSpecialColour, O7STR_L_SPECIAL_COLOUR_STATION>();
+inline constexpr UIMoleculeRecord kColourController    = check<o7::kInstalledColourController, O7STR_L_COLOUR_CONTROLLER>();
+inline constexpr UIMoleculeRecord kColourSensor        = check<o7::kInstalledColourSensor, O7STR_L_COLOUR_SENSOR>();
+inline constexpr UIMoleculeRecord kRolls               = combo<o7::kInstalledRolls, O7STR_L_ROLLS>();
+inline constexpr UIMoleculeRecord kCutter              = check<o7::kInstalledCutter, O7STR_L_CUTTER>();
+inline constexpr UIMoleculeRecord kWideStacker         = check<o7::kInstalledWideStacker, O7STR_L_WIDE_STACKER>();
+inline constexpr UIMoleculeRecord kEncryptionKit       = check<o7::kInstalledEncryptionKit, O7STR_L_ENCRYPTION_KIT>();
+inline constexpr UIMoleculeRecord kWireless            = check<o7::kInstalledWireless, O7STR_L_WIRELESS>();
+inline constexpr UIMoleculeRecord kCardReader          = check<o7::kInstalledCardReader, O7STR_L_CARD_READER>();
+inline constexpr UIMoleculeRecord kPaperRegion         = combo<o7::kPaperRegion, O7STR_L_PAPER_REGION>();
+inline constexpr UIMoleculeRecord kTray1Size           = combo<o7::kTray1Size, O7STR_L_TRAY_1_SIZE>();
+inline constexpr UIMoleculeRecord kTray1Type           = combo<o7::kTray1Type, O7STR_L_TRAY_1_TYPE>();
+inline constexpr UIMoleculeRecord kTray2Size           = combo<o7::kTray2Size, O7STR_L_TRAY_2_SIZE>();
+inline constexpr UIMoleculeRecord kTray2Type           = combo<o7::kTray2Type, O7STR_L_TRAY_2_TYPE>();
+inline constexpr UIMoleculeRecord kTray3Size           = combo<o7::kTray3Size, O7STR_L_TRAY_3_SIZE>();
+inline constexpr UIMoleculeRecord kTray3Type           = combo<o7::kTray3Type, O7STR_L_TRAY_3_TYPE>();
+inline constexpr UIMoleculeRecord kTray4Size           = combo<o7::kTray4Size, O7STR_L_TRAY_4_SIZE>();
+inline constexpr UIMoleculeRecord kTray4Type           = combo<o7::kTray4Type, O7STR_L_TRAY_4_TYPE>();
+inline constexpr UIMoleculeRecord kBypassPrompt        = check<o7::kBypassPrompt, O7STR_L_BYPASS_PROMPT>();
+inline constexpr UIMoleculeRecord kColourPolicy        = combo<o7::kColourPolicy, O7STR_L_COLOUR_POLICY>();
+inline constexpr UIMoleculeRecord kSidesPolicy         = combo<o7::kSidesPolicy, O7STR_L_SIDES_POLICY>();
+inline constexpr UIMoleculeRecord kHoldPolicy          = combo<o7::kHoldPolicy, O7STR_L_HOLD_POLICY>();
+inline constexpr UIMoleculeRecord kBannerPolicy        = combo<o7::kBannerPolicy, O7STR_L_BANNER_POLICY>();
+inline constexpr UIMoleculeRecord kAccountRequired     = check<o7::kAccountRequired, O7STR_L_ACCOUNT_REQUIRED>();
+inline constexpr UIMoleculeRecord kRoll1Type           = combo<o7::kRoll1Type, O7STR_L_ROLL_1_TYPE>();
+inline constexpr UIMoleculeRecord kRoll2Type           = combo<o7::kRoll2Type, O7STR_L_ROLL_2_TYPE>();
+inline constexpr UIMoleculeRecord kSquareSpineUnit     = check<o7::kInstalledSquareSpineUnit, O7STR_L_SQUARE_SPINE_UNIT>();
+inline constexpr UIMoleculeRecord kFeedModule          = combo<o7::kInstalledFeedModule, O7STR_L_FEED_MODULE>();
+inline constexpr UIMoleculeRecord kStorageCard         = check<o7::kInstalledStorageCard, O7STR_L_STORAGE_CARD>();
+inline constexpr UIMoleculeRecord kMatteInk            = check<o7::kInstalledMatteInk, O7STR_L_MATTE_INK>();
+inline constexpr UIMoleculeRecord kBoardFeed           = check<o7::kInstalledBoardFeed, O7STR_L_BOARD_FEED>();
+inline constexpr UIMoleculeRecord kLongSheetFeed       = check<o7::kInstalledLongSheetFeed, O7STR_L_LONG_SHEET_FEED>();
 // clang-format on
 
 } // namespace o7::settings

@@ -121,6 +121,18 @@ constexpr UIContainerRecord dialog(DialogId id, std::uint32_t title, std::int32_
             .dialogActions = actions};
 }
 
+/// A page of job options, with the features that belong to it although no control shows them.
+constexpr UIContainerRecord jobPage(std::uint32_t id, UIRecords<UIColumnRecord> columns,
+                                    UIRecords<UISimpleFeatureRecord> features)
+{
+    return {.id = id,
+            .title = O7STR_TAB_JOB,
+            .width = kPageWidth,
+            .height = kPageHeight,
+            .columns = columns,
+            .simpleFeatures = features};
+}
+
 inline constexpr UIDialogActionRecord kOkCancel[] = {
     {.kind = UIDialogActionKind::Accept, .label = O7STR_OK, .isDefault = true},
     {.kind = UIDialogActionKind::Cancel, .label = O7STR_CANCEL},
@@ -128,5 +140,41 @@ inline constexpr UIDialogActionRecord kOkCancel[] = {
 inline constexpr UIDialogActionRecord kOkOnly[] = {
     {.kind = UIDialogActionKind::Accept, .label = O7STR_OK, .isDefault = true},
 };
+
+/// The compact dialog.
+constexpr UIContainerRecord quick(std::int32_t height, UIRecords<UIColumnRecord> columns)
+{
+    return dialog(DialogId::QuickSettings, O7STR_DIALOG_QUICK, height, columns, kOkCancel);
+}
+
+// The four interfaces of a family. Every one can open the family's dialogs.
+constexpr UIRootRecord root(tagValueEnum family, UIMode mode, std::uint32_t caption,
+                            UIRecords<UIContainerRecord> tabs, UIRecords<UIContainerRecord> dialogs)
+{
+    return {.family = family, .mode = mode, .caption = caption, .tabs = tabs, .dialogs = dialogs};
+}
+
+constexpr UIRootRecord preferences(tagValueEnum family, UIRecords<UIContainerRecord> tabs,
+                                   UIRecords<UIContainerRecord> dialogs)
+{
+    return root(family, UIMode::PrintingPreferences, O7STR_CAPTION_PREFERENCES, tabs, dialogs);
+}
+
+constexpr UIRootRecord deviceSettings(tagValueEnum family, UIRecords<UIContainerRecord> tabs,
+                                      UIRecords<UIContainerRecord> dialogs)
+{
+    return root(family, UIMode::DeviceSettings, O7STR_CAPTION_DEVICE, tabs, dialogs);
+}
+
+constexpr UIRootRecord compact(tagValueEnum family, UIRecords<UIContainerRecord> dialogs)
+{
+    return root(family, UIMode::CompactDialog, O7STR_DIALOG_QUICK, {}, dialogs);
+}
+
+constexpr UIRootRecord defaults(tagValueEnum family, UIRecords<UIContainerRecord> tabs,
+                                UIRecords<UIContainerRecord> dialogs)
+{
+    return root(family, UIMode::PrintingDefaults, O7STR_CAPTION_DEFAULTS, tabs, dialogs);
+}
 
 } // namespace o7

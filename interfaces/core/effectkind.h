@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstdint>
+
+namespace o7 {
+
+/// What an active constraint does to a feature, or to some of its values.
+enum class EffectKind : std::uint8_t
+{
+    Disable,
+    Clear, ///< Disabled, shown and read as having no value.
+    Hide,
+    Info,
+    Conflict,
+};
+
+} // namespace o7

@@ -1,0 +1,92 @@
+// The photo device: paper and picture come first, office matters last or not at all.
+#include "rootrecords.h"
+#include "sharedgroups.h"
+
+namespace {
+
+using namespace o7;
+using namespace o7::shared;
+
+// Page "Pictures"
+constexpr UIMoleculeRecord kEdgesGroup[] = {s::kEdgeToEdge, s::kBorderExpansion};
+constexpr UIMoleculeRecord kArrangementGroup[] = {s::kPhotoLayout, s::kFrame, s::kAutoRotate};
+constexpr UIMoleculeRecord kQualityGroup[] = {s::kPrintQuality, s::kHighSpeed};
+constexpr UIMoleculeRecord kPicturesLeft[] = {group(O7STR_G_PAPER, kPaperGroup),
+                                              group(O7STR_G_BORDERS, kEdgesGroup)};
+constexpr UIMoleculeRecord kPicturesRight[] = {group(O7STR_G_PICTURES, kArrangementGroup),
+                                               group(O7STR_G_QUALITY, kQualityGroup)};
+constexpr UIColumnRecord kPicturesColumns[] = {left(kPicturesLeft), right(kPicturesRight)};
+constexpr UIContainerRecord kPicturesPage = page(1, O7STR_TAB_PICTURE, kPicturesColumns);
+
+// Page "Image"
+constexpr UIMoleculeRecord kColourGroup[] = {s::kColourMode, s::kTone, s::kColourCorrection,
+                                             s::kRenderingIntent};
+constexpr UIMoleculeRecord kCorrectionGroup[] = {s::kPhotoEnhancement, s::kRedEye,
+                                                 s::kNoiseReduction, s::kSkinSmoothing};
+constexpr UIMoleculeRecord kInkGroup[] = {s::kBlackInk, s::kClearCoat};
+constexpr UIMoleculeRecord kImageLeft[] = {group(O7STR_G_COLOUR, kColourGroup)};
+constexpr UIMoleculeRecord kImageRight[] = {group(O7STR_G_CORRECTION, kCorrectionGroup),
+                                            group(O7STR_G_INK, kInkGroup)};
+constexpr UIColumnRecord kImageColumns[] = {left(kImageLeft), right(kImageRight)};
+constexpr UIContainerRecord kImagePage = page(2, O7STR_TAB_IMAGE, kImageColumns);
+
+// Page "Layout"
+constexpr UIMoleculeRecord kPageLayoutGroup[] = {s::kOrientation, s::kScaling, s::kTargetSize};
+constexpr UIMoleculeRecord kPagesGroup[] = {s::kMirrorImage, s::kReverseOrder};
+constexpr UIMoleculeRecord kRollGroup[] = {s::kCut, s::kPlatenGap};
+constexpr UIMoleculeRecord kStampsGroup[] = {s::kDateStamp};
+constexpr UIMoleculeRecord kLayoutLeft[] = {group(O7STR_G_PAGE_LAYOUT, kPageLayoutGroup),
+                                            group(O7STR_G_PAGES, kPagesGroup)};
+constexpr UIMoleculeRecord kLayoutRight[] = {group(O7STR_G_FEEDING, kRollGroup),
+                                             group(O7STR_G_STAMPS, kStampsGroup)};
+constexpr UIColumnRecord kLayoutColumns[] = {left(kLayoutLeft), right(kLayoutRight)};
+constexpr UIContainerRecord kLayoutPage = page(3, O7STR_TAB_LAYOUT, kLayoutColumns);
+
+// Page "Advanced", and "Policies" in its place where the administrator sets the defaults
+constexpr UIMoleculeRecord kHeadGroup[] = {s::kResolution, s::kRgbProfile};
+constexpr UIMoleculeRecord kAdvancedLeft[] = {group(O7STR_G_QUALITY, kHeadGroup),
+                                              group(O7STR_G_UNITS, kUnitsGroup)};
+constexpr UIMoleculeRecord kAdvancedRight[] = {group(O7STR_G_APPLY, kApplyGroup)};
+constexpr UIMoleculeRecord kPolicyLeft[] = {group(O7STR_G_UNITS, kUnitsGroup)};
+constexpr UIColumnRecord kAdvancedColumns[] = {left(kAdvancedLeft), right(kAdvancedRight)};
+constexpr UIColumnRecord kPolicyColumns[] = {left(kPolicyLeft), right(kApplyAndConnection)};
+constexpr UIContainerRecord kAdvancedPage = page(4, O7STR_TAB_ADVANCED, kAdvancedColumns);
+constexpr UIContainerRecord kPolicyPage = page(5, O7STR_TAB_POLICY, kPolicyColumns);
+
+// Device settings
+constexpr UIMoleculeRecord kInstalledGroup[] = {s::kRolls,    s::kCutter,   s::kBoardFeed,
+                                                s::kMatteInk, s::kWireless, text<O7STR_T_INK, 2>()};
+constexpr UIMoleculeRecord kNoiseGroup[] = {s::kQuietMode};
+constexpr UIMoleculeRecord kServiceLeft[] = {group(O7STR_G_INSTALLED, kInstalledGroup),
+                                             group(O7STR_G_CONTROLLER, kNoiseGroup)};
+constexpr UIMoleculeRecord kServiceRight[] = {group(O7STR_G_CONNECTION, kConnectionGroup),
+                                              group(O7STR_G_REGION, kRegionGroup)};
+constexpr UIColumnRecord kServiceColumns[] = {left(kServiceLeft), right(kServiceRight)};
+constexpr UIContainerRecord kServicePage = page(1, O7STR_TAB_SERVICE, kServiceColumns);
+
+// Dialogs
+constexpr UIMoleculeRecord kQuickPaperGroup[] = {s::kPaperSize, s::kPaperType, s::kPaperTray,
+                                                 s::kEdgeToEdge};
+constexpr UIMoleculeRecord kQuickPictureGroup[] = {s::kPrintQuality, s::kColourMode,
+                                                   s::kPhotoLayout};
+constexpr UIMoleculeRecord kQuickLeft[] = {group(O7STR_G_PAPER, kQuickPaperGroup)};
+constexpr UIMoleculeRecord kQuickRight[] = {group(O7STR_G_PICTURES, kQuickPictureGroup)};
+constexpr UIColumnRecord kQuickColumns[] = {left(kQuickLeft), right(kQuickRight)};
+constexpr UIContainerRecord kDialogs[] = {quick(149, kQuickColumns)};
+
+// The four interfaces
+constexpr UIContainerRecord kPreferences[] = {kPicturesPage, kImagePage, kLayoutPage,
+                                              kAdvancedPage};
+constexpr UIContainerRecord kDevice[] = {kServicePage};
+constexpr UIContainerRecord kDefaults[] = {kPicturesPage, kImagePage, kPolicyPage};
+
+constexpr UIRootRecord kRoots[] = {
+    preferences(DataModelIds::kValueFamily8433, kPreferences, kDialogs),
+    deviceSettings(DataModelIds::kValueFamily8433, kDevice, kDialogs),
+    compact(DataModelIds::kValueFamily8433, kDialogs),
+    defaults(DataModelIds::kValueFamily8433, kDefaults, kDialogs),
+};
+
+} // namespace
+
+constexpr o7::FamilyRecords o7::kFamily8433 = kRoots;
