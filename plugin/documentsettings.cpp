@@ -1,35 +1,24 @@
 #include "documentsettings.h"
 
-#include <algorithm>
-#include <cstring>
-#include <span>
 #include <utility>
 #include <vector>
 
-#include "productfeatures.h"
 #include "publicfields.h"
 
 namespace o7 {
 namespace {
-
-constexpr WORD kDriverVersion = 0x0100;
-/// The smallest DEVMODE in use reaches as far as the fields that stand for features.
-constexpr std::size_t kSmallestPublicPart = offsetof(DEVMODEW, dmFormName);
-constexpr std::size_t kPublicPartWithMedia =
-    offsetof(DEVMODEW, dmMediaType) + sizeof(DEVMODEW::dmMediaType);
 
 using DeviceValues = std::vector<std::pair<IFeatureNode::Ptr, FeatureValue>>;
 
 DeviceValues deviceValues(IDataModel& model)
 {
     DeviceValues values;
-    const ListOfFeaturesRef features = model.GetFullListOfFeatures();
-    for (int number = kFirstDeviceFeature; number <= kLastDeviceFeature; ++number) {
-        const FeatureId id(static_cast<DataModelIds::tagFeatureEnum>(number));
-        const auto feature = features.GetFeature(FeatureIdWithContext(id));
+    const auto top = model.GetFullListOfFeatures().GetNode();
+    for (std::size_t i = 0; i < top->GetNumChildren(); ++i) {
+        const auto feature = top->GetChild(i);
         FeatureValue value;
-        if (feature->GetNode() && feature->GetNode()->GetValue(value)) {
-            values.emplace_back(feature->GetNode(), value);
+        if (feature->GetCapabilities()->IsDeviceFeature() && feature->GetValue(value)) {
+            values.emplace_back(feature, value);
         }
     }
     return values;
@@ -42,58 +31,40 @@ void restore(const DeviceValues& values)
     }
 }
 
-/// The public part as today's structure, whatever size the caller's has; what it lacks is 0 and
-/// not marked as set.
-DEVMODEW publicPart(const DEVMODEW& devMode)
+bool takePrivatePart(IDataModel& model, std::span<const std::uint8_t> part)
 {
-    DEVMODEW known{};
-    std::memcpy(&known, &devMode, std::min<std::size_t>(devMode.dmSize, sizeof known));
-    if (devMode.dmSize < kPublicPartWithMedia) {
-        known.dmFields &= ~static_cast<DWORD>(DM_MEDIATYPE);
+    const auto block = readPrivatePart(part);
+    if (block.empty()) {
+        return false;
     }
-    return known;
-}
-
-std::span<const std::uint8_t> privatePart(const DEVMODEW& devMode)
-{
-    return {reinterpret_cast<const std::uint8_t*>(&devMode) + devMode.dmSize,
-            devMode.dmDriverExtra};
+    const DeviceValues device = deviceValues(model);
+    const bool taken = model.ImportSettings(block.data(), block.size());
+    if (taken) {
+        restore(device);
+    }
+    return taken;
 }
 
 } // namespace
 
-bool writeDevMode(IDataModel& model, const wchar_t* printerName, DEVMODEW& devMode)
+bool writeDevMode(IDataModel& model, const CXString& printerName,
+                  std::span<std::uint8_t, kDevModeSize> devMode)
 {
-    auto* const bytes = reinterpret_cast<std::uint8_t*>(&devMode);
-    std::memset(bytes, 0, kDevModeSize);
-    if (printerName != nullptr) {
-        lstrcpynW(devMode.dmDeviceName, printerName, CCHDEVICENAME);
-    }
-    devMode.dmSpecVersion = DM_SPECVERSION;
-    devMode.dmDriverVersion = kDriverVersion;
-    devMode.dmSize = sizeof(DEVMODEW);
-    devMode.dmDriverExtra = static_cast<WORD>(kPrivatePartSize);
-    writePublicFields(model.GetFullListOfFeatures(), devMode);
-
+    writePublicPart(devMode.first<kPublicPartSize>(), printerName,
+                    publicFields(model.GetFullListOfFeatures()), kPrivatePartSize);
     std::vector<std::uint8_t> block;
     const bool exported = model.ExportSettings(block, kPrivateBlockCapacity);
-    const std::span<std::uint8_t, kPrivatePartSize> part(bytes + sizeof(DEVMODEW),
-                                                         kPrivatePartSize);
-    return writePrivatePart(part, block) && exported;
+    return writePrivatePart(devMode.last<kPrivatePartSize>(), block) && exported;
 }
 
-void mergeDevMode(IDataModel& model, const DEVMODEW& devMode)
+void mergeDevMode(IDataModel& model, std::span<const std::uint8_t> devMode)
 {
-    if (devMode.dmSize < kSmallestPublicPart) {
+    const auto parts = readDevMode(devMode);
+    if (!parts) {
         return;
     }
-    const DeviceValues device = deviceValues(model);
-    const auto block = readPrivatePart(privatePart(devMode));
-    if (!block.empty()) {
-        model.ImportSettings(block.data(), block.size());
-        restore(device);
-    }
-    readPublicFields(model.GetFullListOfFeatures(), publicPart(devMode));
+    const bool own = takePrivatePart(model, parts->privatePart);
+    followPublicFields(model.GetFullListOfFeatures(), parts->fields, own);
     model.CommitAccepted();
 }
 

@@ -5,10 +5,14 @@
 #include <stdexcept>
 
 #include "devicecapabilities.h"
+#include "devmodebytes.h"
 #include "documentsettings.h"
 #include "driversheet.h"
+#include "lockedsettings.h"
 #include "orvikexception.h"
 #include "printerddi.h"
+#include "printerhandle.h"
+#include "printerstandin.h"
 #include "printerstore.h"
 #include "productlookup.h"
 #include "trace.h"
@@ -52,6 +56,18 @@ Result guarded(const wchar_t* entry, Report to, Result failure, Body body) noexc
     return failure;
 }
 
+/// The record that a call is about; null, with a last error, when there is none or when it is from
+/// before the fields that it must have.
+template <class Header> Header* headerOf(LPARAM parameter)
+{
+    auto* const header = reinterpret_cast<Header*>(parameter);
+    if (header == nullptr || header->cbSize < sizeof(Header)) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return nullptr;
+    }
+    return header;
+}
+
 bool wants(const DocumentPropertyHeader& header, DWORD mode)
 {
     return (header.fMode & mode) != 0;
@@ -60,55 +76,79 @@ bool wants(const DocumentPropertyHeader& header, DWORD mode)
 /// The printer's own settings, then what the application hands in.
 std::unique_ptr<ProductSession> openDocument(const DocumentPropertyHeader& header)
 {
-    auto session = openProductOf(header.hPrinter);
+    auto session = openProductOf(header.hPrinter, header.pszPrinterName);
     if (header.hPrinter != nullptr) {
         const auto defaults = printerDefaults(header.hPrinter);
         if (defaults.get() != nullptr) {
-            mergeDevMode(session->model(), *defaults.get()->pDevMode);
+            mergeDevMode(session->model(), bytesOf(*defaults.get()->pDevMode));
         }
     }
     if (wants(header, DM_IN_BUFFER) && header.pdmIn != nullptr) {
-        mergeDevMode(session->model(), *header.pdmIn);
+        mergeDevMode(session->model(), bytesOf(*header.pdmIn));
     }
     return session;
 }
 
+/// @throws std::runtime_error when the settings are more than the private part can hold.
 void writeDocument(IDataModel& model, const DocumentPropertyHeader& header)
 {
-    if (wants(header, DM_OUT_BUFFER) && header.pdmOut != nullptr) {
-        // Settings too large for the private part cannot come out of this model's package.
-        writeDevMode(model, header.pszPrinterName, *header.pdmOut);
+    if (wants(header, DM_OUT_BUFFER) && header.pdmOut != nullptr &&
+        !writeDevMode(model, header.pszPrinterName, bufferOf(*header.pdmOut))) {
+        throw std::runtime_error("The settings are more than a document can carry. Only paper, "
+                                 "copies and the like are kept.");
     }
 }
 
 /// Size, defaults and merging, without a UI.
-LONG answerDocument(DocumentPropertyHeader& header)
+LONG answerDocument(LPARAM parameter)
 {
-    if (header.fMode == 0 || header.pdmOut == nullptr) {
-        header.cbOut = kDevModeSize;
+    auto* const header = headerOf<DocumentPropertyHeader>(parameter);
+    if (header == nullptr) {
+        return kFailed;
+    }
+    header->cbOut = kDevModeSize;
+    if (header->fMode == 0 || header->pdmOut == nullptr) {
         return static_cast<LONG>(kDevModeSize);
     }
-    writeDocument(openDocument(header)->model(), header);
-    header.cbOut = kDevModeSize;
+    writeDocument(openDocument(*header)->model(), *header);
     return kDone;
 }
 
+/// Nothing, with a last error, when no sheet is asked for.
 std::unique_ptr<DriverSheet> documentSheet(LPARAM parameter)
 {
-    auto* const header = reinterpret_cast<DocumentPropertyHeader*>(parameter);
+    auto* const header = headerOf<DocumentPropertyHeader>(parameter);
+    if (header == nullptr || !wants(*header, DM_IN_PROMPT)) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return nullptr;
+    }
+    auto session = openDocument(*header);
+    if (wants(*header, kDocumentNoPermission)) {
+        lockSettings(session->model());
+    }
+    const UIMode mode =
+        wants(*header, kUserDefaults) ? UIMode::PrintingDefaults : UIMode::PrintingPreferences;
     return std::make_unique<DriverSheet>(
-        openDocument(*header), UIMode::PrintingPreferences, header->pszPrinterName,
+        std::move(session), mode, header->pszPrinterName,
         [header](IDataModel& model) { writeDocument(model, *header); });
 }
 
+/// Users without the permission see the pages, locked, and nothing is stored.
 std::unique_ptr<DriverSheet> deviceSheet(LPARAM parameter)
 {
-    auto* const header = reinterpret_cast<DevicePropertyHeader*>(parameter);
+    auto* const header = headerOf<DevicePropertyHeader>(parameter);
+    if (header == nullptr) {
+        return nullptr;
+    }
+    const bool locked = (header->Flags & kNoPermission) != 0;
+    auto session = openProductOf(header->hPrinter, header->pszPrinterName);
+    if (locked) {
+        lockSettings(session->model());
+    }
     return std::make_unique<DriverSheet>(
-        openProductOf(header->hPrinter), UIMode::DeviceSettings, header->pszPrinterName,
-        [header](IDataModel& model) {
-            if ((header->Flags & kNoPermission) == 0 &&
-                !storeDeviceSettings(header->hPrinter, model)) {
+        std::move(session), UIMode::DeviceSettings, header->pszPrinterName,
+        [header, locked](IDataModel& model) {
+            if (!locked && !storeDeviceSettings(header->hPrinter, model)) {
                 throw std::runtime_error("The print system did not keep the device settings.");
             }
         });
@@ -119,6 +159,9 @@ using SheetFactory = std::unique_ptr<DriverSheet> (*)(LPARAM);
 LONG beginSheet(PROPSHEETUI_INFO& info, SheetFactory make)
 {
     auto sheet = make(info.lParamInit);
+    if (!sheet) {
+        return kFailed;
+    }
     sheet->addPages(info);
     info.UserData = reinterpret_cast<ULONG_PTR>(sheet.release());
     info.Result = CPSUI_CANCEL;
@@ -151,23 +194,30 @@ LONG sheetStep(PROPSHEETUI_INFO& info, LPARAM parameter, SheetFactory make)
     }
 }
 
+bool isConversion(DWORD mode, const DEVMODEW* in)
+{
+    return mode == kDriverDefault ||
+           ((mode == kConvert || mode == kConvertToOldest) && in != nullptr);
+}
+
 BOOL convert(LPCWSTR printerName, PDEVMODEW in, PDEVMODEW out, DWORD& size, DWORD mode)
 {
     const DWORD room = size;
     size = kDevModeSize;
+    if (!isConversion(mode, in)) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return FALSE;
+    }
     if (out == nullptr || room < kDevModeSize) {
         SetLastError(ERROR_INSUFFICIENT_BUFFER);
         return FALSE;
     }
-    if (mode != kDriverDefault && mode != kConvert && mode != kConvertToOldest) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
+    const PrinterHandle printer(printerName);
+    const auto session = openProductOf(printer.get(), printerName);
+    if (mode != kDriverDefault) {
+        mergeDevMode(session->model(), bytesOf(*in));
     }
-    const auto session = openProductOf(nullptr);
-    if (mode != kDriverDefault && in != nullptr) {
-        mergeDevMode(session->model(), *in);
-    }
-    return writeDevMode(session->model(), printerName, *out);
+    return writeDevMode(session->model(), printerName, bufferOf(*out));
 }
 
 } // namespace
@@ -178,10 +228,8 @@ LONG WINAPI DrvDocumentPropertySheets(PPROPSHEETUI_INFO info, LPARAM parameter) 
     using namespace o7;
     return guarded(L"DrvDocumentPropertySheets",
                    info == nullptr ? Report::ToDebugger : Report::ToUser, kFailed, [&] {
-                       return info == nullptr
-                                  ? answerDocument(
-                                        *reinterpret_cast<DocumentPropertyHeader*>(parameter))
-                                  : sheetStep(*info, parameter, documentSheet);
+                       return info == nullptr ? answerDocument(parameter)
+                                              : sheetStep(*info, parameter, documentSheet);
                    });
 }
 
@@ -189,16 +237,25 @@ LONG WINAPI DrvDevicePropertySheets(PPROPSHEETUI_INFO info, LPARAM parameter) no
 {
     using namespace o7;
     return guarded(L"DrvDevicePropertySheets", Report::ToUser, kFailed, [&] {
-        return info == nullptr ? kFailed : sheetStep(*info, parameter, deviceSheet);
+        if (info == nullptr) {
+            SetLastError(ERROR_INVALID_PARAMETER);
+            return kFailed;
+        }
+        return sheetStep(*info, parameter, deviceSheet);
     });
 }
 
-DWORD WINAPI DrvDeviceCapabilities(HANDLE printer, PWSTR, WORD capability, PVOID output,
-                                   PDEVMODEW) noexcept
+DWORD WINAPI DrvDeviceCapabilities(HANDLE printer, PWSTR deviceName, WORD capability, PVOID output,
+                                   PDEVMODEW devMode) noexcept
 {
     using namespace o7;
-    return guarded(L"DrvDeviceCapabilities", Report::ToDebugger, static_cast<DWORD>(kFailed), [&] {
-        return deviceCapability(openProductOf(printer)->model(), capability, output);
+    return guarded(L"DrvDeviceCapabilities", Report::ToDebugger, DWORD{kNotAnswered}, [&] {
+        const auto session = openProductOf(printer, deviceName);
+        // The fields are those of the settings at hand; everything else is the device's.
+        if (capability == DC_FIELDS && devMode != nullptr) {
+            mergeDevMode(session->model(), bytesOf(*devMode));
+        }
+        return DWORD{deviceCapability(session->model(), capability, output)};
     });
 }
 
@@ -213,4 +270,9 @@ BOOL WINAPI DrvConvertDevMode(LPCWSTR printerName, PDEVMODEW in, PDEVMODEW out, 
         }
         return convert(printerName, in, out, *size, mode);
     });
+}
+
+void O7SetPrinterStandIn(o7::PrinterStandIn* standIn) noexcept
+{
+    o7::setPrinterStandIn(standIn);
 }

@@ -11,6 +11,10 @@
 
 #define O7_DRIVER_ENTRY extern "C" __declspec(dllexport)
 
+namespace o7 {
+class PrinterStandIn;
+}
+
 O7_DRIVER_ENTRY LONG WINAPI DrvDocumentPropertySheets(PPROPSHEETUI_INFO info,
                                                       LPARAM parameter) noexcept;
 O7_DRIVER_ENTRY LONG WINAPI DrvDevicePropertySheets(PPROPSHEETUI_INFO info,
@@ -20,3 +24,6 @@ O7_DRIVER_ENTRY DWORD WINAPI DrvDeviceCapabilities(HANDLE printer, PWSTR deviceN
                                                    PDEVMODEW devMode) noexcept;
 O7_DRIVER_ENTRY BOOL WINAPI DrvConvertDevMode(LPCWSTR printerName, PDEVMODEW in, PDEVMODEW out,
                                               PDWORD size, DWORD mode) noexcept;
+
+/// Of the working module alone, and not for the print system: see PrinterStandIn.
+O7_DRIVER_ENTRY void O7SetPrinterStandIn(o7::PrinterStandIn* standIn) noexcept;

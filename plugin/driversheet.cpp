@@ -3,7 +3,9 @@
 #include <new>
 #include <utility>
 
+#include "printerstandin.h"
 #include "uimanager.h"
+#include "uistringnumbers.h"
 
 namespace o7 {
 namespace {
@@ -16,6 +18,18 @@ constexpr DataModelIds::EventEnum kAcceptingEvents[] = {DataModelIds::kEventOk,
 SRWLOCK g_lock = SRWLOCK_INIT;
 DriverSheet* g_first = nullptr;
 
+/// "<printer> – Printing Preferences", in the language of the pages.
+std::wstring captionOf(ProductSession& session, UIMode mode, const wchar_t* printerName)
+{
+    const unsigned caption = mode == UIMode::DeviceSettings     ? O7STR_CAPTION_DEVICE
+                             : mode == UIMode::PrintingDefaults ? O7STR_CAPTION_DEFAULTS
+                                                                : O7STR_CAPTION_PREFERENCES;
+    const CXString name =
+        printerName != nullptr ? CXString(printerName) : session.productData().GetModelName();
+    const CXString text = name + L" \u2013 " + session.strings().LoadStringW(caption);
+    return std::wstring(text.View());
+}
+
 class Locked
 {
 public:
@@ -27,11 +41,11 @@ public:
 
 } // namespace
 
-DriverSheet::DriverSheet(std::unique_ptr<ProductSession> session, UIMode mode, const wchar_t* title,
-                         Accepted accepted)
+DriverSheet::DriverSheet(std::unique_ptr<ProductSession> session, UIMode mode,
+                         const wchar_t* printerName, Accepted accepted)
     : m_session(std::move(session)),
       m_accepted(std::move(accepted)),
-      m_title(title != nullptr ? title : m_session->productData().GetModelName().c_str()),
+      m_title(captionOf(*m_session, mode, printerName)),
       m_manager(std::make_unique<UIManager>(m_session->productData(), nullptr, mode, 0,
                                             Workflow::Standard))
 {
@@ -84,6 +98,9 @@ void DriverSheet::addPages(const PROPSHEETUI_INFO& info)
         }
         throw;
     }
+    if (PrinterStandIn* const standIn = printerStandIn()) {
+        standIn->pagesAdded(*m_manager);
+    }
 }
 
 LONG_PTR CALLBACK DriverSheet::addAndRemember(HANDLE sheet, UINT function, LPARAM first,
@@ -113,7 +130,7 @@ void DriverSheet::remember(LONG_PTR page) noexcept
 void DriverSheet::fillHeader(PROPSHEETUI_INFO_HEADER& header) const
 {
     header.pTitle = const_cast<wchar_t*>(m_title.c_str());
-    header.Flags = PSUIHDRF_PROPTITLE;
+    header.Flags = PSUIHDRF_EXACT_PTITLE;
 }
 
 void DriverSheet::ProcessNotification(const INotification&, unsigned int)

@@ -25,9 +25,9 @@ public:
     /// Called when the settings of the model were accepted; may throw.
     using Accepted = std::function<void(IDataModel&)>;
 
-    /// @param session   with the settings that the pages shall show.
-    /// @param title     of the sheet; the print system adds its own word for properties.
-    DriverSheet(std::unique_ptr<ProductSession> session, UIMode mode, const wchar_t* title,
+    /// @param session      with the settings that the pages shall show.
+    /// @param printerName  for the sheet's caption; null: the model's name.
+    DriverSheet(std::unique_ptr<ProductSession> session, UIMode mode, const wchar_t* printerName,
                 Accepted accepted);
     ~DriverSheet() override;
 

@@ -46,3 +46,9 @@ extern "C" __declspec(dllexport) BOOL WINAPI DrvPrinterEvent(LPWSTR, INT, DWORD,
 {
     return TRUE;
 }
+
+/// Nor when the driver is installed or removed.
+extern "C" __declspec(dllexport) BOOL WINAPI DrvDriverEvent(DWORD, DWORD, LPBYTE, LPARAM) noexcept
+{
+    return TRUE;
+}

@@ -35,6 +35,10 @@ struct DevicePropertyHeader
 /// Flag of DevicePropertyHeader: the user may look but not change.
 inline constexpr WORD kNoPermission = 0x0001;
 
+/// Further bits of DocumentPropertyHeader::fMode.
+inline constexpr DWORD kDocumentNoPermission = 0x0020; ///< the user may look but not change
+inline constexpr DWORD kUserDefaults = 0x0040; ///< the settings that new documents start with
+
 /// Reasons that the headers do not have (`PROPSHEETUI_INFO::Reason`).
 inline constexpr WORD kReasonBeforeInit = 5;
 

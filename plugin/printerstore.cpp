@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "idatamodel.h"
+#include "printerstandin.h"
 
 namespace o7 {
 namespace {
@@ -17,6 +18,9 @@ wchar_t g_valueName[] = L"O7DeviceSettings";
 void loadDeviceSettings(HANDLE printer, IDataModel& model)
 {
     if (printer == nullptr) {
+        if (PrinterStandIn* const standIn = printerStandIn()) {
+            standIn->loadDeviceSettings(model);
+        }
         return;
     }
     std::vector<std::uint8_t> block(kSettingsBlockLimit);
@@ -31,6 +35,10 @@ void loadDeviceSettings(HANDLE printer, IDataModel& model)
 
 bool storeDeviceSettings(HANDLE printer, const IDataModel& model)
 {
+    if (printer == nullptr) {
+        PrinterStandIn* const standIn = printerStandIn();
+        return standIn != nullptr && standIn->storeDeviceSettings(model);
+    }
     std::vector<std::uint8_t> block;
     if (!model.ExportSettings(block)) {
         SetLastError(ERROR_INSUFFICIENT_BUFFER);

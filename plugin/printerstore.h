@@ -10,11 +10,10 @@ namespace o7 {
 
 /// What is installed in the device is kept with the printer (`GetPrinterData`, value
 /// "O7DeviceSettings", as the block that the data model exports) and so is the same for all users
-/// and documents.
+/// and documents. Without a printer handle the process's stand-in is asked, when it has one.
 
 /// Takes the printer's stored device settings into the model. Without any, or with damaged ones,
 /// the model stays as it is.
-/// @param printer  may be null: nothing happens.
 void loadDeviceSettings(HANDLE printer, IDataModel& model);
 
 /// Keeps the accepted settings of the model with the printer.

@@ -11,8 +11,8 @@ constexpr std::uint32_t kVersion = 1;
 constexpr std::size_t kSignatureAt = 0;
 constexpr std::size_t kVersionAt = 4; // version and header size in one number
 constexpr std::size_t kBlockSizeAt = 8;
-constexpr std::uint32_t kVersionAndHeader =
-    kVersion | static_cast<std::uint32_t>(kPrivateHeaderSize) << 16;
+constexpr unsigned kHeaderSizeShift = 16;
+constexpr std::uint32_t kVersionMask = 0xFFFF;
 
 void put(std::span<std::uint8_t> bytes, std::size_t at, std::uint32_t number)
 {
@@ -41,7 +41,8 @@ bool writePrivatePart(std::span<std::uint8_t, kPrivatePartSize> part,
     }
     std::ranges::fill(part, std::uint8_t{0});
     put(part, kSignatureAt, kSignature);
-    put(part, kVersionAt, kVersionAndHeader);
+    put(part, kVersionAt,
+        kVersion | static_cast<std::uint32_t>(kPrivateHeaderSize) << kHeaderSizeShift);
     put(part, kBlockSizeAt, static_cast<std::uint32_t>(block.size()));
     std::ranges::copy(block, part.begin() + kPrivateHeaderSize);
     return fits;
@@ -50,14 +51,15 @@ bool writePrivatePart(std::span<std::uint8_t, kPrivatePartSize> part,
 std::span<const std::uint8_t> readPrivatePart(std::span<const std::uint8_t> part)
 {
     if (part.size() < kPrivateHeaderSize || get(part, kSignatureAt) != kSignature ||
-        get(part, kVersionAt) != kVersionAndHeader) {
+        (get(part, kVersionAt) & kVersionMask) != kVersion) {
         return {};
     }
+    const std::size_t header = get(part, kVersionAt) >> kHeaderSizeShift;
     const std::size_t size = get(part, kBlockSizeAt);
-    if (size > part.size() - kPrivateHeaderSize) {
+    if (header < kPrivateHeaderSize || header > part.size() || size > part.size() - header) {
         return {};
     }
-    return part.subspan(kPrivateHeaderSize, size);
+    return part.subspan(header, size);
 }
 
 } // namespace o7

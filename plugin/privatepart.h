@@ -3,7 +3,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
-#include <vector>
 
 namespace o7 {
 
@@ -12,7 +11,7 @@ namespace o7 {
 ///
 ///     0  4  signature "O7DM"
 ///     4  2  version of this layout
-///     6  2  size of this header
+///     6  2  size of this header; a later one may only be longer
 ///     8  4  size of the block
 ///    12  4  0
 ///    16     the block (which carries its own version and checksum), then zeros
@@ -20,8 +19,8 @@ namespace o7 {
 /// A DEVMODE is kept by applications in documents and by the system in the registry, so a part may
 /// be old, cut off, of another driver, or garbage.
 inline constexpr std::size_t kPrivateHeaderSize = 16;
-inline constexpr std::size_t kPrivateBlockCapacity = 4096;
-inline constexpr std::size_t kPrivatePartSize = kPrivateHeaderSize + kPrivateBlockCapacity;
+inline constexpr std::size_t kPrivatePartSize = 8192;
+inline constexpr std::size_t kPrivateBlockCapacity = kPrivatePartSize - kPrivateHeaderSize;
 
 /// Fills the whole part, every byte of it.
 /// @return false, with a valid part that holds no block, when the block does not fit.

@@ -5,8 +5,11 @@
 #include <vector>
 
 #include "dlldelayloader.h"
+#include "packagecache.h"
+#include "printerstandin.h"
 #include "printerstore.h"
 #include "printsystemrecord.h"
+#include "productfeatures.h"
 #include "throworvik.h"
 
 namespace o7 {
@@ -63,26 +66,33 @@ fs::path driverDataFile(HANDLE printer)
                : fs::path(driver.get()->pDataFile);
 }
 
-std::unique_ptr<ProductSession> openProductOf(HANDLE printer)
+std::unique_ptr<ProductSession> openProductOf(HANDLE printer, const wchar_t* printerName)
 {
     constexpr wchar_t kName[] = L"OrvikException";
+    const PrinterStandIn* const standIn = printer == nullptr ? printerStandIn() : nullptr;
     const std::wstring folder = folderOfThisModule();
-    const fs::path package = findPackage(folder, driverDataFile(printer));
+    const fs::path package = standIn != nullptr ? fs::path(standIn->package())
+                                                : findPackage(folder, driverDataFile(printer));
     if (package.empty()) {
         throwOrvik(GetOrvikException, kName, {L"o7::openProductOf"},
                    L"There is no product package in %s.", folder.c_str());
     }
-    std::vector<CXString> errors;
-    auto session = ProductSession::open(package, CXString(), errors);
-    if (!session) {
+    std::vector<PackageError> errors;
+    const auto loaded = cachedPackage(package, errors);
+    if (!loaded) {
         CXString text;
-        for (const CXString& error : errors) {
-            text += error;
+        for (const PackageError& error : errors) {
+            text += CXString::FromUtf8(error.ToString());
             text += L"\n";
         }
         throwOrvik(GetOrvikException, kName, {L"o7::openProductOf"}, L"%s", text.c_str());
     }
+    auto session = ProductSession::open(loaded, standIn != nullptr ? standIn->language() : L"");
     loadDeviceSettings(printer, session->model());
+    if (printerName != nullptr && *printerName != L'\0') {
+        session->model().GetOptionFeatureRef(kPrinterName).SetValue(CXString(printerName));
+        session->model().CommitAccepted();
+    }
     return session;
 }
 

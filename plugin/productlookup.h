@@ -21,10 +21,12 @@ std::filesystem::path findPackage(const std::filesystem::path& folder,
 /// The driver's data file of a printer; empty when it cannot be asked.
 std::filesystem::path driverDataFile(HANDLE printer);
 
-/// The product of this printer with the language of the user's desktop and the printer's own
-/// device settings.
-/// @param printer  may be null.
+/// The product of this printer with the language of the user's desktop, the printer's own device
+/// settings, and its name as the value of the feature that names the printer.
+/// @param printer      null: the product of the process's stand-in, or the one that is found
+///                     without knowing the driver's data file.
+/// @param printerName  may be null: the package's own name stays.
 /// @throws OrvikException with every fault of the package, or saying that there is none.
-std::unique_ptr<ProductSession> openProductOf(HANDLE printer);
+std::unique_ptr<ProductSession> openProductOf(HANDLE printer, const wchar_t* printerName);
 
 } // namespace o7

@@ -1,214 +1,420 @@
 #include "publicfields.h"
 
 #include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <functional>
 #include <optional>
-#include <span>
+#include <vector>
 
 #include "productfeatures.h"
+#include "systemnumbers.h"
 
 namespace o7 {
 namespace {
 
-/// One value of an option feature and the number by which applications know it.
-struct ValueRow
-{
-    int value;
-    short number;
-};
+constexpr auto kQuietly = FeatureRef::kDoNotAssertIfUnsupported;
+/// Applications round lengths in their own units.
+constexpr int kToleranceTenths = 10;
 
-// Of several rows with one value the first is written; of several with one number the first that
-// the product accepts is read.
-// clang-format off
-constexpr ValueRow kOrientations[] = {
-    {5145, DMORIENT_PORTRAIT},
-    {5146, DMORIENT_LANDSCAPE},
-};
-constexpr ValueRow kPapers[] = {
-    {5110, DMPAPER_A3},
-    {5111, DMPAPER_A4},
-    {5111, DMPAPER_A4SMALL},
-    {5112, DMPAPER_A5},
-    {5113, DMPAPER_LETTER},
-    {5113, DMPAPER_LETTERSMALL},
-    {5114, DMPAPER_LEGAL},
-    {5115, DMPAPER_11X17},
-    {5115, DMPAPER_TABLOID},
-    {5116, DMPAPER_ENV_DL},
-    {5117, DMPAPER_ENV_C5},
-};
-constexpr ValueRow kBins[] = {
-    {5120, DMBIN_AUTO},
-    {5120, DMBIN_FORMSOURCE},
-    {5121, DMBIN_USER + 1},
-    {5122, DMBIN_USER + 2},
-    {5123, DMBIN_USER + 3},
-    {5124, DMBIN_USER + 4},
-    {5125, DMBIN_MANUAL},
-};
-constexpr ValueRow kDuplexModes[] = {
-    {5140, DMDUP_SIMPLEX},
-    {5141, DMDUP_VERTICAL},
-    {5142, DMDUP_HORIZONTAL},
-};
-constexpr ValueRow kColours[] = {
-    {5150, DMCOLOR_COLOR},
-    {5151, DMCOLOR_COLOR},
-    {5152, DMCOLOR_MONOCHROME},
-};
-constexpr ValueRow kResolutions[] = {
-    {5190, 600},
-    {5191, 1200},
-};
-constexpr ValueRow kMedia[] = {
-    {5130, DMMEDIA_STANDARD},
-    {5131, DMMEDIA_USER + 1},
-    {5132, DMMEDIA_USER + 2},
-    {5133, DMMEDIA_GLOSSY},
-    {5134, DMMEDIA_USER + 3},
-    {5135, DMMEDIA_TRANSPARENCY},
-    {5136, DMMEDIA_USER + 4},
-};
-
-short fromDword(DWORD number) { return static_cast<short>(number); }
-// clang-format on
-
-/// One field that stands for an option feature. Fields differ in type and some share storage, hence
-/// functions and not pointers to members.
 struct FieldRow
 {
-    DWORD bits; ///< in dmFields; all of them set when written, the first that is set is read
+    DocumentField field;
+    std::uint32_t bit; ///< in `fields`
     DataModelIds::tagFeatureEnum feature;
-    std::span<const ValueRow> values;
-    short (*read)(const DEVMODEW&);
-    void (*write)(DEVMODEW&, short);
+    int PublicFields::*number;
 };
 
+// The paper comes first: what does not go together with the paper that was asked for gives way.
 // clang-format off
 constexpr FieldRow kFields[] = {
-    {DM_ORIENTATION,   kOrientation, kOrientations,
-        [](const DEVMODEW& d) { return d.dmOrientation; },
-        [](DEVMODEW& d, short n) { d.dmOrientation = n; }},
-    {DM_PAPERSIZE,     kPaperSize,   kPapers,
-        [](const DEVMODEW& d) { return d.dmPaperSize; },
-        [](DEVMODEW& d, short n) { d.dmPaperSize = n; }},
-    {DM_DEFAULTSOURCE, kPaperTray,   kBins,
-        [](const DEVMODEW& d) { return d.dmDefaultSource; },
-        [](DEVMODEW& d, short n) { d.dmDefaultSource = n; }},
-    {DM_DUPLEX,        kSides,       kDuplexModes,
-        [](const DEVMODEW& d) { return d.dmDuplex; },
-        [](DEVMODEW& d, short n) { d.dmDuplex = n; }},
-    {DM_COLOR,         kColourMode,  kColours,
-        [](const DEVMODEW& d) { return d.dmColor; },
-        [](DEVMODEW& d, short n) { d.dmColor = n; }},
-    {DM_PRINTQUALITY,  kResolution,  kResolutions,
-        [](const DEVMODEW& d) { return d.dmPrintQuality; },
-        [](DEVMODEW& d, short n) { d.dmPrintQuality = n; d.dmYResolution = n;
-                                   d.dmFields |= DM_YRESOLUTION; }},
-    {DM_MEDIATYPE,     kPaperType,   kMedia,
-        [](const DEVMODEW& d) { return fromDword(d.dmMediaType); },
-        [](DEVMODEW& d, short n) { d.dmMediaType = static_cast<DWORD>(n); }},
+    {DocumentField::PaperSize,   kPaperSizeField,   kPaperSize,    &PublicFields::paperSize},
+    {DocumentField::Orientation, kOrientationField, kOrientation,  &PublicFields::orientation},
+    {DocumentField::Source,      kSourceField,      kPaperTray,    &PublicFields::source},
+    {DocumentField::Duplex,      kDuplexField,      kSides,        &PublicFields::duplex},
+    {DocumentField::Colour,      kColourField,      kColourMode,   &PublicFields::colour},
+    {DocumentField::Grade,       kQualityField,     kPrintQuality, &PublicFields::quality},
+    {DocumentField::Quality,     kQualityField,     kResolution,   &PublicFields::quality},
+    {DocumentField::MediaType,   kMediaTypeField,   kPaperType,    &PublicFields::mediaType},
 };
 // clang-format on
 
-std::optional<short> numberOf(std::span<const ValueRow> rows, int value)
+const FieldRow& rowOf(DocumentField field)
 {
-    const auto row = std::ranges::find(rows, value, &ValueRow::value);
-    return row == rows.end() ? std::nullopt : std::optional(row->number);
+    return *std::ranges::find(kFields, field, &FieldRow::field);
 }
 
-/// True when the feature says (now) what the field says.
-bool followField(const FieldRow& field, const ListOfFeaturesRef& features, const DEVMODEW& devMode)
+template <class Visit> void forEachOption(const OptionFeatureRef& feature, Visit visit)
 {
-    OptionFeatureRef feature = features.GetOptionFeature(FeatureId(field.feature));
-    const short wanted = field.read(devMode);
-    if (numberOf(field.values, feature.GetValue().GetValueEnum()) == wanted) {
+    const auto options = feature.GetOptionCapabilities();
+    for (std::size_t i = 0; i < options->GetNumberOfValues(); ++i) {
+        visit(options->GetOptionWithState(i));
+    }
+}
+
+/// The options that satisfy a predicate, in the product's order.
+template <class Predicate>
+std::vector<ValueId> optionsWhere(const OptionFeatureRef& feature, Predicate predicate)
+{
+    std::vector<ValueId> values;
+    forEachOption(feature, [&](const OptionWithState& option) {
+        if (predicate(option.GetValueId())) {
+            values.push_back(option.GetValueId());
+        }
+    });
+    return values;
+}
+
+/// True when the feature takes one of the values.
+bool setFirstOf(OptionFeatureRef feature, const std::vector<ValueId>& values)
+{
+    return std::ranges::any_of(values,
+                               [&](const ValueId& value) { return feature.SetValue(value); });
+}
+
+/// True when the feature says (now) what the number says.
+bool followNumber(const OptionFeatureRef& feature, DocumentField field, int wanted)
+{
+    return systemNumber(field, feature.GetValue()) == wanted ||
+           setFirstOf(feature, optionsWhere(feature,
+                                            [&](const ValueId& value) {
+                                                return systemNumber(field, value) == wanted;
+                                            })) ||
+           setFirstOf(feature, optionsWhere(feature, [&](const ValueId& value) {
+                          return isOtherNumber(field, value, wanted);
+                      }));
+}
+
+int tenths(const Dimension& length)
+{
+    return static_cast<int>(
+        std::lround(length.GetDoubleValue(Dimension::UnitsEnum::TenthOfMillimetre)));
+}
+
+DimensionFeatureRef dimension(const ListOfFeaturesRef& features, DataModelIds::tagFeatureEnum id)
+{
+    return features.GetDimensionFeature(FeatureId(id));
+}
+
+bool isSize(const PaperSize& size, int width, int length)
+{
+    const auto near = [](int a, int b) { return std::abs(a - b) <= kToleranceTenths; };
+    return size.width > 0 && ((near(size.width, width) && near(size.height, length)) ||
+                              (near(size.width, length) && near(size.height, width)));
+}
+
+// --- the paper --------------------------------------------------------------------------------
+
+enum class PaperWish
+{
+    None,
+    Lengths,
+    Number,
+    Name,
+};
+
+bool saysAlready(PaperWish wish, const ListOfFeaturesRef& features, const PublicFields& fields)
+{
+    const ValueId paper = featureOf(features, DocumentField::PaperSize).GetValue();
+    switch (wish) {
+    case PaperWish::Lengths:
+        return isSize(sizeOfPaper(features, paper), fields.paperWidth, fields.paperLength);
+    case PaperWish::Number:
+        return systemNumber(DocumentField::PaperSize, paper) == fields.paperSize;
+    case PaperWish::Name:
+        return paper.GetDisplayString().Left(static_cast<int>(kNameLength) - 1) == fields.formName;
+    case PaperWish::None:
+        break;
+    }
+    return false;
+}
+
+PaperWish paperWish(const ListOfFeaturesRef& features, const PublicFields& fields, bool inStep)
+{
+    const bool lengths = fields.has(kPaperLengthField | kPaperWidthField) &&
+                         fields.paperLength > 0 && fields.paperWidth > 0;
+    const struct
+    {
+        PaperWish wish;
+        bool made;
+    } rows[] = {{PaperWish::Lengths, lengths},
+                {PaperWish::Number, fields.has(kPaperSizeField) && fields.paperSize > 0},
+                {PaperWish::Name, fields.has(kFormNameField) && !fields.formName.IsEmpty()}};
+    for (const auto& row : rows) {
+        if (row.made && !(inStep && saysAlready(row.wish, features, fields))) {
+            return row.wish;
+        }
+    }
+    return PaperWish::None;
+}
+
+/// The size that the package states for a paper.
+std::optional<PaperSize> fixedSize(const ListOfFeaturesRef& features, const ValueId& paper)
+{
+    std::optional<PaperSize> size;
+    forEachOption(featureOf(features, DocumentField::PaperSize), [&](const OptionWithState&
+                                                                         option) {
+        if (option.GetValueId() == paper && option.GetMediaSize()) {
+            size = {tenths(option.GetMediaSize()->width), tenths(option.GetMediaSize()->height)};
+        }
+    });
+    return size;
+}
+
+/// Chooses a paper without a size of its own, with these lengths.
+bool setCustomSize(const ListOfFeaturesRef& features, const ValueId& paper, int width, int length)
+{
+    const auto set = [&](DataModelIds::tagFeatureEnum id, int size) {
+        return dimension(features, id)
+            .SetValue(Dimension(size, Dimension::UnitsEnum::TenthOfMillimetre));
+    };
+    const PaperSize before = sizeOfPaper(features, kCustomPaper);
+    if (set(kCustomWidth, width) && set(kCustomLength, length) &&
+        featureOf(features, DocumentField::PaperSize).SetValue(paper)) {
         return true;
     }
-    return std::ranges::any_of(field.values, [&](const ValueRow& row) {
-        return row.number == wanted &&
-               feature.SetValue(ValueId(static_cast<DataModelIds::tagValueEnum>(row.value)));
+    set(kCustomWidth, before.width);
+    set(kCustomLength, before.height);
+    return false;
+}
+
+/// The paper that the number means, when it has that size or can have any.
+bool followNumberOfSize(const ListOfFeaturesRef& features, const PublicFields& fields)
+{
+    OptionFeatureRef papers = featureOf(features, DocumentField::PaperSize);
+    const auto meant = optionsWhere(papers, [&](const ValueId& paper) {
+        return fields.has(kPaperSizeField) &&
+               systemNumber(DocumentField::PaperSize, paper) == fields.paperSize;
+    });
+    return std::ranges::any_of(meant, [&](const ValueId& paper) {
+        const auto size = fixedSize(features, paper);
+        return size ? isSize(*size, fields.paperWidth, fields.paperLength) && papers.SetValue(paper)
+                    : setCustomSize(features, paper, fields.paperWidth, fields.paperLength);
     });
 }
 
-/// Several fields may depend on each other through constraints (the paper on the tray), whatever
-/// their order: what was refused is tried again as long as another field got its way.
-void readOptionFields(const ListOfFeaturesRef& features, const DEVMODEW& devMode)
+/// The paper that the number means too, else any paper of that size, else the custom size.
+bool followLengths(const ListOfFeaturesRef& features, const PublicFields& fields)
 {
-    std::vector<const FieldRow*> open;
-    for (const FieldRow& field : kFields) {
-        if ((devMode.dmFields & field.bits) != 0) {
-            open.push_back(&field);
+    if (followNumberOfSize(features, fields) || saysAlready(PaperWish::Lengths, features, fields)) {
+        return true;
+    }
+    const OptionFeatureRef papers = featureOf(features, DocumentField::PaperSize);
+    const auto fitting = optionsWhere(papers, [&](const ValueId& paper) {
+        return isSize(fixedSize(features, paper).value_or(PaperSize{}), fields.paperWidth,
+                      fields.paperLength);
+    });
+    if (!fitting.empty()) {
+        return setFirstOf(papers, fitting);
+    }
+    return setCustomSize(features, kCustomPaper, fields.paperWidth, fields.paperLength) ||
+           (fields.has(kPaperSizeField) &&
+            followNumber(papers, DocumentField::PaperSize, fields.paperSize));
+}
+
+bool followFormName(const ListOfFeaturesRef& features, const PublicFields& fields)
+{
+    const OptionFeatureRef papers = featureOf(features, DocumentField::PaperSize);
+    return setFirstOf(papers, optionsWhere(papers, [&](const ValueId& paper) {
+                          return paper.GetDisplayString().Left(static_cast<int>(kNameLength) - 1) ==
+                                 fields.formName;
+                      }));
+}
+
+bool followPaper(PaperWish wish, const ListOfFeaturesRef& features, const PublicFields& fields)
+{
+    switch (wish) {
+    case PaperWish::Lengths:
+        return followLengths(features, fields);
+    case PaperWish::Number:
+        return followNumber(featureOf(features, DocumentField::PaperSize), DocumentField::PaperSize,
+                            fields.paperSize);
+    case PaperWish::Name:
+        return followFormName(features, fields);
+    case PaperWish::None:
+        break;
+    }
+    return true;
+}
+
+void writePaper(const ListOfFeaturesRef& features, PublicFields& fields)
+{
+    const ValueId paper = featureOf(features, DocumentField::PaperSize).GetValue();
+    const PaperSize size = sizeOfPaper(features, paper);
+    // The field is a short; a roll may be longer.
+    constexpr int kLongest = 32767;
+    const bool isUsers = paper.GetValueEnum() >= DataModelIds::kValueFirstUserText;
+    if (size.width > 0 && size.height <= kLongest && !isUsers) {
+        fields.paperWidth = size.width;
+        fields.paperLength = size.height;
+        if (fields.paperSize >= kFirstOwnPaper) {
+            fields.fields |= kPaperWidthField | kPaperLengthField;
         }
     }
-    for (std::size_t before = 0; before != open.size();) {
-        before = open.size();
-        std::erase_if(
-            open, [&](const FieldRow* field) { return followField(*field, features, devMode); });
+    if (!paper.GetValueName().IsEmpty()) {
+        fields.formName = paper.GetDisplayString();
+        fields.fields |= kFormNameField;
     }
+}
+
+// --- scaling ----------------------------------------------------------------------------------
+
+IntegerFeatureRef percent(const ListOfFeaturesRef& features)
+{
+    return features.GetIntegerFeature(FeatureId(kScalePercent));
+}
+
+/// Per cent, or 0 for a product that cannot scale by a number.
+int scaleOf(const ListOfFeaturesRef& features)
+{
+    int number = 0;
+    const ValueId mode = features.GetOptionFeature(FeatureId(kScaling)).GetValue();
+    if (!percent(features).GetValue(number, kQuietly)) {
+        return 0;
+    }
+    return mode == kScaleByPercentage ? number : 100;
+}
+
+bool followScale(const ListOfFeaturesRef& features, int wanted)
+{
+    if (scaleOf(features) == wanted) {
+        return true;
+    }
+    OptionFeatureRef mode = features.GetOptionFeature(FeatureId(kScaling));
+    if (wanted == 100) {
+        return mode.SetValue(kNoScaling);
+    }
+    const ValueId before = mode.GetValue();
+    if (!mode.SetValue(kScaleByPercentage)) {
+        return false;
+    }
+    if (percent(features).SetValue(wanted)) {
+        return true;
+    }
+    mode.SetValue(before);
+    return false;
+}
+
+void writeScale(const ListOfFeaturesRef& features, PublicFields& fields)
+{
+    fields.scale = scaleOf(features);
+    if (fields.scale != 0) {
+        fields.fields |= kScaleField;
+    }
+}
+
+// --- copies -----------------------------------------------------------------------------------
+
+void writeCopies(const ListOfFeaturesRef& features, PublicFields& fields)
+{
+    if (features.GetIntegerFeature(FeatureId(kCopies)).GetValue(fields.copies, kQuietly)) {
+        fields.fields |= kCopiesField;
+    }
+    bool collate = false;
+    if (features.GetBooleanFeature(FeatureId(kCollate)).GetValue(collate, kQuietly)) {
+        fields.collate = collate ? 1 : 0;
+        fields.fields |= kCollateField;
+    }
+}
+
+bool followCollate(const ListOfFeaturesRef& features, int wanted)
+{
+    // Any other number is no answer to a question of yes and no.
+    return (wanted == 0 || wanted == 1) &&
+           features.GetBooleanFeature(FeatureId(kCollate)).SetValue(wanted == 1);
+}
+
+/// Whether the row's field is the one that `quality` means: dots when positive, else a grade.
+bool isMeant(const FieldRow& row, const PublicFields& fields)
+{
+    return row.field == DocumentField::Grade     ? fields.quality < 0
+           : row.field == DocumentField::Quality ? fields.quality > 0
+                                                 : row.field != DocumentField::PaperSize;
 }
 
 } // namespace
 
-void writePublicFields(const ListOfFeaturesRef& features, DEVMODEW& devMode)
+OptionFeatureRef featureOf(const ListOfFeaturesRef& features, DocumentField field)
 {
-    for (const FieldRow& field : kFields) {
-        const ValueId value = features.GetOptionFeature(FeatureId(field.feature)).GetValue();
-        if (const auto number = numberOf(field.values, value.GetValueEnum())) {
-            field.write(devMode, *number);
-            devMode.dmFields |= field.bits;
+    return features.GetOptionFeature(FeatureId(rowOf(field).feature));
+}
+
+PaperSize sizeOfPaper(const ListOfFeaturesRef& features, const ValueId& paper)
+{
+    if (const auto size = fixedSize(features, paper)) {
+        return *size;
+    }
+    Dimension width;
+    Dimension length;
+    return dimension(features, kCustomWidth).GetValue(width, kQuietly) &&
+                   dimension(features, kCustomLength).GetValue(length, kQuietly)
+               ? PaperSize{tenths(width), tenths(length)}
+               : PaperSize{};
+}
+
+PaperSize customLimit(const ListOfFeaturesRef& features, bool largest)
+{
+    const auto limit = [&](DataModelIds::tagFeatureEnum id) {
+        Dimension low;
+        Dimension high;
+        const bool limited =
+            dimension(features, id).GetRangeOfDimensionCapabilities()->GetRangeValues(low, high);
+        return limited ? tenths(largest ? high : low) : 0;
+    };
+    return {limit(kCustomWidth), limit(kCustomLength)};
+}
+
+PublicFields publicFields(const ListOfFeaturesRef& features)
+{
+    PublicFields fields;
+    for (const FieldRow& row : kFields) {
+        // The last row of a field has its way: dots rather than a grade.
+        const ValueId value = features.GetOptionFeature(FeatureId(row.feature)).GetValue();
+        if (const auto number = systemNumber(row.field, value)) {
+            fields.*row.number = *number;
+            fields.fields |= row.bit;
         }
     }
-    int copies = 0;
-    if (features.GetIntegerFeature(FeatureId(kCopies))
-            .GetValue(copies, FeatureRef::kDoNotAssertIfUnsupported)) {
-        devMode.dmCopies = static_cast<short>(copies);
-        devMode.dmFields |= DM_COPIES;
+    const ValueId resolution = featureOf(features, DocumentField::Quality).GetValue();
+    if (const auto dots = resolutionOf(resolution.GetValueName())) {
+        fields.yResolution = dots->down;
+        fields.fields |= kYResolutionField;
     }
-    bool collate = false;
-    if (features.GetBooleanFeature(FeatureId(kCollate))
-            .GetValue(collate, FeatureRef::kDoNotAssertIfUnsupported)) {
-        devMode.dmCollate = collate ? DMCOLLATE_TRUE : DMCOLLATE_FALSE;
-        devMode.dmFields |= DM_COLLATE;
-    }
+    writePaper(features, fields);
+    writeCopies(features, fields);
+    writeScale(features, fields);
+    return fields;
 }
 
-void readPublicFields(const ListOfFeaturesRef& features, const DEVMODEW& devMode)
+void followPublicFields(const ListOfFeaturesRef& features, const PublicFields& fields, bool inStep)
 {
-    if ((devMode.dmFields & DM_COPIES) != 0) {
-        features.GetIntegerFeature(FeatureId(kCopies)).SetValue(devMode.dmCopies);
-    }
-    if ((devMode.dmFields & DM_COLLATE) != 0) {
-        features.GetBooleanFeature(FeatureId(kCollate))
-            .SetValue(devMode.dmCollate == DMCOLLATE_TRUE);
-    }
-    readOptionFields(features, devMode);
-}
-
-std::vector<FieldChoice> fieldChoices(const ListOfFeaturesRef& features, DWORD field)
-{
-    std::vector<FieldChoice> choices;
-    const auto row = std::ranges::find(kFields, field, &FieldRow::bits);
-    if (row == std::end(kFields)) {
-        return choices;
-    }
-    const auto options = features.GetOptionFeature(FeatureId(row->feature)).GetOptionCapabilities();
-    for (std::size_t i = 0; i < options->GetNumberOfValues(); ++i) {
-        const OptionWithState& option = options->GetOptionWithState(i);
-        const auto number = numberOf(row->values, option.GetValueId().GetValueEnum());
-        if (number && !option.GetInterpretedState().IsHidden() &&
-            std::ranges::find(choices, *number, &FieldChoice::number) == choices.end()) {
-            choices.push_back({*number, option.GetOptionDisplayString()});
+    // Fields may depend on each other through constraints (the paper on the tray), whatever their
+    // order: what was refused is tried again as long as another field got its way.
+    std::vector<std::function<bool()>> open;
+    const PaperWish wish = paperWish(features, fields, inStep);
+    open.emplace_back([&, wish] { return followPaper(wish, features, fields); });
+    for (const FieldRow& row : kFields) {
+        if (fields.has(row.bit) && isMeant(row, fields)) {
+            open.emplace_back([&] {
+                return followNumber(features.GetOptionFeature(FeatureId(row.feature)), row.field,
+                                    fields.*row.number);
+            });
         }
     }
-    return choices;
-}
-
-int mostCopies(const ListOfFeaturesRef& features)
-{
-    const IntegerFeatureRef copies = features.GetIntegerFeature(FeatureId(kCopies));
-    return copies.IsSupported()
-               ? copies.GetRangeCapabilities()->GetLargestAndSmallestRangeValues().GetUpperBound()
-               : 1;
+    if (fields.has(kCopiesField)) {
+        open.emplace_back(
+            [&] { return features.GetIntegerFeature(FeatureId(kCopies)).SetValue(fields.copies); });
+    }
+    if (fields.has(kCollateField)) {
+        open.emplace_back([&] { return followCollate(features, fields.collate); });
+    }
+    if (fields.has(kScaleField) && fields.scale > 0) {
+        open.emplace_back([&] { return followScale(features, fields.scale); });
+    }
+    for (std::size_t before = 0; before != open.size();) {
+        before = open.size();
+        std::erase_if(open, [](const auto& follow) { return follow(); });
+    }
 }
 
 } // namespace o7

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <windows.h>
-
-#include <vector>
-
+#include "devmodelayout.h"
+#include "documentvalues.h"
 #include "listoffeaturesref.h"
 
 namespace o7 {
@@ -11,24 +9,34 @@ namespace o7 {
 /// The fields of a DEVMODE that every application knows, kept in step with the features that mean
 /// the same.
 
-/// Writes the fields that stand for features of this product and sets their bits in `dmFields`.
-void writePublicFields(const ListOfFeaturesRef& features, DEVMODEW& devMode);
+/// The fields as the features have them; the bits of those that the product has are set. The
+/// paper's lengths are always filled in, and marked as set for papers that the system has no number
+/// for.
+PublicFields publicFields(const ListOfFeaturesRef& features);
 
-/// Lets the features follow the fields whose bits are set. A field that already says what its
-/// feature says changes nothing, so that a finer setting (colour "automatic" under "colour")
-/// survives; an unknown number, and a value that a constraint forbids, leave the feature as it is.
-void readPublicFields(const ListOfFeaturesRef& features, const DEVMODEW& devMode);
+/// Lets the features follow the fields that are set. A field that already says what its feature
+/// says changes nothing, so that a finer setting (colour "automatic" under "colour") survives; an
+/// unknown number, and a value that a constraint forbids, leave the feature as it is.
+/// @param inStep  the fields were written together with the settings that the features have now, so
+///                a field that differs was changed since. It decides which of number, lengths and
+///                name of the paper is meant. Without it the lengths come first and the name last.
+void followPublicFields(const ListOfFeaturesRef& features, const PublicFields& fields, bool inStep);
 
-/// The numbers that a field can say for a product, in the product's order: papers for
-/// DM_PAPERSIZE, bins for DM_DEFAULTSOURCE, and so on; without repetition.
-struct FieldChoice
+/// The feature that a field stands for; null for a product without it.
+OptionFeatureRef featureOf(const ListOfFeaturesRef& features, DocumentField field);
+
+/// Lengths in tenths of a millimetre.
+struct PaperSize
 {
-    short number;
-    CXString name;
+    int width = 0;
+    int height = 0;
 };
-std::vector<FieldChoice> fieldChoices(const ListOfFeaturesRef& features, DWORD field);
 
-/// Largest value of the copies feature; 1 when the product has none.
-int mostCopies(const ListOfFeaturesRef& features);
+/// The size of a paper of this product. For papers without one in the package (custom sizes, a
+/// roll) it is what the custom lengths say. Zeros when nothing is known of it.
+PaperSize sizeOfPaper(const ListOfFeaturesRef& features, const ValueId& paper);
+
+/// The smallest or the largest custom size; zeros for a product without custom sizes.
+PaperSize customLimit(const ListOfFeaturesRef& features, bool largest);
 
 } // namespace o7

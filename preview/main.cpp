@@ -10,6 +10,7 @@
 #include "console.h"
 #include "cxstring.h"
 #include "galleryrun.h"
+#include "packagecheckrun.h"
 #include "previewoptions.h"
 #include "previewrun.h"
 
@@ -58,6 +59,11 @@ o7::ExitCode runPreview(const std::vector<std::wstring>& words)
     if (parsed.options.help) {
         o7::print(o7::previewUsage());
         return o7::ExitCode::Done;
+    }
+    if (!parsed.options.checkedPackage.empty()) {
+        const std::filesystem::path products(parsed.options.productsDirectory);
+        return o7::runPackageCheck(parsed.options,
+                                   products.empty() ? programFolder() / "products" : products);
     }
     const ComApartment apartment;
     if (parsed.options.gallery) {

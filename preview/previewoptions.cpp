@@ -33,13 +33,15 @@ constexpr std::wstring_view kUsage =
     L"  --snapshot FILE  visit every page, write what is on them as text, cancel\n"
     L"  --user-dir DIR   where accepted settings are kept\n"
     L"  --family N       run with another device family (feature 285), keep nothing\n"
+    L"  --check PACKAGE  open nothing; say all that is wrong with a product package: its\n"
+    L"                   folder, its package.json, or the name of a product\n"
     L"  --gallery        show every control in every state; takes --shots and --snapshot\n"
     L"  --mirrored       the gallery right to left\n"
     L"  --classic        the gallery without themes\n"
     L"  --help           this text\n"
     L"\n"
-    L"Ends with 0 when everything asked for was done, 1 when something failed,\n"
-    L"2 when the options, the product or its package are at fault.\n";
+    L"Ends with 0 when everything asked for was done, 1 when something failed (or a\n"
+    L"check found mistakes), 2 when the options, the product or its package are at fault.\n";
 
 /// Whole decimal numbers without a sign only; anything longer than nine digits is no family value.
 std::optional<int> parseNumber(std::wstring_view text)
@@ -104,7 +106,7 @@ struct OptionRow
     Setter set;
 };
 
-constexpr std::array<OptionRow, 9> kOptions{{
+constexpr std::array<OptionRow, 10> kOptions{{
     {L"--product", [](PreviewOptions& o, const std::wstring& v) { return setText(o.product, v); }},
     {L"--products",
      [](PreviewOptions& o, const std::wstring& v) { return setText(o.productsDirectory, v); }},
@@ -118,6 +120,8 @@ constexpr std::array<OptionRow, 9> kOptions{{
     {L"--user-dir",
      [](PreviewOptions& o, const std::wstring& v) { return setText(o.userDirectory, v); }},
     {L"--family", setFamily},
+    {L"--check",
+     [](PreviewOptions& o, const std::wstring& v) { return setText(o.checkedPackage, v); }},
 }};
 
 struct FlagRow

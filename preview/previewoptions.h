@@ -11,7 +11,7 @@ namespace o7 {
 enum class PreviewEntry
 {
     Sheet,  ///< the module shows a property sheet of its own
-    Cpsui,  ///< the pages go to the print system's common property sheet
+    Cpsui,  ///< the driver's plug-in adds the pages to the print system's common property sheet
     Dialog, ///< one modal dialog, no pages
     Child,  ///< the pages go to a property sheet that the preview has opened
 };
@@ -28,6 +28,7 @@ struct PreviewOptions
     std::wstring snapshotFile;   ///< empty: no snapshot
     std::wstring userDirectory;  ///< empty: the person's application directory
     std::optional<int> family;   ///< another value of feature 285
+    std::wstring checkedPackage; ///< not empty: check this package instead of opening anything
     bool gallery = false;        ///< the controls themselves instead of a product
     bool mirrored = false;       ///< the gallery right to left
     bool classic = false;        ///< the gallery without themes

@@ -9,9 +9,9 @@
 #include "acceptancewatch.h"
 #include "childentry.h"
 #include "console.h"
-#include "cpsuientry.h"
 #include "datamodelids.h"
 #include "displayedexceptions.h"
+#include "pluginentry.h"
 #include "productcatalogue.h"
 #include "productsession.h"
 #include "uimanager.h"
@@ -55,7 +55,7 @@ ExitCode PreviewRun::run()
     }
     const AcceptanceWatch watch(m_session->featureServices());
     bool done = show();
-    if (watch.accepted() || m_dialogAccepted) {
+    if (watch.accepted() || m_accepted) {
         done = saveJobTicket() && done;
     }
     return done ? ExitCode::Done : ExitCode::Failed;
@@ -69,6 +69,7 @@ bool PreviewRun::openSession()
         printError(catalogue.unknownProductText(m_options.product));
         return false;
     }
+    m_package = *folder;
     m_productName = folder->filename().wstring();
     std::vector<CXString> errors;
     m_session = ProductSession::open(*folder, CXString(m_options.language), errors);
@@ -130,16 +131,14 @@ bool PreviewRun::saveJobTicket()
 
 bool PreviewRun::show()
 {
-    UIManager manager(m_session->productData(), nullptr,
-                      static_cast<UIMode>(m_options.effectiveMode()), 0, Workflow::Standard);
     if (m_options.unattended()) {
-        return showVisited(manager);
+        return showVisited();
     }
-    openEntry(manager);
+    openEntry();
     return true;
 }
 
-bool PreviewRun::showVisited(UIManager& manager)
+bool PreviewRun::showVisited()
 {
     const WindowRecorder recorder(m_options.shotsDirectory, m_options.snapshotFile);
     const DisplayedExceptions exceptions;
@@ -149,9 +148,10 @@ bool PreviewRun::showVisited(UIManager& manager)
         .onShown = [](const ShownWindow& window) { WindowPicture::bringToFront(window.handle()); },
         .onPage = [&](const ShownWindow& window, int number,
                       const std::wstring& title) { recorder.savePicture(window, number, title); },
-        .onAllSeen = [&] { recorder.saveSnapshot(snapshotHeading() + wide(manager.dumpText())); },
+        .onAllSeen =
+            [&] { recorder.saveSnapshot(snapshotHeading() + wide(m_manager->dumpText())); },
     });
-    openEntry(manager);
+    openEntry();
     std::vector<std::wstring> failures = driver.failures();
     failures.insert(failures.end(), exceptions.texts().begin(), exceptions.texts().end());
     for (const std::wstring& failure : failures) {
@@ -160,41 +160,59 @@ bool PreviewRun::showVisited(UIManager& manager)
     return failures.empty();
 }
 
-void PreviewRun::openEntry(UIManager& manager)
+void PreviewRun::openEntry()
 {
+    if (m_options.entry == PreviewEntry::Cpsui) {
+        return openPlugin();
+    }
+    UIManager manager(m_session->productData(), nullptr, mode(), 0, Workflow::Standard);
+    m_manager = &manager;
     FeatureServices& model = m_session->featureServices();
     ProductStringLoader& strings = m_session->strings();
-    const std::wstring caption = wide(m_session->productData().GetModelName());
     switch (m_options.entry) {
     case PreviewEntry::Sheet:
         manager.runAsPropertySheet(model, strings, nullptr);
         return;
     case PreviewEntry::Dialog:
         return openDialog(manager);
-    case PreviewEntry::Cpsui:
-        CpsuiEntry(caption, [&](HANDLE sheet, PFNCOMPROPSHEET callback) {
-            manager.initializeForCPSUI(sheet, callback, model, strings, nullptr);
-        }).run(nullptr);
-        return;
     case PreviewEntry::Child:
-        ChildEntry(caption, aboutText()).run([&](HWND sheet) {
+        ChildEntry(wide(m_session->productData().GetModelName()), aboutText()).run([&](HWND sheet) {
             manager.initialize(sheet, model, strings, nullptr);
         });
         return;
+    case PreviewEntry::Cpsui:
+        return;
     }
+}
+
+/// The plug-in has a session of its own; what was accepted comes back into ours.
+void PreviewRun::openPlugin()
+{
+    if (mode() == UIMode::CompactDialog) {
+        printError(L"The print system asks for pages only: there are some in modes 1, 2 and 4.");
+        return;
+    }
+    m_accepted = PluginEntry(*m_session, m_package, mode(), [this](UIManager& manager) {
+                     m_manager = &manager;
+                 }).run(nullptr);
 }
 
 /// A dialog's OK commits its transaction but is no event of the model.
 void PreviewRun::openDialog(UIManager& manager)
 {
-    if (m_options.effectiveMode() != static_cast<int>(UIMode::CompactDialog)) {
+    if (mode() != UIMode::CompactDialog) {
         printError(L"The entry \"dialog\" shows something in mode 3 only.");
     }
     FeatureServices& model = m_session->featureServices();
     if (manager.runAsDialog(model, m_session->strings(), nullptr)) {
         model.CommitAccepted();
-        m_dialogAccepted = true;
+        m_accepted = true;
     }
+}
+
+UIMode PreviewRun::mode() const
+{
+    return static_cast<UIMode>(m_options.effectiveMode());
 }
 
 std::filesystem::path PreviewRun::jobTicketPath() const

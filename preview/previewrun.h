@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "previewoptions.h"
+#include "uimode.h"
 
 class UIManager;
 
@@ -41,18 +42,22 @@ private:
     void loadJobTicket();
     bool saveJobTicket();
     bool show();
-    bool showVisited(UIManager& manager);
-    void openEntry(UIManager& manager);
+    bool showVisited();
+    void openEntry();
+    void openPlugin();
     void openDialog(UIManager& manager);
+    UIMode mode() const;
     std::filesystem::path jobTicketPath() const;
     std::wstring aboutText() const;
     std::wstring snapshotHeading() const;
 
     PreviewOptions m_options;
     std::filesystem::path m_productsRoot;
+    std::filesystem::path m_package; ///< the product's folder
     std::wstring m_productName;
     std::unique_ptr<ProductSession> m_session;
-    bool m_dialogAccepted = false;
+    const UIManager* m_manager = nullptr; ///< whose pages are shown; borrowed while they are
+    bool m_accepted = false;              ///< by an entry that is no event of our model
 };
 
 } // namespace o7

@@ -4,8 +4,8 @@
 #
 #   tools/in-app.sh [--product P] [--shots DIR]
 #
-# Ends 0 when a change made with OK was there again at the next opening and a change made with
-# Cancel was not.
+# Ends 0 when a change made with OK was there again at the next opening and one made with Cancel was
+# not, and when paper and sides went from our sheet into the program's own settings and back.
 set -u
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
@@ -40,7 +40,8 @@ bin=$O7_ROOT/build/windows/bin
     o7_die "there is no product \"$product\"; there are: $(cd "$bin/products" && echo *)" 2
 # The list that is changed is found by its texts, so the language of the desktop has to be known.
 export LC_ALL=C.UTF-8
-o7_wine "$bin/o7install.exe" "$(o7_winpath "$bin")" --product "$product" ||
+printer="C430 on the second floor"
+o7_wine "$bin/o7install.exe" "$(o7_winpath "$bin")" --product "$product" --printer "$printer" ||
     o7_die "the plug-in could not be installed as a printer"
-o7_wine "$bin/o7drive.exe" "$(o7_winpath "$bin/products/$product/strings-en.dll")" \
+o7_wine "$bin/o7drive.exe" "$(o7_winpath "$bin/products/$product/strings-en.dll")" "$printer" \
     ${shots[@]+"${shots[@]}"} || o7_die "the sheet in the print dialog did not do what it must"

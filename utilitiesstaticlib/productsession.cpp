@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace o7 {
 
@@ -11,7 +12,7 @@ namespace o7 {
 struct ProductSession::Parts
 {
     CXString wantedLanguage;
-    std::unique_ptr<ProductPackage> package;
+    std::shared_ptr<const ProductPackage> package;
     std::optional<ProductData> productData;
     std::optional<ProductStringLoader> strings;
     std::unique_ptr<IDataModel> model;
@@ -27,15 +28,19 @@ std::unique_ptr<ProductSession> ProductSession::open(const std::filesystem::path
                                                      std::vector<CXString>& errors)
 {
     std::vector<PackageError> faults;
+    std::shared_ptr<const ProductPackage> loaded = LoadProductPackage(package, faults);
+    for (const PackageError& fault : faults) {
+        errors.push_back(CXString::FromUtf8(fault.ToString()));
+    }
+    return loaded ? open(std::move(loaded), language) : nullptr;
+}
+
+std::unique_ptr<ProductSession> ProductSession::open(std::shared_ptr<const ProductPackage> package,
+                                                     const CXString& language)
+{
     std::unique_ptr<ProductSession> session(new ProductSession);
     Parts& parts = *session->m_parts;
-    parts.package = LoadProductPackage(package, faults);
-    if (!parts.package) {
-        for (const PackageError& fault : faults) {
-            errors.push_back(CXString::FromUtf8(fault.ToString()));
-        }
-        return nullptr;
-    }
+    parts.package = std::move(package);
     const ProductInfo& info = parts.package->GetProductInfo();
     const CXString folder(parts.package->GetFolder().wstring());
     parts.wantedLanguage = language.IsEmpty() ? desktopLanguage() : language;

@@ -29,6 +29,10 @@ public:
                                                 const CXString& language,
                                                 std::vector<CXString>& errors);
 
+    /// The same with a package that is loaded already, which may serve several sessions.
+    static std::unique_ptr<ProductSession> open(std::shared_ptr<const ProductPackage> package,
+                                                const CXString& language);
+
     ProductSession(const ProductSession&) = delete;
     ProductSession& operator=(const ProductSession&) = delete;
     ~ProductSession();

@@ -50,7 +50,13 @@ public:
 O7CORE_API std::unique_ptr<ProductPackage> LoadProductPackage(const std::filesystem::path& path,
                                                               std::vector<PackageError>& errors);
 
-/// The same from a text in memory; `path` is what the errors name.
+/// The same for tools that check a package while it is written: with errors it still hands out what
+/// could be read, if that is of the right shape at all. Such a package (`validated` is false) is
+/// good for its lists of numbers only: no data model can be made of it.
+O7CORE_API std::unique_ptr<ProductPackage> InspectProductPackage(const std::filesystem::path& path,
+                                                                 std::vector<PackageError>& errors);
+
+/// As LoadProductPackage, from a text in memory; `path` is what the errors name.
 O7CORE_API std::unique_ptr<ProductPackage> ParseProductPackage(std::string_view text,
                                                                const std::filesystem::path& path,
                                                                std::vector<PackageError>& errors);

@@ -5,6 +5,7 @@
 #include "featureidwithcontext.h"
 #include "featurevalue.h"
 
+#include <string>
 #include <vector>
 
 namespace o7 {
@@ -21,6 +22,8 @@ struct SettingChange
 /// One reason why a feature or one of its options is as it is now.
 struct StateReason
 {
+    /// The constraint's id in the package, for logs and tests.
+    std::string id;
     EffectKind effect = EffectKind::Disable;
     /// The sentence that the state shows for it, localised.
     CXString sentence;

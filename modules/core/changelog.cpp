@@ -24,7 +24,7 @@ void ChangeLog::Note(FeatureNode& feature, unsigned bits)
         return;
     }
     feature.dirtyLevel = level.id;
-    feature.dirtyIndex = level.changes.size();
+    feature.dirtyIndex = static_cast<std::uint32_t>(level.changes.size());
     level.changes.push_back({&feature, bits});
 }
 

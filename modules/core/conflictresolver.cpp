@@ -31,6 +31,18 @@ std::size_t Distance(const FeatureNode& feature, const FeatureValue& a, const Fe
     return static_cast<std::size_t>(distance < 0 ? -distance : distance);
 }
 
+/// Whether the change by itself would end the conflict, as far as can be said without trying.
+bool Lifts(const FeatureNode& feature, const FeatureValue& value, const Constraint& broken)
+{
+    if (broken.target == &feature && !broken.whole &&
+        (value.index() == 0 || !broken.Affects(value)))
+        return true;
+    return std::any_of(broken.when.begin(), broken.when.end(), [&](const auto& cause) {
+        return cause.feature.get() == &feature &&
+               (value.index() == 0 || !cause.test.Matches(value));
+    });
+}
+
 } // namespace
 
 ConflictResolver::ConflictResolver(ChangeLog& log, ConstraintEngine& engine)
@@ -138,7 +150,9 @@ bool ConflictResolver::RepairWith(FeatureNode& feature, const Constraint& broken
     if (IsPinned(feature) || !MayGiveWay(feature))
         return false;
     for (const FeatureValue& value : OtherValues(feature)) {
-        if (!IsFree(feature, value))
+        // The last change has to lift all that is broken, an earlier one at least this.
+        if (!IsFree(feature, value) || (depth == 1 ? !LiftsAll(feature, value)
+                                                   : !Lifts(feature, value, broken)))
             continue;
         if (--m_budget < 0)
             return false;
@@ -148,6 +162,14 @@ bool ConflictResolver::RepairWith(FeatureNode& feature, const Constraint& broken
         TakeBack();
     }
     return false;
+}
+
+bool ConflictResolver::LiftsAll(const FeatureNode& feature, const FeatureValue& value) const
+{
+    const auto& broken = m_engine.Broken();
+    return std::all_of(broken.begin(), broken.end(), [&](const Constraint* constraint) {
+        return constraint->seen == m_mark || Lifts(feature, value, *constraint);
+    });
 }
 
 bool ConflictResolver::FindNearest(const Change& wished)

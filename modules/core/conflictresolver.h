@@ -38,6 +38,7 @@ private:
     bool Repair(int depth);
     bool RepairWith(FeatureNode& feature, const Constraint& broken, int depth);
     bool RepairWithin();
+    bool LiftsAll(const FeatureNode& feature, const FeatureValue& value) const;
     bool FindNearest(const Change& wished);
     const Constraint* FirstNew() const;
     bool IsPinned(const FeatureNode& feature) const;

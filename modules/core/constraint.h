@@ -33,6 +33,7 @@ struct alignas(64) Constraint
     unsigned unmet = 0;              ///< Conditions that do not hold.
     EffectKind kind = EffectKind::Disable;
     bool active = false;
+    bool onList = false;       ///< The target is a list: its members are limited with it.
     bool whole = true;         ///< The feature as a whole is affected, not some of its values.
     bool hit = false;          ///< Active, and the target's value is one that is affected.
     bool toggled = false;      ///< In the change under way ...

@@ -46,6 +46,7 @@ void BindDefaults(FeatureNode& feature)
 void FinishConstraint(Constraint& constraint)
 {
     const FeatureDescription& target = constraint.target->Description();
+    constraint.onList = target.list != nullptr || target.item != nullptr;
     constraint.whole = constraint.affected.values.empty();
     if (!constraint.whole && constraint.target->IsCoded())
         constraint.affectedCodes = MaskOf(target, constraint.affected, false);

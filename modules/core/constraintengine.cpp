@@ -227,7 +227,9 @@ void ConstraintEngine::AskReaders(FeatureNode& feature)
         Prefetch(reader.constraint);
     }
     for (const auto* reader : m_answers)
-        Prefetch(reader->constraint->target);
+        Prefetch(&reader->constraint->target->activeEffects);
+    for (const auto* reader : m_answers)
+        Prefetch(reader->constraint->target->activeEffects.data());
     for (auto* reader : m_answers)
         Answer(*reader);
     m_answers.clear();
@@ -238,7 +240,7 @@ void ConstraintEngine::Answer(FeatureNode::Reader& reader)
     Constraint& constraint = *reader.constraint;
     if (!reader.changes) {
         if (constraint.active && constraint.defaultRow == Constraint::kNoRow)
-            StateChanged(*constraint.target);
+            TellState(constraint);
         return;
     }
     reader.holds = !reader.holds;
@@ -295,17 +297,25 @@ void ConstraintEngine::TellStates()
         constraint->toggled = false;
         if (constraint->active != constraint->activeBefore &&
             constraint->defaultRow == Constraint::kNoRow)
-            StateChanged(*constraint->target);
+            TellState(*constraint);
     }
     m_toggled.clear();
 }
 
-void ConstraintEngine::StateChanged(FeatureNode& feature)
+void ConstraintEngine::TellState(const Constraint& constraint)
 {
-    m_changes.Note(feature, kStateBit);
+    m_changes.Note(*constraint.target, kStateBit);
+    if (constraint.onList)
+        TellMembers(*constraint.target);
+}
+
+void ConstraintEngine::TellMembers(const FeatureNode& list)
+{
     // A list hands its state down to what is in it.
-    for (const auto& child : feature.Children())
-        StateChanged(*child);
+    for (const auto& child : list.Children()) {
+        m_changes.Note(*child, kStateBit);
+        TellMembers(*child);
+    }
 }
 
 } // namespace o7

@@ -57,7 +57,8 @@ private:
     void Settle();
     void FollowDefault(FeatureNode& feature);
     void TellStates();
-    void StateChanged(FeatureNode& feature);
+    void TellState(const Constraint& constraint);
+    void TellMembers(const FeatureNode& list);
 
     ChangeLog& m_changes;
     std::vector<std::unique_ptr<Constraint>> m_added;

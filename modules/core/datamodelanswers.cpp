@@ -66,7 +66,7 @@ std::vector<StateReason> DataModel::GetStateReasons(const FeatureIdWithContext& 
     std::vector<StateReason> reasons;
     const bool ofOption = option.GetValueEnum() != DataModelIds::kNoValue;
     const auto add = [&](const Constraint& constraint, EffectKind effect, const ValueId* value) {
-        reasons.push_back({effect, m_interpreter.Reason(constraint, value),
+        reasons.push_back({constraint.id, effect, m_interpreter.Reason(constraint, value),
                            constraint.target->GetId(), CausesOf(constraint),
                            RemediesOf(constraint)});
     };

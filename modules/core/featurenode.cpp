@@ -57,16 +57,15 @@ const FeatureValue& UnspecifiedOption()
 
 FeatureNode::FeatureNode(DataModel& model, FeatureNode* parent,
                          const FeatureDescription& description, FeatureIdWithContext id)
-    : m_model(&model),
+    : m_followsDefault(!description.defaults.empty()),
+      m_coded(HasCodes(description)),
+      m_model(&model),
       m_parent(parent),
       m_description(&description),
-      m_id(std::move(id)),
-      m_value(InitialValue(description)),
-      m_specified(IsList(description.kind) || description.defaultValue.index() != 0),
-      m_followsDefault(!description.defaults.empty()),
-      m_coded(HasCodes(description)),
-      m_code(CodeOf(description, m_value))
+      m_id(std::move(id))
 {
+    Store(InitialValue(description),
+          IsList(description.kind) || description.defaultValue.index() != 0, m_followsDefault);
 }
 
 FeatureKind FeatureNode::GetKind() const
@@ -200,7 +199,7 @@ void FeatureNode::Store(FeatureValue value, bool specified, bool followsDefault)
     m_specified = specified;
     m_followsDefault = followsDefault;
     if (m_coded)
-        m_code = CodeOf(*m_description, m_value);
+        m_code = static_cast<std::uint8_t>(CodeOf(*m_description, m_value));
 }
 
 const FeatureValue& FeatureNode::CurrentDefault() const

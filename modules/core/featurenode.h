@@ -115,20 +115,27 @@ public:
 
     // Links kept by the constraint engine, the change log and the notifier.
     std::vector<Reader> readers;
-    std::vector<ActiveEffect> activeEffects; ///< In no order.
-    unsigned activeClears = 0;              ///< How many of them clear.
-    unsigned rank = 0;        ///< Above those whose clearing or value can change this one's.
-    bool isPending = false;   ///< Its readers have to look again.
-    bool isUnsettled = false; ///< Its default may have changed.
-    std::uint64_t dirtyLevel = 0; ///< Transaction level that has this node noted as changed ...
-    std::size_t dirtyIndex = 0;   ///< ... and where in its list.
     std::vector<Constraint*> defaultRows; ///< In their order.
     std::vector<Constraint*> effects;     ///< All constraints with this feature as target.
     std::vector<std::unique_ptr<Constraint>> constraints; ///< Those declared here.
+    std::unique_ptr<DeliveryList> delivery;               ///< Null until somebody registered.
+    unsigned activeClears = 0; ///< How many of the active effects clear.
+    unsigned rank = 0;         ///< Above those whose clearing or value can change this one's.
+    bool isPending = false;    ///< Its readers have to look again.
+    bool isUnsettled = false;  ///< Its default may have changed.
+
+    // One line of memory for what a change of another feature touches here.
+    alignas(64) std::vector<ActiveEffect> activeEffects; ///< In no order.
     std::vector<std::shared_ptr<Registration>> registrations;
-    std::unique_ptr<DeliveryList> delivery; ///< Null until somebody registered.
+    std::uint64_t dirtyLevel = 0; ///< Transaction level that has this node noted as changed ...
+    std::uint32_t dirtyIndex = 0; ///< ... and where in its list.
 
 private:
+    bool m_specified = true;
+    bool m_followsDefault = false;
+    bool m_coded = false;
+    std::uint8_t m_code = 0;
+
     bool IsAlive() const { return m_model != nullptr && m_attached; }
 
     DataModel* m_model;
@@ -137,11 +144,7 @@ private:
     FeatureIdWithContext m_id;
     std::vector<std::shared_ptr<FeatureNode>> m_children;
     FeatureValue m_value;
-    bool m_specified = true;
-    bool m_followsDefault = false;
-    bool m_coded = false;
     bool m_attached = true;
-    unsigned m_code = 0;
     int m_nextItem = 0;
 };
 

@@ -212,7 +212,7 @@ bool Notifier::DeliverAlone(const Change& change)
 
 void Notifier::Deliver(const std::vector<Change>& changes)
 {
-    if (changes.size() == 1 && DeliverAlone(changes.front()))
+    if (m_observers.empty() || (changes.size() == 1 && DeliverAlone(changes.front())))
         return;
     std::vector<Entry> entries;
     for (const Change& change : changes)

@@ -110,9 +110,16 @@ std::string PackageError::ToString() const
     return text.append(": ").append(message);
 }
 
-std::unique_ptr<ProductPackage> ParseProductPackage(std::string_view text,
-                                                    const std::filesystem::path& path,
-                                                    std::vector<PackageError>& errors)
+namespace {
+
+enum class Faulty
+{
+    Refuse,
+    HandOut, ///< as far as it was read
+};
+
+std::unique_ptr<ProductPackage> Parse(std::string_view text, const std::filesystem::path& path,
+                                      std::vector<PackageError>& errors, Faulty faulty)
 {
     const auto parsed = ParseLocatedJson(text);
     if (const auto* fault = std::get_if<JsonFault>(&parsed)) {
@@ -126,17 +133,16 @@ std::unique_ptr<ProductPackage> ParseProductPackage(std::string_view text,
         return nullptr;
     }
     ProductDescription product = PackageReader(faults).Read(document);
-    if (!faults.empty()) {
-        AddFaults(faults, path, errors);
+    AddFaults(faults, path, errors);
+    if (!faults.empty() && faulty == Faulty::Refuse)
         return nullptr;
-    }
     product.folder = path.parent_path();
-    product.info.validated = true;
+    product.info.validated = faults.empty();
     return std::make_unique<LoadedPackage>(std::move(product));
 }
 
-std::unique_ptr<ProductPackage> LoadProductPackage(const std::filesystem::path& path,
-                                                   std::vector<PackageError>& errors)
+std::unique_ptr<ProductPackage> Load(const std::filesystem::path& path,
+                                     std::vector<PackageError>& errors, Faulty faulty)
 {
     std::error_code ignored;
     const auto file = std::filesystem::is_directory(path, ignored) ? path / "package.json" : path;
@@ -153,7 +159,28 @@ std::unique_ptr<ProductPackage> LoadProductPackage(const std::filesystem::path& 
         errors.push_back({file, 0, "cannot be read"});
         return nullptr;
     }
-    return ParseProductPackage(text, file, errors);
+    return Parse(text, file, errors, faulty);
+}
+
+} // namespace
+
+std::unique_ptr<ProductPackage> ParseProductPackage(std::string_view text,
+                                                    const std::filesystem::path& path,
+                                                    std::vector<PackageError>& errors)
+{
+    return Parse(text, path, errors, Faulty::Refuse);
+}
+
+std::unique_ptr<ProductPackage> LoadProductPackage(const std::filesystem::path& path,
+                                                   std::vector<PackageError>& errors)
+{
+    return Load(path, errors, Faulty::Refuse);
+}
+
+std::unique_ptr<ProductPackage> InspectProductPackage(const std::filesystem::path& path,
+                                                      std::vector<PackageError>& errors)
+{
+    return Load(path, errors, Faulty::HandOut);
 }
 
 std::unique_ptr<IDataModel> CreateDataModel(const ProductPackage& package, IStringSource& strings)

@@ -262,7 +262,10 @@ std::unique_ptr<CapabilitiesNode> StateInterpreter::OptionCapabilities(const Fea
     bool currentListed = false;
     for (const OptionDescription& option : description.options) {
         const ValueId value = Complete(feature, ValueId(option.number));
-        options.emplace_back(value, OptionState(active, value));
+        std::optional<MediaSize> size;
+        if (option.size)
+            size = MediaSize{option.size->first, option.size->second};
+        options.emplace_back(value, OptionState(active, value), size);
         currentListed = currentListed || FeatureValue(value) == feature.StoredValue();
     }
     // The user's own value has to be in the list that shows it as chosen.

@@ -32,9 +32,7 @@ std::string Letters(const InterpretedState& state)
 {
     EXPECT_EQ(state.GetReason().IsEmpty(),
               !state.IsDisabled() && !state.IsCleared() && !state.IsHidden());
-    return std::string(state.IsDisabled() ? "d" : "") + (state.IsCleared() ? "c" : "") +
-           (state.IsHidden() ? "h" : "") + (state.HasInfoBtnMsg() ? "i" : "") +
-           (state.HasCbrBtnMsg() ? "x" : "");
+    return test::Letters(state);
 }
 
 TEST(Constraints, EveryEffectOnFeatureAndOption)

@@ -122,10 +122,14 @@ int Number(const ListOfFeaturesRef& list, DataModelIds::tagFeatureEnum feature)
     return value;
 }
 
-Product::Product(std::string_view constraints)
+Product::Product(std::string_view constraints) : Product(Whole{PackageText(constraints)})
+{
+}
+
+Product::Product(const Whole& whole)
 {
     std::vector<o7::PackageError> errors;
-    package = o7::ParseProductPackage(PackageText(constraints), "test/package.json", errors);
+    package = o7::ParseProductPackage(whole.text, "test/package.json", errors);
     if (!package)
         throw std::runtime_error(errors.front().ToString());
     model = o7::CreateDataModel(*package, strings);
@@ -142,6 +146,13 @@ void Recorder::ProcessNotification(const INotification& notification, unsigned i
     // A copy: the reaction may destroy this observer.
     if (const auto react = reaction)
         react();
+}
+
+std::string Letters(const InterpretedState& state)
+{
+    return std::string(state.IsDisabled() ? "d" : "") + (state.IsCleared() ? "c" : "") +
+           (state.IsHidden() ? "h" : "") + (state.HasInfoBtnMsg() ? "i" : "") +
+           (state.HasCbrBtnMsg() ? "x" : "");
 }
 
 } // namespace test

@@ -56,9 +56,16 @@ std::string PackageText(std::string_view constraints = {});
 /// The value of an integer in that list; -1 without one.
 int Number(const ListOfFeaturesRef& list, DataModelIds::tagFeatureEnum feature);
 
+/// The text of a whole package, where constraints alone are not enough.
+struct Whole
+{
+    std::string_view text;
+};
+
 struct Product
 {
     explicit Product(std::string_view constraints = {});
+    explicit Product(const Whole& whole);
 
     Strings strings;
     std::unique_ptr<o7::ProductPackage> package;
@@ -100,5 +107,8 @@ public:
 };
 
 std::string Narrow(const CXString& text);
+
+/// The letters of a state: d disabled, c cleared, h hidden, i info, x conflict.
+std::string Letters(const InterpretedState& state);
 
 } // namespace test

@@ -2,9 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
+#include <functional>
+#include <string>
 #include <vector>
 
+#include "publicfields.h"
+#include "systemnumbers.h"
 #include "testmodel.h"
 
 namespace o7 {
@@ -12,17 +15,37 @@ namespace {
 
 using test::TestModel;
 
-/// A DEVMODE of the plug-in in memory of its own.
-class Buffer
+/// A DEVMODE as an application holds it.
+class Document
 {
 public:
-    explicit Buffer(std::uint8_t fill = 0xCD) : m_bytes(kDevModeSize, fill) {}
-    explicit Buffer(const TestModel& model) : Buffer() { write(model); }
+    explicit Document(const TestModel& model, std::uint8_t fill = 0xCD)
+        : m_bytes(kDevModeSize, fill)
+    {
+        EXPECT_TRUE(
+            writeDevMode(*model, L"Printer", std::span<std::uint8_t, kDevModeSize>(m_bytes)));
+    }
 
-    void write(const TestModel& model) { EXPECT_TRUE(writeDevMode(*model, L"Printer", **this)); }
-    DEVMODEW& operator*() { return *reinterpret_cast<DEVMODEW*>(m_bytes.data()); }
-    DEVMODEW* operator->() { return &**this; }
     std::vector<std::uint8_t>& bytes() { return m_bytes; }
+    PublicFields fields() const { return readDevMode(m_bytes)->fields; }
+    void set(const PublicFields& fields)
+    {
+        writePublicPart(std::span(m_bytes).first<kPublicPartSize>(), L"Printer", fields,
+                        kPrivatePartSize);
+    }
+    /// As an application does it: one field after the other, knowing nothing of the rest.
+    void change(const std::function<void(PublicFields&)>& edit)
+    {
+        PublicFields changed = fields();
+        edit(changed);
+        set(changed);
+    }
+    void putWord(std::size_t at, std::size_t number)
+    {
+        m_bytes[at] = static_cast<std::uint8_t>(number);
+        m_bytes[at + 1] = static_cast<std::uint8_t>(number >> 8);
+    }
+    void mergeInto(const TestModel& model) const { mergeDevMode(*model, m_bytes); }
 
 private:
     std::vector<std::uint8_t> m_bytes;
@@ -31,40 +54,41 @@ private:
 TEST(DocumentSettings, WritesEveryByteWhateverLayThere)
 {
     const TestModel model;
-    Buffer one(std::uint8_t{0xCD});
-    Buffer other(std::uint8_t{0x11});
-    one.write(model);
-    other.write(model);
+    Document one(model, 0xCD);
+    Document other(model, 0x11);
     EXPECT_EQ(one.bytes(), other.bytes());
-    EXPECT_STREQ(one->dmDeviceName, L"Printer");
-    EXPECT_EQ(one->dmSize + one->dmDriverExtra, kDevModeSize);
+    EXPECT_EQ(one.bytes()[0], 'P');
 
     const std::wstring name(100, L'n');
-    EXPECT_TRUE(writeDevMode(*model, name.c_str(), *one));
-    EXPECT_EQ(std::wcslen(one->dmDeviceName), CCHDEVICENAME - 1U) << "a long name is cut";
+    EXPECT_TRUE(
+        writeDevMode(*model, name.c_str(), std::span<std::uint8_t, kDevModeSize>(one.bytes())));
+    EXPECT_EQ(one.bytes()[2 * (kNameLength - 1) - 2], 'n');
+    EXPECT_EQ(one.bytes()[2 * (kNameLength - 1)], 0) << "a long name is cut";
 }
 
 /// The public fields that stand for option features: one number of the field and its value.
 struct FieldCase
 {
     const char* name;
-    short DEVMODEW::*field;
-    DWORD bit;
+    int PublicFields::*field;
+    std::uint32_t bit;
     DataModelIds::tagFeatureEnum feature;
     int value;
-    short number;
+    int number;
 };
 
 // clang-format off
 const FieldCase kFieldCases[] = {
-    {"landscape",  &DEVMODEW::dmOrientation,   DM_ORIENTATION,   kOrientation, 5146, DMORIENT_LANDSCAPE},
-    {"A3",         &DEVMODEW::dmPaperSize,     DM_PAPERSIZE,     kPaperSize,   5110, DMPAPER_A3},
-    {"letter",     &DEVMODEW::dmPaperSize,     DM_PAPERSIZE,     kPaperSize,   5113, DMPAPER_LETTER},
-    {"tray 2",     &DEVMODEW::dmDefaultSource, DM_DEFAULTSOURCE, kPaperTray,   5122, DMBIN_USER + 2},
-    {"long edge",  &DEVMODEW::dmDuplex,        DM_DUPLEX,        kSides,       5141, DMDUP_VERTICAL},
-    {"short edge", &DEVMODEW::dmDuplex,        DM_DUPLEX,        kSides,       5142, DMDUP_HORIZONTAL},
-    {"mono",       &DEVMODEW::dmColor,         DM_COLOR,         kColourMode,  5152, DMCOLOR_MONOCHROME},
-    {"1200 dpi",   &DEVMODEW::dmPrintQuality,  DM_PRINTQUALITY,  kResolution,  5191, 1200},
+    {"landscape",  &PublicFields::orientation, kOrientationField, kOrientation, 5146, 2},
+    {"A3",         &PublicFields::paperSize,   kPaperSizeField,   kPaperSize,   5110, 8},
+    {"letter",     &PublicFields::paperSize,   kPaperSizeField,   kPaperSize,   5113, 1},
+    {"tray 2",     &PublicFields::source,      kSourceField,      kPaperTray,   5122, 258},
+    {"large tray", &PublicFields::source,      kSourceField,      kPaperTray,   5313, 14},
+    {"long edge",  &PublicFields::duplex,      kDuplexField,      kSides,       5141, 2},
+    {"short edge", &PublicFields::duplex,      kDuplexField,      kSides,       5142, 3},
+    {"mono",       &PublicFields::colour,      kColourField,      kColourMode,  5152, 1},
+    {"1200 dpi",   &PublicFields::quality,     kQualityField,     kResolution,  5191, 1200},
+    {"glossy",     &PublicFields::mediaType,   kMediaTypeField,   kPaperType,   5133, 3},
 };
 // clang-format on
 
@@ -75,43 +99,127 @@ TEST(DocumentSettings, KeepsFeaturesAndPublicFieldsInStep)
         const TestModel source;
         ASSERT_TRUE(source.choose(row.feature, row.value)) << row.name;
         source->CommitAccepted();
-        Buffer written(source);
-        EXPECT_NE(written->dmFields & row.bit, 0U) << row.name;
-        EXPECT_EQ((*written).*row.field, row.number) << row.name;
+        const Document written(source);
+        EXPECT_TRUE(written.fields().has(row.bit)) << row.name;
+        EXPECT_EQ(written.fields().*row.field, row.number) << row.name;
         const TestModel copy;
-        mergeDevMode(*copy, *written);
+        written.mergeInto(copy);
         EXPECT_EQ(copy.option(row.feature), row.value) << row.name;
 
         // From the field to the feature, which wins over the older private part.
         const TestModel target;
-        Buffer changed(target);
-        (*changed).*row.field = row.number;
-        mergeDevMode(*target, *changed);
+        Document changed(target);
+        changed.change([&](PublicFields& fields) { fields.*row.field = row.number; });
+        changed.mergeInto(target);
         EXPECT_EQ(target.option(row.feature), row.value) << row.name;
         EXPECT_FALSE(target->IsModified()) << row.name;
 
         // A field that is not marked as set says nothing.
         const TestModel unmoved;
-        changed->dmFields &= ~row.bit;
-        mergeDevMode(*unmoved, *changed);
+        changed.change([&](PublicFields& fields) { fields.fields &= ~row.bit; });
+        changed.mergeInto(unmoved);
         EXPECT_NE(unmoved.option(row.feature), row.value) << row.name;
     }
 }
 
-TEST(DocumentSettings, CarriesCopiesAndCollation)
+/// What an application does to the fields of a document on plain A4, and what must come of it.
+struct PaperCase
 {
-    const TestModel source;
-    Buffer buffer(source);
-    EXPECT_EQ(buffer->dmCopies, 1);
-    EXPECT_EQ(buffer->dmCollate, DMCOLLATE_TRUE);
-    buffer->dmCopies = 12;
-    buffer->dmCollate = DMCOLLATE_FALSE;
-    mergeDevMode(*source, *buffer);
-    EXPECT_EQ(source.number(kCopies), 12);
-    EXPECT_FALSE(source.flag(kCollate));
-    buffer->dmCopies = 1000; // more than the product makes
-    mergeDevMode(*source, *buffer);
-    EXPECT_EQ(source.number(kCopies), 1);
+    const char* name;
+    std::function<void(PublicFields&)> edit;
+    int paper;
+    PaperSize size = {};
+};
+
+TEST(DocumentSettings, KnowsWhichOfThePaperFieldsIsMeant)
+{
+    constexpr auto kLengths = kPaperLengthField | kPaperWidthField;
+    const auto lengths = [](int width, int length) {
+        return [=](PublicFields& f) {
+            f.fields |= kLengths;
+            f.paperWidth = width;
+            f.paperLength = length;
+        };
+    };
+    const PaperCase cases[] = {
+        {"nothing", [](PublicFields&) {}, 5111, {2100, 2970}},
+        {"small A4", [](PublicFields& f) { f.paperSize = 10; }, 5111},
+        {"number, old name beside it", [](PublicFields& f) { f.paperSize = 1; }, 5113},
+        {"name, old number beside it", [](PublicFields& f) { f.formName = L"#45113"; }, 5113},
+        {"unknown number", [](PublicFields& f) { f.paperSize = 99; }, 5111},
+        {"unknown name", [](PublicFields& f) { f.formName = L"Papyrus"; }, 5111},
+        {"lengths of a paper", lengths(2159, 2794), 5113},
+        {"lengths in whole inches of 25 mm", lengths(2150, 2790), 5113},
+        {"lengths lying", lengths(2970, 2100), 5111},
+        {"lengths of no paper", lengths(1500, 3000), 5250, {1500, 3000}},
+        {"lengths that cannot be", lengths(10, 10), 5111, {2100, 2970}},
+        {"no lengths", lengths(0, -5), 5111},
+        {"one length alone",
+         [](PublicFields& f) {
+             f.fields |= kPaperLengthField;
+             f.paperLength = 99;
+         },
+         5111},
+    };
+    for (const PaperCase& row : cases) {
+        const TestModel model;
+        Document document(model);
+        document.change(row.edit);
+        document.mergeInto(model);
+        EXPECT_EQ(model.option(kPaperSize), row.paper) << row.name;
+        if (row.size.width != 0) {
+            const PublicFields after = Document(model).fields();
+            EXPECT_EQ(after.paperWidth, row.size.width) << row.name;
+            EXPECT_EQ(after.paperLength, row.size.height) << row.name;
+            EXPECT_EQ(after.has(kLengths), row.paper == 5250) << row.name;
+        }
+    }
+}
+
+TEST(DocumentSettings, TakesThePaperOfAForeignDocumentByLengthsFirst)
+{
+    const TestModel model;
+    Document document(model);
+    document.change([](PublicFields& f) {
+        f.fields |= kPaperLengthField | kPaperWidthField;
+        f.paperWidth = 2159;
+        f.paperLength = 2794;
+        f.formName = L"#45110";
+    });
+    document.putWord(kExtraAt, 0); // no private part: the A4 in the number may be older
+    document.mergeInto(model);
+    EXPECT_EQ(model.option(kPaperSize), 5113);
+}
+
+TEST(DocumentSettings, CarriesNumbers)
+{
+    const TestModel model;
+    Document document(model);
+    EXPECT_EQ(document.fields().copies, 1);
+    EXPECT_EQ(document.fields().collate, 1);
+    EXPECT_EQ(document.fields().scale, 100);
+    document.change([](PublicFields& f) {
+        f.copies = 12;
+        f.collate = 0;
+        f.scale = 71;
+    });
+    document.mergeInto(model);
+    EXPECT_EQ(model.number(kCopies), 12);
+    EXPECT_FALSE(model.flag(kCollate));
+    EXPECT_EQ(model.option(kScaling), 5400);
+    EXPECT_EQ(model.number(kScalePercent), 71);
+    EXPECT_EQ(Document(model).fields().scale, 71);
+
+    // Back to 100, and numbers that the product does not have.
+    document.change([](PublicFields& f) {
+        f.copies = 1000;
+        f.collate = 7;
+        f.scale = 100;
+    });
+    document.mergeInto(model);
+    EXPECT_EQ(model.number(kCopies), 1);
+    EXPECT_TRUE(model.flag(kCollate));
+    EXPECT_EQ(model.option(kScaling), 5210);
 }
 
 TEST(DocumentSettings, LeavesAFinerSettingThatTheFieldAlreadySays)
@@ -119,10 +227,10 @@ TEST(DocumentSettings, LeavesAFinerSettingThatTheFieldAlreadySays)
     const TestModel source;
     source.choose(kColourMode, 5151);
     source->CommitAccepted();
-    Buffer buffer(source);
-    EXPECT_EQ(buffer->dmColor, DMCOLOR_COLOR);
+    const Document document(source);
+    EXPECT_EQ(document.fields().colour, kColourPrinting);
     const TestModel target;
-    mergeDevMode(*target, *buffer);
+    document.mergeInto(target);
     EXPECT_EQ(target.option(kColourMode), 5151);
 }
 
@@ -131,20 +239,32 @@ TEST(DocumentSettings, FollowsFieldsThatDependOnEachOther)
     const TestModel source;
     source.choose(kPaperTray, 5121);
     source->CommitAccepted();
-    Buffer buffer(source);
-    // A3 becomes possible only with the tray that stands behind it in the record.
-    buffer->dmPaperSize = DMPAPER_A3;
-    buffer->dmDefaultSource = DMBIN_USER + 2;
-    mergeDevMode(*source, *buffer);
+    Document document(source);
+    // A3 becomes possible only with the tray that is read after it.
+    document.change([](PublicFields& fields) {
+        fields.paperSize = 8;
+        fields.source = 258;
+    });
+    document.mergeInto(source);
     EXPECT_EQ(source.option(kPaperSize), 5110);
     EXPECT_EQ(source.option(kPaperTray), 5122);
 }
 
-void growPublicPart(Buffer& buffer)
+void growPublicPart(Document& document)
 {
     constexpr std::size_t kMore = 16;
-    buffer.bytes().insert(buffer.bytes().begin() + sizeof(DEVMODEW), kMore, std::uint8_t{0xEE});
-    buffer->dmSize = sizeof(DEVMODEW) + kMore;
+    auto& bytes = document.bytes();
+    bytes.insert(bytes.begin() + kPublicPartSize, kMore, std::uint8_t{0xEE});
+    document.putWord(kSizeAt, kPublicPartSize + kMore);
+}
+
+/// A later version of the private part's header, with four bytes that this one does not know.
+void growPrivateHeader(Document& document)
+{
+    auto& bytes = document.bytes();
+    bytes.insert(bytes.begin() + kPublicPartSize + kPrivateHeaderSize, 4, std::uint8_t{0xEE});
+    document.putWord(kPublicPartSize + 6, kPrivateHeaderSize + 4);
+    document.putWord(kExtraAt, kPrivatePartSize + 4);
 }
 
 TEST(DocumentSettings, TakesPublicFieldsOfDamagedAndForeignDevModes)
@@ -152,35 +272,101 @@ TEST(DocumentSettings, TakesPublicFieldsOfDamagedAndForeignDevModes)
     const TestModel source;
     source.setFlag(test::kSkipBlankPages, true);
     source->CommitAccepted();
-    Buffer whole(source);
-    whole->dmOrientation = DMORIENT_LANDSCAPE;
+    Document whole(source);
+    whole.change([](PublicFields& fields) { fields.orientation = kLandscape; });
 
     struct Row
     {
         const char* name;
-        void (*change)(Buffer&);
+        void (*change)(Document&);
         bool keepsPrivate;
         bool keepsPublic;
     };
     // clang-format off
     const Row rows[] = {
-        {"untouched",         [](Buffer&) {}, true, true},
-        {"no private part",   [](Buffer& b) { b->dmDriverExtra = 0; }, false, true},
-        {"cut private part",  [](Buffer& b) { b->dmDriverExtra = 20; }, false, true},
-        {"another driver's",  [](Buffer& b) { b.bytes()[sizeof(DEVMODEW)] ^= 1; }, false, true},
-        {"a damaged block",   [](Buffer& b) { b.bytes()[sizeof(DEVMODEW) + 20] ^= 1; }, false, true},
-        {"no size at all",    [](Buffer& b) { b->dmSize = 0; }, false, false},
+        {"untouched",         [](Document&) {}, true, true},
+        {"no private part",   [](Document& d) { d.putWord(kExtraAt, 0); }, false, true},
+        {"a shorter private part", [](Document& d) { d.putWord(kExtraAt, 200); }, true, true},
+        {"a longer private part",
+         [](Document& d) { d.putWord(kExtraAt, 9000); d.bytes().resize(kPublicPartSize + 9000, 0xEE); }, true, true},
+        {"a longer private header", growPrivateHeader, true, true},
+        {"a private part that is not there",
+         [](Document& d) { d.bytes().resize(kPublicPartSize); }, false, true},
+        {"cut private part",  [](Document& d) { d.putWord(kExtraAt, 20); }, false, true},
+        {"another driver's",  [](Document& d) { d.bytes()[kPublicPartSize] ^= 1; }, false, true},
+        {"a damaged block",   [](Document& d) { d.bytes()[kPublicPartSize + 20] ^= 1; }, false, true},
+        {"no size at all",    [](Document& d) { d.putWord(kSizeAt, 0); }, false, false},
         {"of a later system", growPublicPart, true, true},
-        {"a tiny public part", [](Buffer& b) { b->dmSize = 40; }, false, false},
+        {"a tiny public part", [](Document& d) { d.putWord(kSizeAt, 40); }, false, false},
+        {"a size beyond the end", [](Document& d) { d.putWord(kSizeAt, 0xFFFF); }, false, false},
     };
     // clang-format on
     for (const Row& row : rows) {
-        Buffer buffer = whole;
-        row.change(buffer);
+        Document document = whole;
+        row.change(document);
         const TestModel target;
-        mergeDevMode(*target, *buffer);
+        document.mergeInto(target);
         EXPECT_EQ(target.flag(test::kSkipBlankPages), row.keepsPrivate) << row.name;
         EXPECT_EQ(target.option(kOrientation) == 5146, row.keepsPublic) << row.name;
+    }
+}
+
+/// Everything that a model holds, as bytes that can be compared.
+std::vector<std::uint8_t> settingsOf(const TestModel& model)
+{
+    std::vector<std::uint8_t> block;
+    EXPECT_TRUE(model->ExportSettings(block));
+    return block;
+}
+
+TEST(DocumentSettings, NeverTakesHalfOfADamagedPrivatePart)
+{
+    const TestModel source;
+    source.setFlag(test::kSkipBlankPages, true);
+    source.choose(kPaperType, 5133);
+    source->CommitAccepted();
+    const auto all = settingsOf(source);
+    Document whole(source);
+    // What the public fields give alone.
+    const TestModel withoutPrivate;
+    Document bare = whole;
+    bare.putWord(kExtraAt, 0);
+    bare.mergeInto(withoutPrivate);
+    const auto fromPublic = settingsOf(withoutPrivate);
+    ASSERT_NE(all, fromPublic);
+
+    std::size_t end = kDevModeSize;
+    while (whole.bytes()[end - 1] == 0) {
+        --end; // behind it there are only zeros
+    }
+    std::size_t survived = 0;
+    const TestModel model;
+    const auto check = [&](const Document& document, std::size_t at) {
+        model->GetFullListOfFeatures().RestoreToDefaultValue();
+        model->CommitAccepted();
+        document.mergeInto(model);
+        const auto found = settingsOf(model);
+        survived += found == all;
+        EXPECT_TRUE(found == all || found == fromPublic) << "at byte " << at;
+    };
+    for (std::size_t at = kPublicPartSize; at < end; ++at) {
+        for (const int damage : {0x01, 0x80, 0xFF}) {
+            Document document = whole;
+            document.bytes()[at] ^= static_cast<std::uint8_t>(damage);
+            check(document, at);
+        }
+    }
+    EXPECT_LE(survived, 3U * 6) << "only lengths and spare bytes of the header may not matter";
+    for (std::size_t size = 0; size <= end; ++size) {
+        Document document = whole;
+        document.bytes().resize(size);
+        if (size < kPublicPartSize) {
+            const auto before = settingsOf(model);
+            document.mergeInto(model);
+            EXPECT_EQ(settingsOf(model), before) << "cut at " << size;
+        } else {
+            check(document, size);
+        }
     }
 }
 
@@ -189,12 +375,12 @@ TEST(DocumentSettings, LeavesTheDeviceAsThePrinterHasIt)
     const TestModel withUnit;
     withUnit.choose(kSides, 5141);
     withUnit->CommitAccepted();
-    Buffer buffer(withUnit);
+    const Document document(withUnit);
 
     const TestModel without;
     without.setFlag(test::kDuplexUnit, false);
     without->CommitAccepted();
-    mergeDevMode(*without, *buffer);
+    document.mergeInto(without);
     EXPECT_FALSE(without.flag(test::kDuplexUnit));
 }
 

@@ -49,8 +49,9 @@ TEST(PrivatePart, ReadsNothingOutOfDamagedParts)
         {"cut off in the header",     kPrivateHeaderSize - 1, 0, 'O'},
         {"another driver's",          kPrivatePartSize,       0, 'X'},
         {"a newer layout",            kPrivatePartSize,       4, 2},
-        {"another header size",       kPrivatePartSize,       6, 17},
-        {"a block beyond the end",    kPrivatePartSize,       9, 0x11},
+        {"a header that is too short", kPrivatePartSize,       6, 15},
+        {"a header beyond the end",   kPrivatePartSize,       7, 0xFF},
+        {"a block beyond the end",    kPrivatePartSize,       9, 0x21},
         {"a huge block",              kPrivatePartSize,      11, 0xFF},
         {"cut off in the block",      kPrivateHeaderSize + 99, 0, 'O'},
     };

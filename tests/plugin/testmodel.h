@@ -8,21 +8,20 @@
 #include <vector>
 
 #include "datamodelfactory.h"
-#include "istringsource.h"
+#include "numberstrings.h"
 #include "productfeatures.h"
+#include "testpackage.h"
 
 namespace o7::test {
 
-/// A small printer: the features that the public fields of a DEVMODE stand for, one that only the
-/// private part carries (skipping blank pages), one of the device (the duplex unit, without which
-/// there is no two-sided printing). A3 is not to be had from tray 1.
+/// A model of the small printer.
 class TestModel
 {
 public:
     TestModel()
     {
         std::vector<PackageError> errors;
-        m_package = ParseProductPackage(kPackage, "test/package.json", errors);
+        m_package = ParseProductPackage(kTestPackage, "test/package.json", errors);
         for (const PackageError& error : errors) {
             throw std::runtime_error(error.ToString());
         }
@@ -60,51 +59,11 @@ public:
     }
 
 private:
-    struct Strings : IStringSource
-    {
-        CXString LoadStringW(unsigned id) const override { return CXString::Formatted(L"#%u", id); }
-    };
-
     ListOfFeaturesRef features() const { return m_model->GetFullListOfFeatures(); }
 
     static constexpr auto kAssert = FeatureRef::kAssertIfUnsupported;
-    static constexpr char kPackage[] = R"({
-      "formatVersion": 1,
-      "product": {"id": "test", "modelName": "Test", "uniqueId": "TEST",
-                  "controllerFamily": 8430, "languages": ["en"]},
-      "features": [
-        {"enum": 3002, "name": "odrv-paper-size", "kind": "option", "default": 5111, "options": [
-          {"enum": 5110, "name": "a3"}, {"enum": 5111, "name": "a4"},
-          {"enum": 5113, "name": "letter"}]},
-        {"enum": 3003, "name": "odrv-paper-tray", "kind": "option", "default": 5120, "options": [
-          {"enum": 5120, "name": "auto"}, {"enum": 5121, "name": "tray-1"},
-          {"enum": 5122, "name": "tray-2"}]},
-        {"enum": 3005, "name": "odrv-sides", "kind": "option", "default": 5140, "options": [
-          {"enum": 5140, "name": "one"}, {"enum": 5141, "name": "long"},
-          {"enum": 5142, "name": "short"}]},
-        {"enum": 3006, "name": "odrv-orientation", "kind": "option", "default": 5145, "options": [
-          {"enum": 5145, "name": "portrait"}, {"enum": 5146, "name": "landscape"}]},
-        {"enum": 3007, "name": "odrv-copies", "kind": "integer", "default": 1,
-          "range": {"min": 1, "max": 999}},
-        {"enum": 3008, "name": "odrv-collate", "kind": "boolean", "default": true},
-        {"enum": 3009, "name": "odrv-colour-mode", "kind": "option", "default": 5150, "options": [
-          {"enum": 5150, "name": "auto"}, {"enum": 5151, "name": "colour"},
-          {"enum": 5152, "name": "mono"}]},
-        {"enum": 3019, "name": "odrv-resolution", "kind": "option", "default": 5190, "options": [
-          {"enum": 5190, "name": "600"}, {"enum": 5191, "name": "1200"}]},
-        {"enum": 3021, "name": "odrv-skip-blank-pages", "kind": "boolean", "default": false},
-        {"enum": 3046, "name": "odrv-installed-duplex-unit", "kind": "boolean", "default": true}
-      ],
-      "constraints": [
-        {"id": "no-duplex-unit", "when": [{"feature": 3046, "is": [false]}],
-         "effect": {"feature": 3005, "options": [5141, 5142], "kind": "disable"},
-         "reason": 60001},
-        {"id": "a3-not-from-tray-1", "when": [{"feature": 3003, "is": [5121]}],
-         "effect": {"feature": 3002, "options": [5110], "kind": "disable"}, "reason": 60002}
-      ]
-    })";
 
-    Strings m_strings;
+    NumberStrings m_strings;
     std::unique_ptr<ProductPackage> m_package;
     std::unique_ptr<IDataModel> m_model;
 };

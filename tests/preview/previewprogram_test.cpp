@@ -70,10 +70,13 @@ protected:
     }
     ~PreviewProgram() override { fs::remove_all(m_folder); }
 
-    /// Starts the program; `meanwhile` acts as its user and gets its process id.
-    Outcome run(const std::wstring& options,
-                const std::function<void(DWORD)>& meanwhile = nullptr) const
+    /// Starts the program, with the product that the tests know unless the options name one;
+    /// `meanwhile` acts as its user and gets its process id.
+    Outcome run(std::wstring options, const std::function<void(DWORD)>& meanwhile = nullptr) const
     {
+        if (options.find(L"--product") == std::wstring::npos) {
+            options += L" --product office-c430";
+        }
         const fs::path errors = m_folder / "errors.txt";
         SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
         HANDLE stream = CreateFileW(errors.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited,
@@ -168,6 +171,28 @@ TEST_F(PreviewProgram, BadInputEndsWithTwoAndASentence)
     const Outcome family = run(L"--family 9999");
     EXPECT_EQ(family.exitCode, 2u);
     EXPECT_TRUE(contains(family.errors, "9999"));
+}
+
+TEST_F(PreviewProgram, ChecksPackagesThatAreBuiltAndThatAreNot)
+{
+    EXPECT_EQ(run(L"--check office-c430").exitCode, 0u);
+    EXPECT_EQ(run(L"--check no-such-device").exitCode, 2u);
+    const fs::path package = m_folder / "broken";
+    fs::create_directories(package);
+    std::ofstream(package / "package.json") << "{\n  \"product\": {,\n}\n";
+    const Outcome broken = run(L"--check \"" + package.wstring() + L"\"");
+    EXPECT_EQ(broken.exitCode, 1u);
+    EXPECT_TRUE(contains(broken.errors, "package.json:2:")) << broken.errors;
+}
+
+TEST_F(PreviewProgram, ThePluginShowsWhatTheModuleShows)
+{
+    for (const wchar_t* mode : {L"1", L"2", L"4"}) {
+        const std::wstring options = std::wstring(L"--lang de --mode ") + mode;
+        EXPECT_EQ(run(options + snapshotOption("sheet.txt")).exitCode, 0u);
+        EXPECT_EQ(run(options + L" --entry cpsui" + snapshotOption("cpsui.txt")).exitCode, 0u);
+        EXPECT_EQ(readFile(m_folder / "sheet.txt"), readFile(m_folder / "cpsui.txt"));
+    }
 }
 
 TEST_F(PreviewProgram, EveryEntryShowsEveryPage)

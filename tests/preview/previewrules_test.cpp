@@ -25,6 +25,7 @@ const RefusedRow kRefused[] = {
     {"word without option", {L"office"}, L"Unknown option \"office\""},
     {"value missing at the end", {L"--mode"}, L"--mode needs a value"},
     {"value empty", {L"--shots="}, L"not empty"},
+    {"package empty", {L"--check="}, L"not empty"},
     {"mode 0", {L"--mode", L"0"}, L"a number from 1 to 4, found \"0\""},
     {"mode 5", {L"--mode=5"}, L"a number from 1 to 4"},
     {"mode with a sign", {L"--mode", L"+1"}, L"a number from 1 to 4"},

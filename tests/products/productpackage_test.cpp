@@ -3,6 +3,7 @@
 
 #include "datamodelfactory.h"
 #include "optioncapability.h"
+#include "pagecheck.h"
 #include "products.h"
 
 #include <gmock/gmock.h>
@@ -148,7 +149,7 @@ TEST_P(Products, HaveEveryTextTheyNeed)
     const StringTable strings = o7::productStrings(GetParam().name, "en");
     for (const unsigned number : package->GetStringNumbers())
         EXPECT_TRUE(strings.count(number)) << "missing: " << number;
-    for (const unsigned number : {1357U, 1358U, 11014U, 11015U, 35000U, 35001U, 35002U})
+    for (const unsigned number : {1357U, 1358U, 11014U, 11015U, 35000U, 35001U, 35002U, 60299U})
         EXPECT_TRUE(strings.count(number)) << "missing: " << number;
 }
 
@@ -205,8 +206,9 @@ TEST(SharedTexts, AreNeededBySomeProduct)
     }
     for (const unsigned number : written) {
         const bool named = number > 20000 && number < 30000;
-        const bool ofDriver = number == 21781 || number == 21807;
-        if ((named && !ofDriver) || number > 45000) {
+        // 60299 is the plug-in's: settings that may not be changed.
+        const bool ofDriver = number == 21781 || number == 21807 || number == 60299;
+        if ((named || number > 45000) && !ofDriver) {
             EXPECT_TRUE(needed.count(number)) << "never used: " << number;
         }
     }

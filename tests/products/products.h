@@ -2,9 +2,12 @@
 #pragma once
 
 #include "stringtablesource.h"
+#include "textscript.h"
 
 #include <filesystem>
+#include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace o7 {
 
@@ -26,10 +29,17 @@ inline std::filesystem::path productFolder(const std::string& product)
     return std::filesystem::path(O7_PRODUCTS_DIR) / product;
 }
 
+/// @throws std::runtime_error with the first thing that is wrong with the scripts.
 inline StringTable productStrings(const std::string& product, const std::string& language)
 {
-    return readStringScript(productFolder(product) / "strings" / (language + ".rc"),
-                            O7_UISTRINGNUMBERS);
+    std::vector<PackageError> errors;
+    StringTable strings;
+    for (const auto& [number, text] :
+         readTextScript(productFolder(product) / "strings" / (language + ".rc"), errors))
+        strings.emplace(number, text.text);
+    for (const PackageError& error : errors)
+        throw std::runtime_error(error.ToString());
+    return strings;
 }
 
 } // namespace o7

@@ -2,9 +2,14 @@
 #pragma once
 
 #include "istringsource.h"
-#include "stringscript.h"
+
+#include <map>
+#include <string>
 
 namespace o7 {
+
+/// Texts (UTF-8) by string number.
+using StringTable = std::map<unsigned, std::string>;
 
 class StringTableSource : public IStringSource
 {

@@ -1,212 +1,124 @@
-// Uses a printer as a person would, from the system's text editor: Print, Properties, a change, OK;
-// Properties again, another change, Cancel; Properties a third time. Ends 0 only when the change
-// made with OK was kept and the one made with Cancel was not.
+// Uses a printer as a person would, from the system's text editor, and ends 0 only when everything
+// came as it must:
 //
-//   o7drive STRINGS [--shots DIR]
+//  1. Print, Properties: a change with OK is there again at the next opening, one with Cancel is
+//  not.
+//  2. The program's own set-up, Properties: paper and sides chosen in our sheet are in the public
+//     fields of the program's DEVMODE, and in the set-up's own list of papers.
+//  3. A paper chosen in that list is in our sheet, and the sides are still there.
 //
-// STRINGS is the product's module of texts in the language of the desktop: the list that is changed
-// is known by its entries.
+//   o7drive STRINGS PRINTER [--shots DIR]
+//
+// STRINGS is the product's module of texts in the language of the desktop: lists are known by their
+// entries. PRINTER is the name of the installed printer.
 
 #include <windows.h>
 
-#include <commctrl.h>
 #include <objbase.h>
-#include <prsht.h>
 
 #include <cstdio>
 #include <filesystem>
 #include <stdexcept>
 #include <string>
 
-#include "appwindows.h"
-#include "editorprocess.h"
-#include "input.h"
-#include "windowpicture.h"
+#include "cxstring.h"
+#include "devmodescan.h"
+#include "editorsession.h"
+#include "systemnumbers.h"
 
 namespace {
 
 namespace fs = std::filesystem;
-using namespace o7::inapp;
+using o7::inapp::EditorSession;
 
-/// Texts of the values of the feature "sides" in the product's string module.
-constexpr UINT kOneSidedText = 45140;
-constexpr UINT kLongEdgeText = 45141;
-constexpr UINT kShortEdgeText = 45142;
-/// The Properties button of the system's print dialog.
-constexpr int kPropertiesButton = 0x0401;
+/// Texts of values in the product's string module.
+constexpr UINT kA4 = 45111;
+constexpr UINT kA5 = 45112;
+constexpr UINT kLetter = 45113;
+constexpr UINT kOneSided = 45140;
+constexpr UINT kLongEdge = 45141;
+constexpr UINT kShortEdge = 45142;
 
-// Pixels on the screen.
-constexpr SIZE kEditorSize{860, 620};
-constexpr POINT kSheetOffset{200, 90};
-
-std::wstring loadText(HMODULE strings, UINT number)
+void expect(const std::wstring& found, const std::wstring& wanted, const char* where)
 {
-    const wchar_t* text = nullptr;
-    const int length = LoadStringW(strings, number, reinterpret_cast<LPWSTR>(&text), 0);
-    if (length <= 0) {
-        throw std::runtime_error("The product has no text " + std::to_string(number) + ".");
-    }
-    return {text, static_cast<std::size_t>(length)};
-}
-
-bool isSheet(HWND window)
-{
-    return hasClass(window, L"#32770") &&
-           findChild(window, [](HWND child) { return hasClass(child, WC_TABCONTROLW); }) != nullptr;
-}
-
-bool isPrintDialog(HWND window)
-{
-    return hasClass(window, L"#32770") && GetDlgItem(window, kPropertiesButton) != nullptr &&
-           !isSheet(window);
-}
-
-/// The editor with its print dialog and, now and then, our sheet.
-class Session
-{
-public:
-    Session(const fs::path& strings, fs::path shots)
-        : m_shots(std::move(shots)),
-          m_strings(LoadLibraryExW(strings.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE))
-    {
-        if (m_strings == nullptr) {
-            throw std::runtime_error("The texts " + strings.string() + " cannot be loaded.");
-        }
-        const DWORD process = m_editor.process();
-        HWND window = waitForWindow(process, "The text editor",
-                                    [](HWND w) { return hasClass(w, L"Notepad"); });
-        MoveWindow(window, 0, 0, kEditorSize.cx, kEditorSize.cy, TRUE);
-        SetForegroundWindow(window);
-        m_window = window;
-        o7::test::pumpUntilQuiet(200);
-        o7::test::sendKey('P', {VK_CONTROL});
-        m_printDialog = waitForWindow(process, "The print dialog", isPrintDialog);
-        shoot("print-dialog");
-    }
-    ~Session() { FreeLibrary(m_strings); }
-    Session(const Session&) = delete;
-    Session& operator=(const Session&) = delete;
-
-    void openProperties()
-    {
-        o7::test::sendClick(GetDlgItem(m_printDialog, kPropertiesButton));
-        m_sheet = waitForWindow(m_editor.process(), "Our sheet", isSheet);
-        arrange();
-        o7::test::pumpUntilQuiet(300);
-        m_combo = findOnPages(text(kLongEdgeText));
-    }
-
-    std::wstring chosen() const { return AppCombo(m_combo).chosen(); }
-    std::wstring text(UINT number) const { return loadText(m_strings, number); }
-
-    void choose(UINT number)
-    {
-        const AppCombo combo(m_combo);
-        combo.choose(combo.find(text(number)));
-        if (chosen() != text(number)) {
-            throw std::runtime_error("The list did not take the choice made in it.");
-        }
-    }
-
-    /// Presses OK or Cancel of the sheet.
-    void close(int button)
-    {
-        o7::test::sendClick(GetDlgItem(m_sheet, button));
-        waitUntilGone(m_sheet, "Our sheet");
-        o7::test::pumpUntilQuiet(200);
-    }
-
-    /// Leaves the program the way a person does.
-    void end()
-    {
-        o7::test::sendClick(GetDlgItem(m_printDialog, IDCANCEL));
-        waitUntilGone(m_printDialog, "The print dialog");
-        PostMessageW(m_window, WM_CLOSE, 0, 0);
-        m_editor.waitForEnd();
-    }
-
-    /// What lies over the editor's window, the editor included.
-    void shoot(const std::string& name)
-    {
-        if (m_shots.empty()) {
-            return;
-        }
-        o7::test::pumpUntilQuiet(300);
-        const std::string number = std::to_string(++m_shotCount);
-        o7::WindowPicture(m_window).savePng(m_shots / ("in-app-" + number + "-" + name + ".png"));
-    }
-
-private:
-    /// As a person would drag the sheet to see the print dialog behind it.
-    void arrange()
-    {
-        RECT dialog{};
-        RECT sheet{};
-        GetWindowRect(m_printDialog, &dialog);
-        GetWindowRect(m_sheet, &sheet);
-        OffsetRect(&sheet, dialog.left + kSheetOffset.x - sheet.left,
-                   dialog.top + kSheetOffset.y - sheet.top);
-        SetWindowPos(m_sheet, nullptr, sheet.left, sheet.top, 0, 0,
-                     SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-    }
-
-    /// The visible list with an entry of this text, on whichever page it is.
-    HWND findOnPages(const std::wstring& entry)
-    {
-        const auto holds = [&entry](HWND window) {
-            return hasClass(window, L"ComboBox") && IsWindowVisible(window) &&
-                   AppCombo(window).find(entry) >= 0;
-        };
-        const auto tabs = reinterpret_cast<HWND>(SendMessageW(m_sheet, PSM_GETTABCONTROL, 0, 0));
-        const auto pages = SendMessageW(tabs, TCM_GETITEMCOUNT, 0, 0);
-        for (LRESULT page = 0; page < pages; ++page) {
-            if (HWND found = findChild(m_sheet, holds)) {
-                return found;
-            }
-            o7::test::sendKey(VK_TAB, {VK_CONTROL});
-            o7::test::pumpUntilQuiet(200);
-        }
-        throw std::runtime_error("No page of our sheet has a list of sides.");
-    }
-
-    fs::path m_shots;
-    int m_shotCount = 0;
-    EditorProcess m_editor;
-    HMODULE m_strings;
-    HWND m_window = nullptr;
-    HWND m_printDialog = nullptr;
-    HWND m_sheet = nullptr;
-    HWND m_combo = nullptr;
-};
-
-void expect(const std::wstring& found, const std::wstring& wanted, const char* when)
-{
-    std::printf("%s: %ls\n", when, found.c_str());
+    std::printf("%s: %s\n", where, CXString(found).ToUtf8().c_str());
     if (found != wanted) {
-        throw std::runtime_error(std::string(when) +
-                                 " the sheet shows another value than it must.");
+        throw std::runtime_error(std::string(where) + " there must be another value.");
     }
 }
 
-void drive(const fs::path& strings, const fs::path& shots)
+void changesAreKeptWithOkOnly(EditorSession& session)
 {
-    Session session(strings, shots);
+    session.openPrintDialog();
+    session.shoot("print-dialog");
     session.openProperties();
-    expect(session.chosen(), session.text(kOneSidedText), "At the first opening");
-    session.choose(kLongEdgeText);
+    expect(session.chosen(kLongEdge), session.text(kOneSided), "At the first opening");
+    session.choose(kLongEdge);
     session.shoot("changed");
-    session.close(IDOK);
+    session.closeProperties(IDOK);
 
     session.openProperties();
     session.shoot("after-ok");
-    expect(session.chosen(), session.text(kLongEdgeText), "After a change and OK");
-    session.choose(kShortEdgeText);
-    session.close(IDCANCEL);
+    expect(session.chosen(kLongEdge), session.text(kLongEdge), "After a change and OK");
+    session.choose(kShortEdge);
+    session.closeProperties(IDCANCEL);
 
     session.openProperties();
     session.shoot("after-cancel");
-    expect(session.chosen(), session.text(kLongEdgeText), "After another change and Cancel");
-    session.close(IDCANCEL);
+    expect(session.chosen(kLongEdge), session.text(kLongEdge), "After another change and Cancel");
+    session.closeProperties(IDCANCEL);
+    session.closeDialog(IDCANCEL);
+}
+
+bool isA5OnTheShortEdge(const o7::PublicFields& fields)
+{
+    constexpr int kA5Paper = 11;
+    constexpr int kDuplexShortEdge = 3;
+    return fields.has(o7::kPaperSizeField | o7::kDuplexField) && fields.paperSize == kA5Paper &&
+           fields.paperWidth == 1480 && fields.paperLength == 2100 &&
+           fields.duplex == kDuplexShortEdge;
+}
+
+void settingsReachTheProgramAndComeBack(EditorSession& session, const std::wstring& printer)
+{
+    const auto isInProgram = [&] {
+        return o7::inapp::holdsDevMode(session.process(), printer, isA5OnTheShortEdge);
+    };
+    if (isInProgram()) {
+        throw std::runtime_error("The program has the settings before they were chosen.");
+    }
+    session.openSetUp();
+    expect(session.chosenPaper(), session.text(kA4), "In the program's own set-up at first");
+    session.openProperties();
+    session.choose(kA5);
+    session.choose(kShortEdge);
+    session.closeProperties(IDOK);
+    session.closeDialog(IDOK);
+    if (!isInProgram()) {
+        throw std::runtime_error("Paper and sides are not in the program's public fields.");
+    }
+    std::puts("In the program's public fields: A5, two-sided, short edge");
+
+    session.openSetUp();
+    session.shoot("set-up");
+    expect(session.chosenPaper(), session.text(kA5), "In the program's own set-up afterwards");
+    session.choosePaper(kLetter);
+    session.closeDialog(IDOK);
+
+    session.openPrintDialog();
+    session.openProperties();
+    expect(session.chosen(kA5), session.text(kLetter), "In our sheet after a change in the set-up");
+    session.shoot("after-set-up");
+    expect(session.chosen(kLongEdge), session.text(kShortEdge), "Beside it, untouched");
+    session.closeProperties(IDCANCEL);
+    session.closeDialog(IDCANCEL);
+}
+
+void drive(const fs::path& strings, const std::wstring& printer, const fs::path& shots)
+{
+    EditorSession session(strings, shots);
+    changesAreKeptWithOkOnly(session);
+    settingsReachTheProgramAndComeBack(session, printer);
     session.end();
 }
 
@@ -215,15 +127,15 @@ void drive(const fs::path& strings, const fs::path& shots)
 int wmain(int count, wchar_t** words)
 {
     try {
-        const bool withShots = count == 4 && std::wstring(words[2]) == L"--shots";
-        if (count != 2 && !withShots) {
-            throw std::invalid_argument("usage: o7drive STRINGS [--shots DIR]");
+        const bool withShots = count == 5 && std::wstring(words[3]) == L"--shots";
+        if (count != 3 && !withShots) {
+            throw std::invalid_argument("usage: o7drive STRINGS PRINTER [--shots DIR]");
         }
         if (FAILED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {
             throw std::runtime_error("COM cannot be used.");
         }
-        drive(words[1], withShots ? fs::path(words[3]) : fs::path());
-        std::puts("The change made with OK was kept, the one made with Cancel was not.");
+        drive(words[1], words[2], withShots ? fs::path(words[4]) : fs::path());
+        std::puts("Everything that was chosen came where it belongs, and nothing else did.");
         return 0;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "o7drive: %s\n", error.what());

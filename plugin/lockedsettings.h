@@ -1,0 +1,12 @@
+#pragma once
+
+class IDataModel;
+
+namespace o7 {
+
+/// Lets every setting of a model be looked at but not be changed, for users without the permission:
+/// all values but the present ones become impossible, and say why. For the rest of the model's
+/// life.
+void lockSettings(IDataModel& model);
+
+} // namespace o7
