@@ -149,9 +149,9 @@ bool ConflictResolver::RepairWith(FeatureNode& feature, const Constraint& broken
 {
     if (IsPinned(feature) || !MayGiveWay(feature))
         return false;
-    for (const FeatureValue& value : OtherValues(feature)) {
+    for (const FeatureValue& value : Choices(feature)) {
         // The last change has to lift all that is broken, an earlier one at least this.
-        if (!IsFree(feature, value) || (depth == 1 ? !LiftsAll(feature, value)
+        if (IsPresent(feature, value) || !IsFree(feature, value) || (depth == 1 ? !LiftsAll(feature, value)
                                                    : !Lifts(feature, value, broken)))
             continue;
         if (--m_budget < 0)
@@ -175,16 +175,18 @@ bool ConflictResolver::LiftsAll(const FeatureNode& feature, const FeatureValue& 
 bool ConflictResolver::FindNearest(const Change& wished)
 {
     FeatureNode& feature = *wished.feature;
-    std::vector<FeatureValue> values = OtherValues(feature);
-    std::erase_if(values, [&](const FeatureValue& value) { return value == wished.after; });
+    std::vector<const FeatureValue*> values;
+    for (const FeatureValue& value : Choices(feature)) {
+        if (value.index() != 0 && value != wished.after && !IsPresent(feature, value) &&
+            IsFree(feature, value))
+            values.push_back(&value);
+    }
     if (feature.Description().kind == FeatureKind::Option)
-        std::stable_sort(values.begin(), values.end(), [&](const auto& a, const auto& b) {
-            return Distance(feature, a, wished.after) < Distance(feature, b, wished.after);
+        std::stable_sort(values.begin(), values.end(), [&](const auto* a, const auto* b) {
+            return Distance(feature, *a, wished.after) < Distance(feature, *b, wished.after);
         });
-    for (const FeatureValue& value : values) {
-        if (value.index() == 0 || !IsFree(feature, value))
-            continue;
-        Set(feature, value);
+    for (const FeatureValue* value : values) {
+        Set(feature, *value);
         if (FirstNew() == nullptr)
             return true;
         TakeBack();

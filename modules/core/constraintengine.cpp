@@ -72,10 +72,12 @@ void ConstraintEngine::Link(Constraint& constraint)
         constraint.target->defaultRows.push_back(&constraint);
     else
         constraint.target->effects.push_back(&constraint);
+    constraint.target->choices.clear();
     constraint.unmet = 0;
     for (std::size_t i = 0; i < constraint.when.size(); ++i) {
         const Constraint::Cause& cause = constraint.when[i];
         FeatureNode& feature = *cause.feature;
+        feature.choices.clear();
         const std::uint64_t mask =
             feature.IsCoded() ? MaskOf(feature.Description(), cause.test, cause.holdsWithoutValue)
                               : 0;
