@@ -9,6 +9,7 @@
 
 #include "console.h"
 #include "cxstring.h"
+#include "galleryrun.h"
 #include "previewoptions.h"
 #include "previewrun.h"
 
@@ -59,6 +60,9 @@ o7::ExitCode runPreview(const std::vector<std::wstring>& words)
         return o7::ExitCode::Done;
     }
     const ComApartment apartment;
+    if (parsed.options.gallery) {
+        return o7::runGallery(parsed.options);
+    }
     return o7::PreviewRun(parsed.options, programFolder()).run();
 }
 

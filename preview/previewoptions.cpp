@@ -33,6 +33,9 @@ constexpr std::wstring_view kUsage =
     L"  --snapshot FILE  visit every page, write what is on them as text, cancel\n"
     L"  --user-dir DIR   where accepted settings are kept\n"
     L"  --family N       run with another device family (feature 285), keep nothing\n"
+    L"  --gallery        show every control in every state; takes --shots and --snapshot\n"
+    L"  --mirrored       the gallery right to left\n"
+    L"  --classic        the gallery without themes\n"
     L"  --help           this text\n"
     L"\n"
     L"Ends with 0 when everything asked for was done, 1 when something failed,\n"
@@ -117,6 +120,28 @@ constexpr std::array<OptionRow, 9> kOptions{{
     {L"--family", setFamily},
 }};
 
+struct FlagRow
+{
+    std::wstring_view name;
+    bool PreviewOptions::*field;
+};
+
+constexpr std::array<FlagRow, 5> kFlags{{
+    {L"--gallery", &PreviewOptions::gallery},
+    {L"--mirrored", &PreviewOptions::mirrored},
+    {L"--classic", &PreviewOptions::classic},
+    {L"--help", &PreviewOptions::help},
+    {L"-h", &PreviewOptions::help},
+}};
+
+/// What is wrong with options that are right one by one; empty when nothing is.
+std::wstring_view conflictIn(const PreviewOptions& options)
+{
+    return (options.mirrored || options.classic) && !options.gallery
+               ? L"Options --mirrored and --classic go with --gallery."
+               : L"";
+}
+
 } // namespace
 
 ParsedOptions parsePreviewOptions(std::span<const std::wstring> words)
@@ -124,8 +149,9 @@ ParsedOptions parsePreviewOptions(std::span<const std::wstring> words)
     ParsedOptions result;
     for (std::size_t i = 0; i < words.size(); ++i) {
         const std::wstring& word = words[i];
-        if (word == L"--help" || word == L"-h") {
-            result.options.help = true;
+        if (const auto* const flag = std::ranges::find(kFlags, word, &FlagRow::name);
+            flag != kFlags.end()) {
+            result.options.*flag->field = true;
             continue;
         }
         const std::size_t equals = word.find(L'=');
@@ -147,6 +173,7 @@ ParsedOptions parsePreviewOptions(std::span<const std::wstring> words)
             return result;
         }
     }
+    result.error = conflictIn(result.options);
     return result;
 }
 

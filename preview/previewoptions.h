@@ -28,6 +28,9 @@ struct PreviewOptions
     std::wstring snapshotFile;   ///< empty: no snapshot
     std::wstring userDirectory;  ///< empty: the person's application directory
     std::optional<int> family;   ///< another value of feature 285
+    bool gallery = false;        ///< the controls themselves instead of a product
+    bool mirrored = false;       ///< the gallery right to left
+    bool classic = false;        ///< the gallery without themes
     bool help = false;
 
     /// The mode to open: as given, else the one that the entry shows something in.

@@ -11,7 +11,7 @@
 #include "console.h"
 #include "cpsuientry.h"
 #include "datamodelids.h"
-#include "orvikexception.h"
+#include "displayedexceptions.h"
 #include "productcatalogue.h"
 #include "productsession.h"
 #include "uimanager.h"
@@ -31,27 +31,6 @@ std::wstring wide(const CXString& text)
 {
     return std::wstring(text.View());
 }
-
-/// Nobody is there to close a message box, so exceptions that a window procedure swallowed become
-/// failures of the run.
-class DisplayedExceptions
-{
-public:
-    DisplayedExceptions()
-    {
-        s_texts.clear();
-        OrvikException::SetDisplayHook(
-            [](const ExceptionDisplay& display) { s_texts.push_back(wide(display.text)); });
-    }
-    DisplayedExceptions(const DisplayedExceptions&) = delete;
-    DisplayedExceptions& operator=(const DisplayedExceptions&) = delete;
-    ~DisplayedExceptions() { OrvikException::SetDisplayHook(nullptr); }
-
-    const std::vector<std::wstring>& texts() const { return s_texts; }
-
-private:
-    static inline std::vector<std::wstring> s_texts; // the hook is a plain function
-};
 
 } // namespace
 

@@ -4,6 +4,7 @@
 #include <wrl/client.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdio>
 #include <stdexcept>
 #include <string>
@@ -40,11 +41,8 @@ using MemoryDc = std::unique_ptr<std::remove_pointer_t<HDC>, MemoryDcDeleter>;
 
 WindowPicture::WindowPicture(HWND window)
 {
-    RECT client{};
-    GetClientRect(window, &client);
-    m_size = {client.right, client.bottom};
-    POINT origin{};
-    ClientToScreen(window, &origin);
+    const RECT inside = place(window);
+    m_size = {inside.right - inside.left, inside.bottom - inside.top};
 
     BITMAPINFO info{};
     info.bmiHeader = {.biSize = sizeof info.bmiHeader,
@@ -65,10 +63,10 @@ WindowPicture::WindowPicture(HWND window)
     if (!m_bitmap || !memory) {
         throw std::runtime_error("The picture could not be taken: no bitmap of that size.");
     }
-    m_pixels = static_cast<const DWORD*>(pixels);
+    m_pixels = static_cast<DWORD*>(pixels);
     HGDIOBJ before = SelectObject(memory.get(), m_bitmap.get());
-    const BOOL copied = BitBlt(memory.get(), 0, 0, m_size.cx, m_size.cy, screen.get(), origin.x,
-                               origin.y, SRCCOPY | CAPTUREBLT);
+    const BOOL copied = BitBlt(memory.get(), 0, 0, m_size.cx, m_size.cy, screen.get(), inside.left,
+                               inside.top, SRCCOPY | CAPTUREBLT);
     GdiFlush();
     SelectObject(memory.get(), before);
     if (!copied) {
@@ -85,6 +83,28 @@ void WindowPicture::bringToFront(HWND window)
     const LONG x = std::max(work.left, std::min(frame.left, work.right - frame.right + frame.left));
     const LONG y = std::max(work.top, std::min(frame.top, work.bottom - frame.bottom + frame.top));
     SetWindowPos(window, HWND_TOPMOST, x, y, 0, 0, SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+RECT WindowPicture::place(HWND window)
+{
+    RECT inside{};
+    GetClientRect(window, &inside);
+    // As a rectangle: of a mirrored window the left edge of the screen is the right one.
+    MapWindowPoints(window, nullptr, reinterpret_cast<POINT*>(&inside), 2);
+    return inside;
+}
+
+void WindowPicture::take(const WindowPicture& other, const RECT& area)
+{
+    const RECT all{0, 0, std::min(m_size.cx, other.m_size.cx),
+                   std::min(m_size.cy, other.m_size.cy)};
+    RECT part{};
+    IntersectRect(&part, &area, &all);
+    for (LONG y = part.top; y < part.bottom; ++y) {
+        const DWORD* const line = other.m_pixels + std::ptrdiff_t{y} * other.m_size.cx;
+        std::copy(line + part.left, line + part.right,
+                  m_pixels + std::ptrdiff_t{y} * m_size.cx + part.left);
+    }
 }
 
 bool WindowPicture::isBlank() const

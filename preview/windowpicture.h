@@ -16,8 +16,14 @@ public:
     /// Copies the pixels from the screen, so nothing may lie over the window (see bringToFront).
     explicit WindowPicture(HWND window);
 
+    /// What of the screen a picture of the window shows, in pixels.
+    static RECT place(HWND window);
+
     /// Puts the window wholly on the screen and above all others.
     static void bringToFront(HWND window);
+
+    /// Takes an area (pixels of the window's inside) from another picture of the same window.
+    void take(const WindowPicture& other, const RECT& area);
 
     /// True when every pixel has the same colour: then nothing was painted.
     bool isBlank() const;
@@ -33,7 +39,7 @@ private:
 
     SIZE m_size{};
     std::unique_ptr<std::remove_pointer_t<HBITMAP>, BitmapDeleter> m_bitmap;
-    const DWORD* m_pixels = nullptr; ///< owned by the bitmap
+    DWORD* m_pixels = nullptr; ///< owned by the bitmap
 };
 
 } // namespace o7

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "controlsbench.h"
 #include "report.h"
 #include "routingbench.h"
 #include "sheetbench.h"
@@ -22,6 +23,7 @@ constexpr struct
     void (*measure)(o7::bench::Report&, const std::wstring&);
 } kMeasurements[] = {
     {L"raw-sheet", &o7::bench::benchRawSheet},
+    {L"controls", &o7::bench::benchControls},
     {L"routing", &o7::bench::benchRouting},
 };
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "allocations.h"
+#include "clock.h"
 #include "isolationaware.h"
 #include "report.h"
 #include "sessionopener.h"
@@ -45,14 +46,10 @@ constexpr UIRootRecord kRoot = {DataModelIds::kValueFamily8430, UIMode::Printing
 
 template <class Call> double nanosecondsPerCall(int calls, Call call)
 {
-    LARGE_INTEGER frequency, start, end;
-    QueryPerformanceFrequency(&frequency);
-    QueryPerformanceCounter(&start);
+    const double start = microsecondsNow();
     for (int index = 0; index < calls; ++index)
         call();
-    QueryPerformanceCounter(&end);
-    return static_cast<double>(end.QuadPart - start.QuadPart) * 1e9 /
-           static_cast<double>(frequency.QuadPart) / calls;
+    return (microsecondsNow() - start) * 1000 / calls;
 }
 
 void addUnwanted(Report& report, test::SheetRig& rig)

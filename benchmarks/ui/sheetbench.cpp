@@ -9,6 +9,7 @@
 #include <memory>
 #include <stdexcept>
 
+#include "clock.h"
 #include "idledriver.h"
 #include "rawsheet.h"
 #include "report.h"
@@ -26,18 +27,6 @@ namespace o7::bench {
 namespace {
 
 constexpr int kRuns = 9;
-
-double now()
-{
-    static const double perMillisecond = [] {
-        LARGE_INTEGER frequency;
-        QueryPerformanceFrequency(&frequency);
-        return static_cast<double>(frequency.QuadPart) / 1000.0;
-    }();
-    LARGE_INTEGER counter;
-    QueryPerformanceCounter(&counter);
-    return static_cast<double>(counter.QuadPart) / perMillisecond;
-}
 
 /// Memory in use on all heaps of the process: what the sheet's objects and windows really hold,
 /// however the heaps grow.
@@ -78,7 +67,7 @@ Times timeSheet(const Run& open, int pages)
     double mark = 0;
     const double memoryBefore = heapKilobytes();
     const auto lap = [&mark] {
-        const double time = now();
+        const double time = millisecondsNow();
         const double passed = time - mark;
         mark = time;
         return passed;
@@ -109,7 +98,7 @@ Times timeSheet(const Run& open, int pages)
         return true;
     });
     const test::IdleDriver driver(std::move(steps), 20000);
-    mark = now();
+    mark = millisecondsNow();
     open();
     times.close = lap();
     if (!driver.failure().empty())

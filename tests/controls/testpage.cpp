@@ -23,7 +23,9 @@ TestPage::TestPage()
     m_page = ::CreateDialogParamW(IsolationAware::moduleInstance(),
                                   MAKEINTRESOURCEW(O7_DIALOG_EMPTY_PAGE), m_frame.get(),
                                   &TestPage::procedure, reinterpret_cast<LPARAM>(this));
+    // What a sheet does to its pages: Tab and the arrow keys then find the controls on them.
     ::SetWindowLongPtrW(m_page, GWL_STYLE, WS_CHILD | DS_SETFONT);
+    ::SetWindowLongPtrW(m_page, GWL_EXSTYLE, WS_EX_CONTROLPARENT);
     ::EnableWindow(m_page, TRUE);
     ::ShowWindow(m_page, SW_SHOW);
     m_services.getDialogConversion().initDialogConversions(m_page);
@@ -74,13 +76,16 @@ INT_PTR CALLBACK TestPage::procedure(HWND window, UINT message, WPARAM wParam, L
         ::SetWindowLongPtrW(window, DWLP_USER, lParam);
     }
     auto* page = reinterpret_cast<TestPage*>(::GetWindowLongPtrW(window, DWLP_USER));
+    const _UIWindowsMessage packed{UIMessageKind::TabPage, window, message, wParam, lParam};
     if (page != nullptr && page->onMessage) {
-        page->onMessage({UIMessageKind::TabPage, window, message, wParam, lParam});
+        page->onMessage(packed);
     }
     if (page != nullptr && message == WM_COMMAND) {
         page->commands.push_back({LOWORD(wParam), HIWORD(wParam)});
     }
-    return FALSE;
+    const bool isClaimed =
+        page != nullptr && page->handler != nullptr && page->handler->handleMessage(packed);
+    return isClaimed ? packed.result : FALSE;
 }
 
 WindowWatch::WindowWatch(std::function<void(HWND)> beforeDestruction)

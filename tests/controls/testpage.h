@@ -44,6 +44,8 @@ public:
 
     /// Sees every message of the page first.
     std::function<void(const _UIWindowsMessage&)> onMessage;
+    /// Is offered every message after that, as a page of a sheet offers them (borrowed).
+    UIMessageHandler* handler = nullptr;
 
 private:
     static INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

@@ -51,57 +51,6 @@ protected:
     IComboListControl& m_list = m_combo;
 };
 
-TEST_F(UIComboBox, AnswersNeutrallyWhenEmpty)
-{
-    EXPECT_EQ(-1, m_list.getSelection(true));
-    EXPECT_EQ(0, m_list.getSelection(false));
-    EXPECT_EQ(nullptr, m_list.getItemData(0));
-    EXPECT_TRUE(m_list.getItemText(0).IsEmpty());
-    m_list.setItemUnavailable(true, 0);
-    EXPECT_FALSE(m_list.isItemAvailable(0));
-}
-
-TEST_F(UIComboBox, KeepsTextsRecordsAndTheSelection)
-{
-    fill({L"a4", L"letter", L"FOLIO"});
-    EXPECT_EQ(3, m_list.addItem(L"no record"));
-    EXPECT_EQ(4, m_list.getCount());
-    EXPECT_EQ(L"letter", m_list.getItemText(1));
-    EXPECT_EQ(&m_records[1], m_list.getItemData(1));
-    EXPECT_EQ(nullptr, m_list.getItemData(3));
-    EXPECT_EQ(nullptr, m_list.getItemData(9));
-
-    EXPECT_EQ(2, m_list.findItemById(12));
-    m_list.setItemData(1, nullptr); // an entry without a record is passed over
-    EXPECT_EQ(2, m_list.findItemById(12));
-    EXPECT_EQ(-1, m_list.findItemById(11));
-
-    constexpr bool kAvailable[] = {true, false, false, false, false};
-    for (int index = 0; index < 5; ++index) {
-        EXPECT_EQ(kAvailable[index], m_list.isItemAvailable(index)) << index;
-    }
-
-    m_list.setSelection(2);
-    EXPECT_EQ(2, m_list.getSelection(false));
-    m_list.setSelection(-1);
-    EXPECT_EQ(0, m_list.getSelection(false));
-    EXPECT_EQ(-1, m_list.getSelection(true));
-    EXPECT_TRUE(m_page.commands.empty()) << "filling and selecting from code is silent";
-
-    m_list.removeAllItems();
-    EXPECT_EQ(0, m_list.getCount());
-}
-
-TEST_F(UIComboBox, GivesTextsAwayUpTo258Characters)
-{
-    int index = 0;
-    for (const int length : {258, 259, 400}) {
-        m_list.addItem(
-            CXString(std::wstring_view(std::wstring(static_cast<std::size_t>(length), L'x'))));
-        EXPECT_EQ(length == 258 ? 258 : 0, m_list.getItemText(index++).GetLength());
-    }
-}
-
 TEST_F(UIComboBox, TakesTheHeightOfItsFont)
 {
     const int height = o7::TextMeasure(m_page.font()).fontHeight();
@@ -111,19 +60,6 @@ TEST_F(UIComboBox, TakesTheHeightOfItsFont)
         ::SendMessageW(m_list.getHwnd(), CB_GETITEMHEIGHT, static_cast<WPARAM>(-1), 0);
     EXPECT_GE(field, height);
     EXPECT_LE(field, height + 2);
-}
-
-TEST_F(UIComboBox, RepaintsOnceWhenAnEntryBecomesUnavailable)
-{
-    fill({L"a4", L"letter"});
-    for (const bool unavailable : {true, false}) {
-        for (const bool isNew : {true, false}) {
-            ::ValidateRect(m_list.getHwnd(), nullptr);
-            m_list.setItemUnavailable(unavailable, 1);
-            EXPECT_EQ(isNew, ::GetUpdateRect(m_list.getHwnd(), nullptr, FALSE) != FALSE);
-            EXPECT_EQ(!unavailable, m_list.isItemAvailable(1));
-        }
-    }
 }
 
 TEST_F(UIComboBox, DropsAsWideAsItsWidestEntryAndItsScrollBar)
@@ -160,101 +96,22 @@ TEST_F(UIComboBox, FillsManyEntriesWithOneChangeOfWidth)
     EXPECT_EQ(widthFor(longest), droppedWidth());
 }
 
-TEST_F(UIComboBox, ArrowKeysPassOverUnavailableEntries)
+TEST_F(UIComboBox, TheWheelPassesOverUnavailableEntries)
 {
-    struct Row
+    fill({L"a", L"B", L"c", L"d"});
+    m_list.setSelection(0);
+    struct Turn
     {
-        const char* what = "";
-        std::initializer_list<const wchar_t*> entries{}; ///< in capitals: unavailable
-        int selected = 0;
-        WPARAM key = 0;
-        int expected = 0;
+        int by;
+        WORD held;
+        int selected;
     };
-    const Row rows[] = {
-        {"down over two", {L"a", L"B", L"C", L"d"}, 0, VK_DOWN, 3},
-        {"up over one", {L"a", L"B", L"c"}, 2, VK_UP, 0},
-        {"nothing beyond", {L"a", L"B"}, 0, VK_DOWN, 0},
-        {"plain step", {L"a", L"b", L"C"}, 0, VK_DOWN, 1},
-        {"from nothing", {L"A", L"b"}, -1, VK_DOWN, 1},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.what);
-        m_list.removeAllItems();
-        m_used = 0;
-        fill(row.entries);
-        m_list.setSelection(row.selected);
-        m_page.commands.clear();
-        ::SendMessageW(m_list.getHwnd(), WM_KEYDOWN, row.key, 0);
-        EXPECT_EQ(row.expected, m_list.getSelection(true));
-        const bool told = std::count(m_page.commands.begin(), m_page.commands.end(),
-                                     TestPage::Command{kId, CBN_SELCHANGE}) == 1;
-        EXPECT_EQ(row.expected != row.selected, told);
-    }
-}
-
-constexpr RECT kArea{0, 0, 80, 20};
-
-bool shows(HDC dc, COLORREF colour)
-{
-    for (int at = 0; at < kArea.right * kArea.bottom; ++at) {
-        if (::GetPixel(dc, at % kArea.right, at / kArea.right) == colour) {
-            return true;
-        }
-    }
-    return false;
-}
-
-struct DrawRow
-{
-    const char* what;
-    UINT item;
-    UINT state;
-    int background;
-    int text; ///< system colours
-};
-
-TEST_F(UIComboBox, DrawsItsEntriesInTheSystemsColours)
-{
-    constexpr auto kNone = static_cast<UINT>(-1);
-    constexpr UINT kChosen = ODS_SELECTED | ODS_NOFOCUSRECT;
-    constexpr DrawRow kRows[] = {
-        {"usual", 0, 0, COLOR_WINDOW, COLOR_WINDOWTEXT},
-        {"chosen", 0, kChosen, COLOR_HIGHLIGHT, COLOR_HIGHLIGHTTEXT},
-        {"unavailable", 1, 0, COLOR_WINDOW, COLOR_GRAYTEXT},
-        {"unavailable under the highlight", 1, kChosen, COLOR_WINDOW, COLOR_GRAYTEXT},
-        {"disabled", 0, ODS_DISABLED, COLOR_BTNFACE, COLOR_GRAYTEXT},
-        {"nothing", kNone, 0, COLOR_WINDOW, COLOR_WINDOW},
-    };
-    fill({L"HHHH", L"IIII"});
-    m_records[0].unavailable = false;
-    const HDC screen = ::GetDC(nullptr);
-    const o7::UniqueMemoryDc dc(::CreateCompatibleDC(screen));
-    const o7::UniqueBitmap bitmap(::CreateCompatibleBitmap(screen, kArea.right, kArea.bottom));
-    const o7::SelectedObject selected(dc.get(), bitmap.get());
-    ::ReleaseDC(nullptr, screen);
-    for (const DrawRow& row : kRows) {
-        SCOPED_TRACE(row.what);
-        ::PatBlt(dc.get(), 0, 0, kArea.right, kArea.bottom, BLACKNESS);
-        DRAWITEMSTRUCT item{};
-        item.CtlType = ODT_COMBOBOX;
-        item.CtlID = kId;
-        item.itemID = row.item;
-        item.itemState = row.state;
-        item.hwndItem = m_list.getHwnd();
-        item.hDC = dc.get();
-        item.rcItem = kArea;
-        item.itemData =
-            row.item == kNone ? ~ULONG_PTR{} : reinterpret_cast<ULONG_PTR>(&m_records[row.item]);
-        _UIWindowsMessage message;
-        message.message = WM_DRAWITEM;
-        message.lParam = reinterpret_cast<LPARAM>(&item);
-        EXPECT_TRUE(m_combo.handleMessage(message));
-        EXPECT_EQ(TRUE, message.result);
-        EXPECT_EQ(::GetSysColor(row.background),
-                  ::GetPixel(dc.get(), kArea.right - 2, kArea.bottom - 2));
-        EXPECT_TRUE(shows(dc.get(), ::GetSysColor(row.text)));
-        item.hwndItem = m_page.page();
-        EXPECT_FALSE(m_combo.handleMessage(message)) << "somebody else's entry";
+    constexpr Turn kTurns[] = {{-60, 0, 0},  {-60, 0, 2}, {-120, MK_CONTROL, 2},
+                               {-240, 0, 3}, {120, 0, 2}, {120, 0, 0}};
+    for (const Turn& turn : kTurns) {
+        ::SendMessageW(m_list.getHwnd(), WM_MOUSEWHEEL,
+                       MAKEWPARAM(turn.held, static_cast<WORD>(turn.by)), 0);
+        EXPECT_EQ(turn.selected, m_list.getSelection(true)) << turn.by;
     }
 }
 

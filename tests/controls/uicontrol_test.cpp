@@ -1,8 +1,14 @@
 // What every control does: creation, place, state, text, its end.
 
+#include "uibuttoncontrol.h"
 #include "uicheckboxcontrol.h"
 #include "uicomboboxcontrol.h"
+#include "uieditcontrol.h"
 #include "uigroupboxcontrol.h"
+#include "uilistboxcontrol.h"
+#include "uiradiobuttoncontrol.h"
+#include "uislidercontrol.h"
+#include "uispincontrol.h"
 #include "uitextcontrol.h"
 
 #include "cxstring.h"
@@ -10,11 +16,15 @@
 #include "input.h"
 #include "resourceguard.h"
 #include "testpage.h"
+#include "windowtext.h"
 
+#include <commctrl.h>
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -46,6 +56,41 @@ ControlPtr makeCombo(TestPage& page, bool)
                                                kLocation, kSize);
 }
 
+ControlPtr makeButton(TestPage& page, bool isDefault)
+{
+    return std::make_unique<UIButtonControl>(page.page(), kId, page.services(), page.font(),
+                                             kLocation, kSize, isDefault);
+}
+ControlPtr makeRadio(TestPage& page, bool)
+{
+    return std::make_unique<UIRadioButtonControl>(page.page(), kId, page.services(), page.font(),
+                                                  kLocation, kSize, WS_GROUP | WS_TABSTOP);
+}
+ControlPtr makeEdit(TestPage& page, bool bordered)
+{
+    return std::make_unique<UIEditControl>(page.page(), kId, page.services(), page.font(),
+                                           kLocation, kSize, bordered ? ES_NUMBER : WS_CHILD,
+                                           bordered, 5);
+}
+ControlPtr makeList(TestPage& page, bool bordered)
+{
+    return std::make_unique<UIListBoxControl>(page.page(), kId, page.services(), page.font(),
+                                              kLocation, kSize,
+                                              bordered ? LBS_NOINTEGRALHEIGHT : WS_CHILD, bordered);
+}
+ControlPtr makeSlider(TestPage& page, bool)
+{
+    return std::make_unique<UISliderControl>(page.page(), kId, page.services(), page.font(),
+                                             kLocation, kSize, TBS_BOTH | TBS_VERT | TBS_TOOLTIPS,
+                                             -10, 10);
+}
+ControlPtr makeSpin(TestPage& page, bool defaultStyle)
+{
+    return std::make_unique<UISpinControl>(
+        page.page(), kId, page.services(), page.font(), kLocation, kSize,
+        UDS_SETBUDDYINT | UDS_AUTOBUDDY | UDS_WRAP | WS_CHILD, defaultStyle, 1, 99999);
+}
+
 struct Kind
 {
     const char* what;
@@ -64,6 +109,19 @@ constexpr Kind kKinds[] = {
     {"three-state", makeCheck, true, L"Button", 0x50010006, true, L"check 1234 \"\" unchecked\n"},
     {"group box", makeGroup, false, L"Button", 0x50000007, true, L"group 1234 \"Paper\"\n"},
     {"combo box", makeCombo, false, L"ComboBox", 0x50210213, true, L"combo 1234 \"\"\n"},
+    {"button", makeButton, false, L"Button", 0x50010300, true, L"button 1234 \"\"\n"},
+    {"default button", makeButton, true, L"Button", 0x50010301, true, L"button 1234 \"\"\n"},
+    {"radio", makeRadio, false, L"Button", 0x50030004, true, L"radio 1234 \"\" unchecked\n"},
+    {"plain edit", makeEdit, false, L"Edit", 0x50000000, true, L"edit 1234 \"\"\n"},
+    {"edit", makeEdit, true, L"Edit", 0x50812040, true, L"edit 1234 \"\"\n"},
+    {"plain list", makeList, false, L"ListBox", 0x50000000, true, L"list 1234 \"\"\n"},
+    {"list", makeList, true, L"ListBox", 0x50A10151, true, L"list 1234 \"\"\n"},
+    {"slider", makeSlider, false, L"msctls_trackbar32", 0x50010109, true,
+     L"slider 1234 \"\" 0 of -10 to 10\n"},
+    {"plain spin", makeSpin, false, L"msctls_updown32", 0x50000013, true,
+     L"spin 1234 \"\" 1 of 1 to 99999\n"},
+    {"spin", makeSpin, true, L"msctls_updown32", 0x508000A1, true,
+     L"spin 1234 \"\" 1 of 1 to 99999\n"},
 };
 
 TEST(UIControl, CreatesItsWindowAsDescribedOnceAndAtItsFinalPlace)
@@ -85,7 +143,9 @@ TEST(UIControl, CreatesItsWindowAsDescribedOnceAndAtItsFinalPlace)
                            creation.y + creation.cy};
         EXPECT_TRUE(::EqualRect(&place, &created));
         EXPECT_EQ(kind.visible, control->getIsVisable());
-        EXPECT_EQ(page.font(), o7::test::fontOf(control->getHwnd()));
+        if (className.rfind(L"msctls", 0) != 0) { // those keep no font
+            EXPECT_EQ(page.font(), o7::test::fontOf(control->getHwnd()));
+        }
         EXPECT_FALSE(control->handleMessage({}));
         EXPECT_EQ(kind.dumped, o7::test::dumpOf(*control));
     }
@@ -207,15 +267,58 @@ TEST(UIControl, ShowsAndEnablesAtOnce)
     }
 }
 
+/// A control that has no window, as there is no parent for it.
+template <class Control, class... Arguments> Control orphan(UIServices& services, Arguments... rest)
+{
+    return Control(nullptr, 1, services, nullptr, {1, 2}, {3, 4}, rest...);
+}
+
 TEST(UIControl, WithoutAParentThereIsNoWindowAndNoHarm)
 {
     UIServices services;
-    UICheckBoxControl control(nullptr, 1, services, nullptr, {1, 2}, {3, 4}, false);
-    EXPECT_EQ(nullptr, control.getHwnd());
-    control.setShow(true);
-    control.move({1, 1}, false);
-    control.setCheck(BST_CHECKED);
-    EXPECT_EQ(BST_UNCHECKED, control.getCheck());
+    auto check = orphan<UICheckBoxControl>(services, false);
+    auto radio = orphan<UIRadioButtonControl>(services, 0U);
+    auto edit = orphan<UIEditControl>(services, 0U, true, 5);
+    auto slider = orphan<UISliderControl>(services, 0U, 1, 9);
+    auto spin = orphan<UISpinControl>(services, 0U, true, 1, 9);
+    auto button = orphan<UIButtonControl>(services, false);
+    auto combo = orphan<UIComboBoxControl>(services);
+    auto list = orphan<UIListBoxControl>(services, 0U, true);
+    for (UIControl* control : {static_cast<UIControl*>(&check), static_cast<UIControl*>(&radio),
+                               static_cast<UIControl*>(&edit), static_cast<UIControl*>(&slider),
+                               static_cast<UIControl*>(&spin), static_cast<UIControl*>(&button),
+                               static_cast<UIControl*>(&combo), static_cast<UIControl*>(&list)}) {
+        EXPECT_EQ(nullptr, control->getHwnd());
+        control->setShow(true);
+        control->setEnable(false);
+        control->move({1, 1}, false);
+        EXPECT_FALSE(o7::test::dumpOf(*control).empty());
+    }
+    check.setCheck(BST_CHECKED);
+    radio.setCheck(BST_CHECKED);
+    radio.setText(L"text");
+    EXPECT_EQ(BST_UNCHECKED, check.getCheck());
+    EXPECT_EQ(BST_UNCHECKED, radio.getCheck());
+    edit.setText(L"text");
+    edit.selectAll();
+    EXPECT_TRUE(edit.getText().IsEmpty());
+    button.setButtonDisplayName(L"name");
+    EXPECT_TRUE(button.getButtonDisplayName().IsEmpty());
+    slider.setPosition(5);
+    spin.setBuddy(nullptr);
+    spin.setPosition(5);
+    EXPECT_EQ(0, slider.getPosition());
+    EXPECT_EQ(0, spin.getPosition());
+    for (IComboListControl* entries :
+         {static_cast<IComboListControl*>(&combo), static_cast<IComboListControl*>(&list)}) {
+        EXPECT_EQ(0, entries->addItem(L"entry"));
+        entries->setSelection(0);
+        entries->setItemUnavailable(true, 0);
+        entries->removeAllItems();
+        EXPECT_EQ(0, entries->getCount());
+        EXPECT_EQ(nullptr, entries->getItemData(0));
+        EXPECT_EQ(-1, entries->findItemById(0));
+    }
 }
 
 TEST(UITextControl, ReadsAtMost259Characters)
@@ -259,6 +362,165 @@ TEST(UICheckBoxControl, ShowsStatesSilently)
     ::SendMessageW(control.getHwnd(), BM_CLICK, 0, 0);
     EXPECT_EQ(BST_CHECKED, control.getCheck());
     EXPECT_EQ((std::vector<TestPage::Command>{{kId, BN_CLICKED}}), page.commands);
+}
+
+/// A group of three, of which none is checked, and a check box behind it.
+class RadioGroup : public testing::Test
+{
+protected:
+    RadioGroup()
+    {
+        for (int i = 0; i < 3; ++i) {
+            const DWORD style = i == 0 ? WS_GROUP | WS_TABSTOP : 0;
+            m_radios.push_back(std::make_unique<UIRadioButtonControl>(
+                m_page.page(), kId + i, m_page.services(), m_page.font(), POINT{10, 10 + 12 * i},
+                SIZE{60, 10}, style));
+        }
+        m_behind =
+            std::make_unique<UICheckBoxControl>(m_page.page(), 99, m_page.services(), m_page.font(),
+                                                POINT{10, 60}, SIZE{60, 10}, false);
+        ::SetWindowLongPtrW(m_behind->getHwnd(), GWL_STYLE, WS_GROUP | 0x50010003);
+        m_page.onMessage = [this](const _UIWindowsMessage& message) {
+            if (message.message == WM_COMMAND && HIWORD(message.wParam) == BN_CLICKED) {
+                check(LOWORD(message.wParam) - kId);
+            }
+        };
+        ::SetForegroundWindow(::GetAncestor(m_page.page(), GA_ROOT));
+    }
+    void check(int chosen)
+    {
+        for (int i = 0; i < 3; ++i) {
+            m_radios[static_cast<std::size_t>(i)]->setCheck(i == chosen ? BST_CHECKED
+                                                                        : BST_UNCHECKED);
+        }
+    }
+    HWND window(std::size_t index) const { return m_radios[index]->getHwnd(); }
+
+    TestPage m_page;
+    std::vector<std::unique_ptr<UIRadioButtonControl>> m_radios;
+    std::unique_ptr<UICheckBoxControl> m_behind;
+};
+
+TEST_F(RadioGroup, ArrowKeysGoRoundInsideTheGroup)
+{
+    ::SetFocus(window(0));
+    constexpr std::pair<WORD, std::size_t> kSteps[] = {
+        {VK_DOWN, 1}, {VK_RIGHT, 2}, {VK_DOWN, 0}, {VK_UP, 2}, {VK_LEFT, 1}};
+    for (const auto& [key, reached] : kSteps) {
+        o7::test::sendKey(key);
+        EXPECT_EQ(window(reached), ::GetFocus());
+        EXPECT_EQ(BST_CHECKED, m_radios[reached]->getCheck());
+        EXPECT_EQ(L"radio " + std::to_wstring(kId + static_cast<int>(reached)) + L" \"\" checked\n",
+                  o7::test::dumpOf(*m_radios[reached]));
+    }
+}
+
+TEST_F(RadioGroup, TabStopsAtTheCheckedOneOnly)
+{
+    const auto stops = [&] {
+        std::string found;
+        for (std::size_t i = 0; i < 3; ++i) {
+            found += (::GetWindowLongPtrW(window(i), GWL_STYLE) & WS_TABSTOP) != 0 ? 'T' : '-';
+        }
+        return found;
+    };
+    EXPECT_EQ("T--", stops()) << "as the style says while none is checked";
+    constexpr std::pair<int, const char*> kChecks[] = {
+        {1, "-T-"}, {2, "--T"}, {0, "T--"}, {2, "--T"}, {-1, "--T"}};
+    for (const auto& [checked, expected] : kChecks) {
+        check(checked);
+        EXPECT_EQ(expected, stops()) << checked;
+    }
+    EXPECT_TRUE(::GetWindowLongPtrW(m_behind->getHwnd(), GWL_STYLE) & WS_TABSTOP);
+}
+
+TEST_F(RadioGroup, AMnemonicChecks)
+{
+    m_radios[1]->setText(L"&Landscape && more");
+    EXPECT_EQ(L"&Landscape && more", o7::windowText(window(1)));
+    ::SetFocus(m_behind->getHwnd());
+    o7::test::sendKey('L', {VK_MENU});
+    EXPECT_EQ(window(1), ::GetFocus());
+    EXPECT_EQ(BST_CHECKED, m_radios[1]->getCheck());
+}
+
+TEST(UIEditControl, KeepsLongTextsButLimitsTyping)
+{
+    TestPage page;
+    UIEditControl edit(page.page(), kId, page.services(), page.font(), kLocation, kSize,
+                       ES_AUTOHSCROLL, true, 3);
+    const std::wstring longText(400, L'x');
+    edit.setText(CXString(std::wstring_view(longText)));
+    EXPECT_EQ(longText, edit.getText().c_str());
+    page.commands.clear();
+    edit.setText(CXString(std::wstring_view(longText)));
+    EXPECT_TRUE(page.commands.empty()) << "the text that stands there is no change";
+
+    ::SetForegroundWindow(::GetAncestor(page.page(), GA_ROOT));
+    ::SetFocus(edit.getHwnd());
+    edit.selectAll();
+    constexpr WORD kTyped[] = {'1', '2', '3', '4'};
+    for (const WORD key : kTyped) {
+        o7::test::sendKey(key);
+    }
+    EXPECT_EQ(L"123", edit.getText());
+}
+
+TEST(UISliderControl, KeepsToItsRangeAndMovesSilently)
+{
+    TestPage page;
+    std::vector<WPARAM> told;
+    page.onMessage = [&](const _UIWindowsMessage& message) {
+        if (message.message == WM_HSCROLL) {
+            told.push_back(LOWORD(message.wParam));
+        }
+    };
+    UISliderControl slider(page.page(), kId, page.services(), page.font(), kLocation, kSize, 0, -5,
+                           5);
+    slider.setSteps(1, 4);
+    constexpr std::pair<int, int> kPositions[] = {{3, 3}, {99, 5}, {-99, -5}, {-1, -1}};
+    for (const auto& [set, reached] : kPositions) {
+        slider.setPosition(set);
+        EXPECT_EQ(reached, slider.getPosition());
+    }
+    EXPECT_TRUE(told.empty());
+    ::SetForegroundWindow(::GetAncestor(page.page(), GA_ROOT));
+    ::SetFocus(slider.getHwnd());
+    o7::test::sendKey(VK_RIGHT);
+    EXPECT_EQ(0, slider.getPosition());
+    o7::test::sendKey(VK_NEXT);
+    EXPECT_EQ(4, slider.getPosition());
+    EXPECT_FALSE(told.empty());
+}
+
+TEST(UISpinControl, CountsFarAndTellsBeforeItSteps)
+{
+    TestPage page;
+    std::vector<int> steps;
+    page.onMessage = [&](const _UIWindowsMessage& message) {
+        if (message.message == WM_NOTIFY &&
+            reinterpret_cast<const NMHDR*>(message.lParam)->code == UDN_DELTAPOS) {
+            steps.push_back(reinterpret_cast<const NMUPDOWN*>(message.lParam)->iDelta);
+        }
+    };
+    UIEditControl edit(page.page(), 8, page.services(), page.font(), {10, 40}, {40, 14}, 0, true,
+                       9);
+    UISpinControl spin(page.page(), kId, page.services(), page.font(), {50, 40}, {10, 14}, 0, true,
+                       0, 1'000'000);
+    spin.setBuddy(edit.getHwnd());
+    constexpr std::pair<int, int> kPositions[] = {
+        {70'000, 70'000}, {2'000'000, 1'000'000}, {-1, 0}};
+    for (const auto& [set, reached] : kPositions) {
+        spin.setPosition(set);
+        EXPECT_EQ(reached, spin.getPosition());
+    }
+    EXPECT_TRUE(edit.getText().IsEmpty()) << "what the buddy shows is its owner's";
+    EXPECT_TRUE(steps.empty());
+    ::SetForegroundWindow(::GetAncestor(page.page(), GA_ROOT));
+    ::SetFocus(edit.getHwnd());
+    o7::test::sendKey(VK_UP);
+    EXPECT_EQ(std::vector<int>{1}, steps);
+    EXPECT_EQ(1, spin.getPosition());
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "input.h"
 #include "resourceguard.h"
 #include "testpage.h"
+#include "tipplacement.h"
 #include "uitextcontrol.h"
 #include "uiwindowsmessage.h"
 
@@ -12,6 +13,7 @@
 
 #include <array>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -124,6 +126,67 @@ TEST_F(ToolTips, HoldTheWholeOfALabelThatIsCut)
         EXPECT_EQ(row.noticesMouse ? SS_NOTIFY : SS_CENTERIMAGE,
                   ::GetWindowLongPtrW(tool(), GWL_STYLE) & (SS_NOTIFY | SS_CENTERIMAGE));
         m_tips.DeleteToolFromToolTip(tool());
+    }
+}
+
+TEST_F(ToolTips, FollowALabelThatChanges)
+{
+    constexpr SIZE kArea{40, 12};
+    constexpr std::pair<const wchar_t*, const wchar_t*> kTexts[] = {
+        {L"The size of the paper", L"The size of the paper"},
+        {L"The type of the paper", L"The type of the paper"},
+        {L"Size", nullptr}};
+    for (const auto& [label, tip] : kTexts) {
+        m_tips.AddToolTipAndTruncatedLabel(kStatic, tool(), 0, kArea, label, m_page.font());
+        ASSERT_EQ(tip != nullptr ? 1 : 0, count());
+        if (tip != nullptr) {
+            EXPECT_EQ(tip, tipOf(tool()));
+        }
+    }
+}
+
+TEST_F(ToolTips, AreReadFromRightToLeftWhereThePageIs)
+{
+    for (const bool isMirrored : {false, true}) {
+        ::SetWindowLongPtrW(m_page.page(), GWL_EXSTYLE, isMirrored ? WS_EX_LAYOUTRTL : 0);
+        m_tips.AddToolTipAndTruncatedLabel(kStatic, tool(), 0, {10, 12}, L"label", m_page.font());
+        TTTOOLINFOW info{};
+        info.cbSize = TTTOOLINFOW_V2_SIZE;
+        info.hwnd = m_page.page();
+        info.uId = reinterpret_cast<UINT_PTR>(tool());
+        info.uFlags = TTF_IDISHWND;
+        ::SendMessageW(m_tips.getHwnd(), TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&info));
+        EXPECT_EQ(isMirrored, (info.uFlags & TTF_RTLREADING) != 0);
+    }
+}
+
+TEST(TipPlacement, IsBesideWithinTheWorkArea)
+{
+    struct Row
+    {
+        const char* what;
+        RECT part;
+        SIZE tip;
+        bool isMirrored;
+        POINT corner;
+    };
+    constexpr RECT kWork{0, 0, 1000, 700};
+    constexpr Row kRows[] = {
+        {"behind it", {100, 50, 300, 62}, {200, 20}, false, {302, 50}},
+        {"before it, read from the right", {400, 50, 600, 62}, {200, 20}, true, {198, 50}},
+        {"no room behind", {700, 50, 900, 62}, {200, 20}, false, {498, 50}},
+        {"no room before, read from the right", {100, 50, 300, 62}, {200, 20}, true, {302, 50}},
+        {"no room beside", {100, 50, 900, 62}, {200, 20}, false, {100, 64}},
+        {"nor to its own right end", {300, 50, 900, 62}, {700, 20}, false, {300, 64}},
+        {"nor below", {100, 685, 900, 697}, {200, 20}, false, {100, 663}},
+        {"at the lower edge", {100, 690, 300, 702}, {200, 20}, false, {302, 680}},
+        {"larger than the screen", {100, 50, 300, 62}, {1200, 20}, false, {0, 64}},
+    };
+    for (const Row& row : kRows) {
+        SCOPED_TRACE(row.what);
+        const POINT corner = o7::placeBeside(row.part, row.tip, kWork, row.isMirrored);
+        EXPECT_EQ(row.corner.x, corner.x);
+        EXPECT_EQ(row.corner.y, corner.y);
     }
 }
 

@@ -104,17 +104,24 @@ protected:
         return outcome;
     }
 
-    /// Chooses the next value in the list of sides by keyboard, then presses the closing key.
-    static void chooseNextSidesAndClose(DWORD processId, bool pageIsSecond, WORD closingKey)
+    /// False when the program's window did not come up and get the keyboard.
+    static bool waitForSheet(DWORD processId)
     {
         WindowSearch search{processId, nullptr};
-        ASSERT_TRUE(o7::test::pumpUntil(
+        const bool isThere = o7::test::pumpUntil(
             [&] {
                 EnumWindows(considerWindow, reinterpret_cast<LPARAM>(&search));
                 return search.found && GetForegroundWindow() == search.found;
             },
-            10000));
+            10000);
         o7::test::pumpUntilQuiet(300); // the other process paints its first page
+        return isThere;
+    }
+
+    /// Chooses the next value in the list of sides by keyboard, then presses the closing key.
+    static void chooseNextSidesAndClose(DWORD processId, bool pageIsSecond, WORD closingKey)
+    {
+        ASSERT_TRUE(waitForSheet(processId));
         if (pageIsSecond) {
             o7::test::sendKey(VK_TAB, {VK_CONTROL});
         }
@@ -204,6 +211,28 @@ TEST_F(PreviewProgram, SnapshotIsTheSameTwice)
     const std::string first = readFile(m_folder / "first.txt");
     EXPECT_EQ(first, readFile(m_folder / "second.txt"));
     EXPECT_GT(std::ranges::count(first, '\n'), 20);
+}
+
+TEST_F(PreviewProgram, GalleryTakesItsPicturesAndClosesByEscape)
+{
+    const fs::path shots = m_folder / "gallery";
+    const Outcome pictures =
+        run(L"--gallery --shots \"" + shots.wstring() + L"\"" + snapshotOption("gallery.txt"));
+    EXPECT_EQ(pictures.exitCode, 0u) << pictures.errors;
+    EXPECT_EQ(pictures.errors, "");
+    EXPECT_EQ(std::distance(fs::directory_iterator(shots), {}), 5);
+    EXPECT_TRUE(contains(readFile(m_folder / "gallery.txt"), "Combo box, Unavailable"));
+
+    const Outcome closed = run(L"--gallery --mirrored", [](DWORD processId) {
+        ASSERT_TRUE(waitForSheet(processId));
+        o7::test::sendKey(VK_ESCAPE);
+    });
+    EXPECT_EQ(closed.exitCode, 0u) << closed.errors;
+
+    std::ofstream(m_folder / "file") << "no folder";
+    const Outcome failed = run(L"--gallery --shots \"" + (m_folder / "file").wstring() + L"\"");
+    EXPECT_EQ(failed.exitCode, 1u);
+    EXPECT_TRUE(contains(failed.errors, "could not be made")) << failed.errors;
 }
 
 TEST_F(PreviewProgram, UnknownLanguageFallsBackAndSaysSo)

@@ -32,6 +32,9 @@ const RefusedRow kRefused[] = {
     {"entry", {L"--entry", L"Sheet"}, L"sheet, cpsui, dialog or child"},
     {"language as a path", {L"--lang", L"..\\de"}, L"a language such as"},
     {"language too short", {L"--lang", L"d"}, L"a language such as"},
+    {"mirrored without gallery", {L"--mirrored"}, L"go with --gallery"},
+    {"classic without gallery", {L"--classic", L"--mode=2"}, L"go with --gallery"},
+    {"flag with a value", {L"--gallery=1"}, L"Unknown option \"--gallery\""},
     {"family beyond any number", {L"--family", L"84308430843084"}, L"a number such as 8430"},
 };
 
@@ -60,6 +63,18 @@ TEST(PreviewOptions, BothSpellingsAreTheSame)
         EXPECT_EQ(options.userDirectory, L"u");
         EXPECT_FALSE(options.unattended());
     }
+}
+
+TEST(PreviewOptions, FlagsStandAloneInAnyOrder)
+{
+    const auto [options, error] =
+        o7::parsePreviewOptions(Words{L"--mirrored", L"--shots", L"d", L"--gallery"});
+    EXPECT_TRUE(error.empty());
+    EXPECT_TRUE(options.gallery);
+    EXPECT_TRUE(options.mirrored);
+    EXPECT_FALSE(options.classic);
+    EXPECT_EQ(options.shotsDirectory, L"d");
+    EXPECT_FALSE(o7::parsePreviewOptions(Words{}).options.gallery);
 }
 
 TEST(PreviewOptions, DialogEntryOpensTheModeThatHasOne)

@@ -11,6 +11,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "messagerecorder.h"
 #include "orvikexception.h"
 #include "uidialogprocedure.h"
 #include "uihandles.h"
@@ -87,6 +88,22 @@ protected:
 private:
     o7::UniqueWindow m_window;
 };
+
+TEST_F(MessagePathTest, ControlsHearOfChangedColoursAndSettings)
+{
+    const HWND child = CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 0, 5, 5, window(), nullptr,
+                                       nullptr, nullptr);
+    MessageRecorder recorder(child);
+    for (const Route& route : kRoutes) {
+        const bool isParent = route.kind != UIMessageKind::OffTab; // a sheet tells its pages itself
+        for (const UINT message :
+             {UINT{WM_SYSCOLORCHANGE}, UINT{WM_SETTINGCHANGE}, UINT{WM_USER}}) {
+            route.call(window(), message, 0, 0);
+        }
+        EXPECT_EQ(recorder.messages().size(), isParent ? 2U : 0U) << route.name;
+        recorder.clear();
+    }
+}
 
 TEST_F(MessagePathTest, EveryProcedureRoutesItsKindAndSwallowsWhatIsThrown)
 {

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <commctrl.h>
 #include <prsht.h>
 
 #include "idledriver.h"
@@ -164,6 +165,99 @@ TEST_F(SheetTest, AMnemonicReachesItsList)
         key(VK_ESCAPE),
     });
     EXPECT_EQ(focused, wanted);
+}
+
+/// Gives a list the keyboard and drops it.
+IdleDriver::Step drop(const wchar_t* label)
+{
+    return [=](HWND sheet) {
+        const HWND list = sheet ? findListBehind(sheet, label) : nullptr;
+        if (!list)
+            return false;
+        SetFocus(list);
+        SendMessageW(list, CB_SHOWDROPDOWN, TRUE, 0);
+        return true;
+    };
+}
+
+/// Moves the mouse to the middle of an entry of the open list.
+IdleDriver::Step pointAt(const wchar_t* label, int entry)
+{
+    return [=](HWND sheet) {
+        COMBOBOXINFO info{};
+        info.cbSize = sizeof info;
+        GetComboBoxInfo(findListBehind(sheet, label), &info);
+        RECT place{};
+        SendMessageW(info.hwndList, LB_GETITEMRECT, static_cast<WPARAM>(entry),
+                     reinterpret_cast<LPARAM>(&place));
+        MapWindowPoints(info.hwndList, nullptr, reinterpret_cast<POINT*>(&place), 2);
+        SetCursorPos((place.left + place.right) / 2, (place.top + place.bottom) / 2);
+        pumpUntilQuiet();
+        return true;
+    };
+}
+
+bool isTipShown()
+{
+    bool shown = false;
+    EnumThreadWindows(
+        GetCurrentThreadId(),
+        [](HWND window, LPARAM found) -> BOOL {
+            wchar_t name[32]{};
+            GetClassNameW(window, name, 32);
+            const bool isTip = std::wstring(name) == TOOLTIPS_CLASSW && IsWindowVisible(window);
+            *reinterpret_cast<bool*>(found) |= isTip;
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&shown));
+    return shown;
+}
+
+TEST_F(SheetTest, AnOpenListExplainsWhatItDoesNotOffer)
+{
+    constexpr int kEnvelopeDl = 5116;
+    constexpr int kEnvelope = 5136;
+    setOption(kPaperSize, kEnvelopeDl);
+    const int before = option(kPaperType);
+    ASSERT_NE(before, kEnvelope);
+    runSheet({
+        drop(L"Paper type:"),
+        pointAt(L"Paper type:", 1),
+        until([](HWND) { return isTipShown(); }),
+        key(VK_ESCAPE),
+        until([&](HWND) { return !isTipShown() && option(kPaperType) == before; }),
+        drop(L"Paper type:"),
+        key(VK_DOWN), // there is only one that goes with an envelope
+        until([&](HWND) { return isTipShown() && option(kPaperType) == kEnvelope; }),
+        key(VK_ESCAPE),
+        until([](HWND) { return !isTipShown(); }),
+        key(VK_ESCAPE),
+    });
+}
+
+TEST_F(SheetTest, WhatAListShowsAfterTheMouseWentOverItIsWhatWasTaken)
+{
+    const int before = option(kSides);
+    constexpr int kLast = 2;
+    int shown = -1;
+    for (const WORD ending : {WORD{VK_ESCAPE}, WORD{VK_RETURN}}) {
+        runSheet({
+            drop(L"Sides:"),
+            pointAt(L"Sides:", kLast),
+            key(ending),
+            until([&](HWND sheet) {
+                const HWND list = findListBehind(sheet, L"Sides:");
+                shown = static_cast<int>(SendMessageW(list, CB_GETCURSEL, 0, 0));
+                return SendMessageW(list, CB_GETDROPPEDSTATE, 0, 0) == FALSE;
+            }),
+            [&](HWND) {
+                EXPECT_EQ(ending == VK_RETURN, shown == kLast);
+                EXPECT_EQ(ending == VK_RETURN, option(kSides) != before);
+                return true;
+            },
+            key(VK_ESCAPE),
+        });
+    }
 }
 
 TEST_F(SheetTest, OpeningAndClosingLeavesNothingBehind)

@@ -1,6 +1,7 @@
 #include "itextcontrol.h"
 
 #include "uicontrol.h"
+#include "windowtext.h"
 
 #include <array>
 
@@ -14,7 +15,9 @@ CXString ITextControl::getText() const
 
 void ITextControl::setText(const CXString& text)
 {
-    ::SetDlgItemTextW(m_control->getParentHwnd(), m_control->getId(), text.c_str());
+    if (o7::windowText(getHwnd()) != text) {
+        ::SetDlgItemTextW(m_control->getParentHwnd(), m_control->getId(), text.c_str());
+    }
 }
 
 void ITextControl::move(POINT delta)

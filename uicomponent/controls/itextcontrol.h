@@ -22,7 +22,7 @@ public:
 
     /// The text (GetDlgItemTextW of the parent); at most 259 characters, the rest is cut.
     CXString getText() const;
-    /// Sets the text (SetDlgItemTextW of the parent).
+    /// Sets the text (SetDlgItemTextW of the parent), unless the control shows it already.
     void setText(const CXString& text);
     /// Moves by a difference in dialog units.
     void move(POINT delta);

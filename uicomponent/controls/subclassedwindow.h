@@ -15,6 +15,8 @@ namespace o7 {
 /// names itself for error messages (kProcedureName, kSource), makes this base its friend, and calls
 /// restoreProcedure in its destructor, before the window goes.
 ///
+/// An Owner that is a UIControl hears of what screen readers ask on the way.
+///
 /// When the window is destroyed first (with its parent), the procedure is restored at WM_NCDESTROY
 /// and Owner::forgetWindow() is called, so that nobody touches the dead handle.
 template <class Owner> class SubclassedWindow
@@ -71,6 +73,9 @@ private:
             const auto classProcedure =
                 reinterpret_cast<WNDPROC>(::GetClassLongPtrW(window, GCLP_WNDPROC));
             return ::CallWindowProcW(classProcedure, window, message, wParam, lParam);
+        }
+        if constexpr (requires { owner->onAccessibilityMessage(message); }) {
+            owner->onAccessibilityMessage(message);
         }
         if (message == WM_NCDESTROY) {
             const WNDPROC saved = owner->m_savedProcedure;

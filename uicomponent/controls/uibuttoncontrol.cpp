@@ -44,7 +44,7 @@ void UIButtonControl::setButtonDisplayName(const CXString& name) const
 {
     CXString shown = name;
     shown.Replace(CXString(L"&"), CXString(L"&&"));
-    SetWindowTextW(getHwnd(), shown.c_str());
+    o7::setWindowTextIfDifferent(getHwnd(), shown);
 }
 
 void UIButtonControl::dump() const

@@ -1,5 +1,6 @@
 #include "uicheckboxcontrol.h"
 
+#include "checkstate.h"
 #include "cxstring.h"
 
 namespace {
@@ -7,13 +8,6 @@ namespace {
 constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
 static_assert((kStyle | BS_AUTOCHECKBOX) == 0x50010003);
 static_assert((kStyle | BS_AUTO3STATE) == 0x50010006);
-
-const wchar_t* stateName(int state)
-{
-    return state == BST_CHECKED     ? L"checked"
-           : state == BST_UNCHECKED ? L"unchecked"
-                                    : L"indeterminate";
-}
 
 } // namespace
 
@@ -29,17 +23,15 @@ UICheckBoxControl::~UICheckBoxControl() = default;
 
 void UICheckBoxControl::dump() const
 {
-    dumpWindow(L"check", stateName(getCheck()));
+    dumpWindow(L"check", o7::checkStateName(getCheck()));
 }
 
 int UICheckBoxControl::getCheck() const
 {
-    return static_cast<int>(::SendMessageW(getHwnd(), BM_GETCHECK, 0, 0));
+    return o7::checkState(getHwnd());
 }
 
 void UICheckBoxControl::setCheck(int state)
 {
-    if (getCheck() != state) {
-        ::SendMessageW(getHwnd(), BM_SETCHECK, static_cast<WPARAM>(state), 0);
-    }
+    o7::setCheckState(getHwnd(), state);
 }

@@ -1,9 +1,11 @@
 #include "uicontrol.h"
 
+#include "accessibility.h"
 #include "dialogconversion.h"
 #include "isolationaware.h"
 #include "uidump.h"
 #include "uiservices.h"
+#include "uiwindowsmessage.h"
 #include "windowtext.h"
 
 #include <cstdlib>
@@ -65,31 +67,82 @@ void UIControl::setShow(bool show)
 void UIControl::move(POINT delta, bool inPixels)
 {
     const RECT distance = toPixels({0, 0, std::abs(delta.x), std::abs(delta.y)}, inPixels);
-    m_x += withSignOf(delta.x, distance.right);
-    m_y += withSignOf(delta.y, distance.bottom);
-    placeWindow();
+    placeWindow(
+        {m_x + withSignOf(delta.x, distance.right), m_y + withSignOf(delta.y, distance.bottom)},
+        {m_width, m_height});
 }
 
 void UIControl::setLocation(POINT location, bool inPixels)
 {
     const RECT place = toPixels({location.x, location.y, location.x, location.y}, inPixels);
-    m_x = place.left;
-    m_y = place.top;
-    placeWindow();
+    placeWindow({place.left, place.top}, {m_width, m_height});
 }
 
 void UIControl::setSize(SIZE size, bool inPixels)
 {
     const RECT place = toPixels({0, 0, size.cx, size.cy}, inPixels);
-    m_width = place.right;
-    m_height = place.bottom;
-    placeWindow();
+    placeWindow({m_x, m_y}, {place.right, place.bottom});
+}
+
+DRAWITEMSTRUCT* UIControl::itemToDraw(const _UIWindowsMessage& message) const noexcept
+{
+    if (message.message != WM_DRAWITEM) {
+        return nullptr;
+    }
+    auto* item = reinterpret_cast<DRAWITEMSTRUCT*>(message.lParam);
+    return item->hwndItem == m_window.get() ? item : nullptr;
+}
+
+void UIControl::setAccessibleName(const CXString& name)
+{
+    if (m_window) {
+        accessibility().setName(name);
+    }
+}
+
+void UIControl::setAccessibleRole(LONG role, LONG state)
+{
+    if (m_window) {
+        accessibility().setRole(role, state);
+    }
+}
+
+void UIControl::onAccessibilityMessage(UINT message) noexcept
+{
+    if (m_accessibility) {
+        m_accessibility->handleMessage(message);
+    }
+}
+
+o7::Accessibility& UIControl::accessibility()
+{
+    if (!m_accessibility) {
+        m_accessibility = std::make_unique<o7::Accessibility>(getHwnd());
+    }
+    return *m_accessibility;
+}
+
+void UIControl::repaint(bool erase, const RECT* area) const noexcept
+{
+    if (m_window) {
+        ::InvalidateRect(m_window.get(), area, erase ? TRUE : FALSE);
+    }
 }
 
 void UIControl::createControlWindow(const wchar_t* className, DWORD style)
 {
+    createBareWindow(className, style);
+    giveFont();
+}
+
+void UIControl::createBareWindow(const wchar_t* className, DWORD style)
+{
     m_window.reset(IsolationAware::createWindow(0, className, style, {m_x, m_y, m_width, m_height},
                                                 m_parent, m_id));
+}
+
+void UIControl::giveFont()
+{
     ::SendMessageW(getHwnd(), WM_SETFONT, reinterpret_cast<WPARAM>(m_parentFont), FALSE);
 }
 
@@ -105,8 +158,15 @@ void UIControl::dumpWindow(const wchar_t* kind, const CXString& addition) const
     UIDump::line(line.View());
 }
 
-void UIControl::placeWindow()
+void UIControl::placeWindow(POINT location, SIZE size)
 {
+    if (location.x == m_x && location.y == m_y && size.cx == m_width && size.cy == m_height) {
+        return;
+    }
+    m_x = location.x;
+    m_y = location.y;
+    m_width = size.cx;
+    m_height = size.cy;
     ::MoveWindow(getHwnd(), m_x, m_y, m_width, m_height, TRUE);
 }
 

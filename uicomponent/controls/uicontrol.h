@@ -6,9 +6,14 @@
 
 #include <windows.h>
 
+#include <memory>
+
 class CXString;
 class DialogConversion;
 class UIServices;
+namespace o7 {
+class Accessibility;
+}
 
 /// One child window of a page or dialog: remembers where it stands, in pixels, and owns the window.
 /// The base creates none; each concrete control creates its own in its constructor, at its final
@@ -50,30 +55,51 @@ public:
     void setShow(bool show);
     void setClearOnDisable(bool clear) noexcept { m_clearOnDisable = clear; }
 
-    /// Moves by a difference, in dialog units or in pixels, and repaints. Negative differences
-    /// convert like positive ones.
+    /// What screen readers say, where the window has no text of its own: the label of a list, an
+    /// edit, a slider. Empty: what the system finds. Takes effect once somebody asks, so it costs
+    /// nothing before.
+    void setAccessibleName(const CXString& name);
+
+    // The place changes at once, with a repaint; where the control stands already, nothing happens.
+
+    /// Moves by a difference, in dialog units or in pixels. Negative differences convert like
+    /// positive ones.
     void move(POINT delta, bool inPixels = false);
-    /// Moves to a place and repaints; the size stays.
+    /// Moves to a place; the size stays.
     void setLocation(POINT location, bool inPixels = false);
-    /// Changes the size and repaints; the place stays.
+    /// Changes the size; the place stays.
     void setSize(SIZE size, bool inPixels = false);
+    /// Has the window, or an area of it in pixels, painted anew (InvalidateRect), erased before
+    /// when wanted. Without a window nothing happens: for the system that would mean the desktop.
+    void repaint(bool erase, const RECT* area = nullptr) const noexcept;
 
 protected:
     /// Creates the window inside the module's activation context and gives it the parent's font.
     void createControlWindow(const wchar_t* className, DWORD style);
+    /// The two halves of it, for a control that has something to do between them.
+    void createBareWindow(const wchar_t* className, DWORD style);
+    void giveFont();
     void setVisibleFlag(bool visible) noexcept { m_visible = visible; }
     DialogConversion& getConversion() const noexcept { return m_conversion; }
+    /// What a WM_DRAWITEM for this control's window holds; null for every other message.
+    DRAWITEMSTRUCT* itemToDraw(const _UIWindowsMessage& message) const noexcept;
+    /// ROLE_SYSTEM_... for screen readers, and STATE_SYSTEM_... bits beside focused and disabled.
+    void setAccessibleRole(LONG role, LONG state = 0);
+    /// Has to be told each message of a window that a derived class stands before.
+    void onAccessibilityMessage(UINT message) noexcept;
     /// For WM_NCDESTROY: the handle is about to become invalid.
     void forgetWindow() noexcept { m_window.release(); }
     /// One line for dump(): kind, id, text and state of the window, then what the control adds.
     void dumpWindow(const wchar_t* kind, const CXString& addition) const;
 
 private:
-    void placeWindow();
+    void placeWindow(POINT location, SIZE size);
+    o7::Accessibility& accessibility();
     RECT toPixels(const RECT& place, bool inPixels) const;
 
     HWND m_parent;
     o7::UniqueWindow m_window;
+    std::unique_ptr<o7::Accessibility> m_accessibility; ///< goes before the window
     DialogConversion& m_conversion;
     HFONT m_parentFont;
     int m_id;

@@ -1,6 +1,7 @@
 #include "uigroupboxcontrol.h"
 
 #include "cxstring.h"
+#include "windowtext.h"
 
 namespace {
 
@@ -15,7 +16,9 @@ UIGroupBoxControl::UIGroupBoxControl(HWND parent, int id, UIServices& services, 
 {
     setVisibleFlag(true);
     createControlWindow(L"BUTTON", kStyle);
-    caption.SetWindowTextW(getHwnd());
+    if (!caption.IsEmpty()) {
+        caption.SetWindowTextW(getHwnd());
+    }
 }
 
 UIGroupBoxControl::~UIGroupBoxControl() = default;
@@ -23,4 +26,9 @@ UIGroupBoxControl::~UIGroupBoxControl() = default;
 void UIGroupBoxControl::dump() const
 {
     dumpWindow(L"group", {});
+}
+
+void UIGroupBoxControl::setCaption(const CXString& caption)
+{
+    o7::setWindowTextIfDifferent(getHwnd(), caption);
 }

@@ -11,4 +11,7 @@ public:
     ~UIGroupBoxControl() override;
 
     void dump() const override;
+
+    /// Changes the caption; nothing is repainted when the frame shows it already.
+    void setCaption(const CXString& caption);
 };

@@ -2,24 +2,30 @@
 
 #include <algorithm>
 
+#include "paintbuffer.h"
+#include "parentbackground.h"
 #include "uidump.h"
 #include "uitooltips.h"
 #include "uiwindowsmessage.h"
+#include "unmirroreddc.h"
 
 namespace {
 
 constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW;
 
-/// Lets the parent paint what lies behind the button: the tab's texture, or its plain colour.
-void drawParentBackground(HWND window, HDC dc)
+/// In the middle of the area; the right way round in right-to-left layouts too.
+void drawIcon(HDC dc, const RECT& area, const wchar_t* name)
 {
-    const HWND parent = GetParent(window);
-    POINT corner{};
-    MapWindowPoints(window, parent, &corner, 1);
-    POINT former{};
-    OffsetWindowOrgEx(dc, corner.x, corner.y, &former);
-    SendMessageW(parent, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc), 0);
-    SetWindowOrgEx(dc, former.x, former.y, nullptr);
+    const o7::UnmirroredDc unmirrored(dc, area);
+    const RECT& place = unmirrored.area();
+    const LONG width = place.right - place.left;
+    const LONG height = place.bottom - place.top;
+    const int side = static_cast<int>(std::min(width, height)) - 2;
+    // A shared icon of the system: its colours follow the person's theme, and nobody releases it.
+    const auto icon =
+        static_cast<HICON>(LoadImageW(nullptr, name, IMAGE_ICON, 0, 0, LR_SHARED | LR_DEFAULTSIZE));
+    DrawIconEx(dc, place.left + (width - side) / 2, place.top + (height - side) / 2, icon, side,
+               side, 0, nullptr, DI_NORMAL);
 }
 
 } // namespace
@@ -44,7 +50,7 @@ void UIInfoButtonControl::setMessage(std::uint32_t style, const CXString& text,
     m_title = title;
     if (style != m_style) {
         m_style = style;
-        InvalidateRect(getHwnd(), nullptr, TRUE);
+        repaint(false);
     }
     if (text == m_text)
         return;
@@ -60,11 +66,8 @@ void UIInfoButtonControl::setMessage(std::uint32_t style, const CXString& text,
 
 bool UIInfoButtonControl::handleMessage(const _UIWindowsMessage& message)
 {
-    if (message.message == WM_DRAWITEM) {
-        const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(message.lParam);
-        if (item.hwndItem != getHwnd())
-            return false;
-        draw(item);
+    if (const DRAWITEMSTRUCT* item = itemToDraw(message)) {
+        draw(*item);
         message.result = TRUE;
         return true;
     }
@@ -87,19 +90,11 @@ void UIInfoButtonControl::showMessage() const
 
 void UIInfoButtonControl::draw(const DRAWITEMSTRUCT& item) const
 {
-    drawParentBackground(getHwnd(), item.hDC);
-    const int side = static_cast<int>(std::min(item.rcItem.right - item.rcItem.left,
-                                               item.rcItem.bottom - item.rcItem.top)) -
-                     2;
-    // A shared icon of the system: its colours follow the person's theme, and nobody releases it.
-    const auto icon =
-        static_cast<HICON>(LoadImageW(nullptr, m_style == kConflict ? IDI_WARNING : IDI_INFORMATION,
-                                      IMAGE_ICON, 0, 0, LR_SHARED | LR_DEFAULTSIZE));
-    const int x = item.rcItem.left + (item.rcItem.right - item.rcItem.left - side) / 2;
-    const int y = item.rcItem.top + (item.rcItem.bottom - item.rcItem.top - side) / 2;
-    DrawIconEx(item.hDC, x, y, icon, side, side, 0, nullptr, DI_NORMAL);
+    const o7::PaintBuffer buffer(item.hDC, item.rcItem);
+    o7::drawParentBackground(getHwnd(), buffer.dc());
+    drawIcon(buffer.dc(), item.rcItem, m_style == kConflict ? IDI_WARNING : IDI_INFORMATION);
     if (item.itemState & ODS_FOCUS)
-        DrawFocusRect(item.hDC, &item.rcItem);
+        DrawFocusRect(buffer.dc(), &item.rcItem);
 }
 
 void UIInfoButtonControl::dump() const

@@ -1,5 +1,8 @@
 #include "uitextcontrol.h"
 
+#include "cxstring.h"
+#include "windowtext.h"
+
 UITextControl::UITextControl(HWND parent, int id, UIServices& services, HFONT font, POINT location,
                              SIZE size, DWORD style, bool visible, HFONT boldFont)
     : UIControl(parent, id, services, font, location, size, false), m_boldFont(boldFont)
@@ -18,13 +21,15 @@ bool UITextControl::handleMessage(const _UIWindowsMessage& /*message*/)
 
 void UITextControl::clearText() const
 {
-    ::SetWindowTextW(getHwnd(), L"");
+    o7::setWindowTextIfDifferent(getHwnd(), {});
 }
 
 void UITextControl::boldText(bool bold)
 {
-    const HFONT font = bold ? m_boldFont : getParentFont();
-    ::SendMessageW(getHwnd(), WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+    const auto font = reinterpret_cast<LPARAM>(bold ? m_boldFont : getParentFont());
+    if (::SendMessageW(getHwnd(), WM_GETFONT, 0, 0) != font) {
+        ::SendMessageW(getHwnd(), WM_SETFONT, static_cast<WPARAM>(font), TRUE);
+    }
 }
 
 void UITextControl::dump() const

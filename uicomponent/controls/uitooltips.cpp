@@ -3,6 +3,7 @@
 #include "cxstring.h"
 #include "isolationaware.h"
 #include "textmeasure.h"
+#include "tipplacement.h"
 #include "uiwindowsmessage.h"
 #include "windowtext.h"
 
@@ -16,12 +17,18 @@ static_assert(kStyle == 0x80000003);
 constexpr int kMaximumWidth = 800; ///< pixels; longer texts go on in the next line
 constexpr int kTrackingOffset = 16;
 
+/// A page laid out from right to left is read that way.
+bool isRightToLeft(HWND window)
+{
+    return (::GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
+}
+
 /// A tool without its text. The size is the one that every version of the library knows.
 TTTOOLINFOW toolInfo(HWND owner, HWND tool, UINT flags)
 {
     TTTOOLINFOW info{};
     info.cbSize = TTTOOLINFOW_V2_SIZE;
-    info.uFlags = flags;
+    info.uFlags = flags | (isRightToLeft(owner) ? TTF_RTLREADING : 0U);
     info.hwnd = owner;
     info.uId = reinterpret_cast<UINT_PTR>(tool);
     return info;
@@ -32,6 +39,15 @@ TTTOOLINFOW windowTool(HWND owner, HWND tool, HINSTANCE instance, INT_PTR text)
     TTTOOLINFOW info = toolInfo(owner, tool, TTF_IDISHWND | TTF_SUBCLASS);
     info.hinst = instance;
     info.lpszText = reinterpret_cast<wchar_t*>(text);
+    return info;
+}
+
+/// The tool that stands for a part of a window. Its number keeps it apart from the tools that stand
+/// for whole windows, by their handles. The mouse goes through its tip.
+TTTOOLINFOW placedTool(HWND window)
+{
+    TTTOOLINFOW info = toolInfo(window, nullptr, TTF_TRACK | TTF_ABSOLUTE | TTF_TRANSPARENT);
+    info.uId = 1;
     return info;
 }
 
@@ -133,6 +149,8 @@ LRESULT UIToolTips::ToolExists()
 void UIToolTips::AddToolTipAndTruncatedLabel(ControlType type, HWND control, INT_PTR extraText,
                                              SIZE area, const CXString& label, HFONT font)
 {
+    // A label that is given again, with another text or area, has its tip already.
+    DeleteToolFromToolTip(control);
     CXString tip = o7::withoutMnemonics(label);
     if (o7::TextMeasure(font).measure(tip.View()).cx <= area.cx) {
         if (extraText != 0) {
@@ -174,6 +192,46 @@ void UIToolTips::relayMouse(const _UIWindowsMessage& message)
     event.wParam = message.wParam;
     event.lParam = message.lParam;
     ::SendMessageW(getHwnd(), TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&event));
+}
+
+void UIToolTips::showPlaced(HWND window, const CXString& text,
+                            const std::function<POINT(SIZE)>& placeFor)
+{
+    hidePlaced(window);
+    TTTOOLINFOW info = placedTool(window);
+    info.uFlags |= isRightToLeft(m_owner) ? UINT{TTF_RTLREADING} : 0U; // a dropped list is not
+    info.lpszText = const_cast<wchar_t*>(text.c_str());
+    if (text.IsEmpty() || send(getHwnd(), TTM_ADDTOOLW, 0, info) == FALSE) {
+        return;
+    }
+    const auto moveTo = [&](SIZE size) {
+        const POINT place = placeFor(size);
+        ::SendMessageW(getHwnd(), TTM_TRACKPOSITION, 0, MAKELPARAM(place.x, place.y));
+    };
+    const auto expected = static_cast<DWORD>(send(getHwnd(), TTM_GETBUBBLESIZE, 0, info));
+    moveTo({LOWORD(expected), HIWORD(expected)});
+    send(getHwnd(), TTM_TRACKACTIVATE, TRUE, info);
+    // Wine foresees the size of the tip before; then this one has come out otherwise.
+    RECT shown{};
+    ::GetWindowRect(getHwnd(), &shown);
+    moveTo({shown.right - shown.left, shown.bottom - shown.top});
+}
+
+void UIToolTips::hidePlaced(HWND window)
+{
+    TTTOOLINFOW info = placedTool(window);
+    send(getHwnd(), TTM_TRACKACTIVATE, FALSE, info);
+    send(getHwnd(), TTM_DELTOOLW, 0, info);
+}
+
+void UIToolTips::showBeside(HWND window, const RECT& part, const CXString& text)
+{
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    ::GetMonitorInfoW(::MonitorFromRect(&part, MONITOR_DEFAULTTONEAREST), &monitor);
+    showPlaced(window, text, [&](SIZE size) {
+        return o7::placeBeside(part, size, monitor.rcWork, isRightToLeft(m_owner));
+    });
 }
 
 LRESULT UIToolTips::subclassWindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)

@@ -6,6 +6,8 @@
 
 #include <windows.h>
 
+#include <functional>
+
 class CXString;
 struct _UIWindowsMessage;
 
@@ -59,6 +61,16 @@ public:
     void setAreaTip(HWND control, const CXString& text);
     /// Hands a mouse message of the owner window to the tip window; other messages are ignored.
     void relayMouse(const _UIWindowsMessage& message);
+
+    /// Shows the tip of a part of a window, such as an entry of a list, until hidePlaced. It is a
+    /// tool of the tip window only for that time, and one for each window. Empty: shows nothing.
+    /// @param placeFor  gives the tip's corner for its size, both in pixels of the screen
+    void showPlaced(HWND window, const CXString& text, const std::function<POINT(SIZE)>& placeFor);
+    /// The same beside a part (pixels of the screen): after it in the direction of reading,
+    /// otherwise before or below it, always inside the work area.
+    void showBeside(HWND window, const RECT& part, const CXString& text);
+    /// Takes that tip away; harmless when none is shown.
+    void hidePlaced(HWND window);
 
     /// Passes every message on to the tip window's own procedure.
     LRESULT subclassWindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

@@ -1,6 +1,7 @@
 #include "uicomboboxmolecule.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "uicomboboxcontrol.h"
 #include "uicombocontroldata.h"
@@ -8,6 +9,7 @@
 #include "uimoleculedata.h"
 #include "uimoleculedump.h"
 #include "uitextcontrol.h"
+#include "windowtext.h"
 
 namespace {
 
@@ -54,7 +56,7 @@ void UIComboBoxMolecule::InitializeFromDescription()
     SetMinimumExtent({0, box + (labelAbove ? kTextHeight + kLabelGap : 0)});
 }
 
-void UIComboBoxMolecule::CreateLabel(UIPageWindow& page)
+void UIComboBoxMolecule::CreateLabel(UIPageWindow& page, const CXString& text)
 {
     const long labelWidth = GetLabelWidth();
     const POINT place = GetPosition();
@@ -63,20 +65,24 @@ void UIComboBoxMolecule::CreateLabel(UIPageWindow& page)
         std::make_unique<UITextControl>(page.window, page.takeId(), GetSite().services, page.font,
                                         POINT{place.x, place.y + (labelWidth ? kLabelDrop : 0)},
                                         size, SS_NOTIFY, true, page.boldFont);
-    SetWindowTextW(m_label->getHwnd(), LoadText(m_labelText).c_str());
+    SetWindowTextW(m_label->getHwnd(), text.c_str());
 }
 
 void UIComboBoxMolecule::CreateControls(UIPageWindow& page)
 {
     SetPage(page);
+    const CXString label = m_labelText ? LoadText(m_labelText) : CXString();
     if (m_labelText)
-        CreateLabel(page);
+        CreateLabel(page, label);
     const POINT place = GetPosition();
     const long labelWidth = m_labelText ? GetLabelWidth() : 0;
     m_combo = std::make_unique<UIComboBoxControl>(
         page.window, page.takeId(), GetSite().services, page.font,
         POINT{place.x + labelWidth, place.y + GetMinimumHeight() - kBoxHeight},
         SIZE{GetContentWidth() - labelWidth, kBoxHeight});
+    m_combo->setUnavailableReasons(GetToolTips(), [this](int index) { return ReasonOf(index); });
+    // The system's own name for a list is its present text.
+    m_combo->setAccessibleName(o7::spokenName(label));
 }
 
 void UIComboBoxMolecule::SetPosition(POINT position)
@@ -113,26 +119,37 @@ bool UIComboBoxMolecule::HandleMessage(const _UIWindowsMessage& message)
     if (!m_combo)
         return false;
     const HWND combo = m_combo->getHwnd();
-    if (message.message == WM_COMMAND && reinterpret_cast<HWND>(message.lParam) == combo &&
-        HIWORD(message.wParam) == CBN_SELCHANGE) {
+    if (message.message == WM_COMMAND && reinterpret_cast<HWND>(message.lParam) == combo)
+        return HandleNotification(HIWORD(message.wParam));
+    return m_combo->handleMessage(message) || ProcessCommonMessage(message);
+}
+
+bool UIComboBoxMolecule::HandleNotification(int notification)
+{
+    switch (notification) {
+    case CBN_SELCHANGE:
         ChooseEntry(m_combo->getSelection(true));
         return true;
+    case CBN_SELENDCANCEL:
+        m_choiceCancelled = true;
+        return true;
+    case CBN_CLOSEUP:
+        // The mouse moves the selection of an open list without a word. Not every system tells when
+        // Enter then takes it, or puts it back when Escape does not.
+        if (std::exchange(m_choiceCancelled, false))
+            ShowChoice();
+        else
+            ChooseEntry(m_combo->getSelection(true));
+        return true;
+    default:
+        return false;
     }
-    if (message.message == WM_DRAWITEM) {
-        const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(message.lParam);
-        if (item.hwndItem == combo) {
-            m_combo->draw(item);
-            message.result = TRUE;
-            return true;
-        }
-    }
-    return ProcessCommonMessage(message);
 }
 
 void UIComboBoxMolecule::LookChanged()
 {
     if (m_combo)
-        InvalidateRect(m_combo->getHwnd(), nullptr, TRUE);
+        m_combo->repaint(true);
 }
 
 void UIComboBoxMolecule::Show(bool shown)

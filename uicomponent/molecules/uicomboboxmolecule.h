@@ -31,9 +31,11 @@ protected:
     void FillTogether(const std::function<void()>& fill) override;
 
 private:
-    void CreateLabel(UIPageWindow& page);
+    void CreateLabel(UIPageWindow& page, const CXString& text);
+    bool HandleNotification(int notification);
 
     std::unique_ptr<UITextControl> m_label;
     std::unique_ptr<UIComboBoxControl> m_combo;
     unsigned m_labelText = 0;
+    bool m_choiceCancelled = false; ///< the list is about to close without a choice
 };

@@ -117,7 +117,8 @@ void UIComboListBaseMolecule::ShowState(const InterpretedState& state, bool enab
 
 void UIComboListBaseMolecule::ChooseEntry(int index)
 {
-    if (!List() || index < 0 || index >= static_cast<int>(m_entries.size()))
+    if (!List() || index < 0 || index >= static_cast<int>(m_entries.size()) ||
+        index == m_shownIndex)
         return;
     m_shownIndex = index; // what the list shows by now
     const auto value = static_cast<DataModelIds::tagValueEnum>(
@@ -134,6 +135,18 @@ void UIComboListBaseMolecule::ChooseEntry(int index)
 CXString UIComboListBaseMolecule::ShownText() const
 {
     return m_shownIndex < 0 ? CXString() : m_entries[static_cast<std::size_t>(m_shownIndex)].text;
+}
+
+void UIComboListBaseMolecule::ShowChoice()
+{
+    if (List())
+        List()->setSelection(m_shownIndex);
+}
+
+CXString UIComboListBaseMolecule::ReasonOf(int index) const
+{
+    const auto entry = static_cast<std::size_t>(index);
+    return index >= 0 && entry < m_entries.size() ? m_entries[entry].reason : CXString();
 }
 
 void UIComboListBaseMolecule::DumpOptions() const

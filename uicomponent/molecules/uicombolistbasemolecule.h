@@ -31,10 +31,15 @@ protected:
     /// Runs the filling of the list; a subclass may make it cheaper.
     virtual void FillTogether(const std::function<void()>& fill) { fill(); }
 
-    /// The user chose an entry: writes it in a transaction and shows what was read back.
+    /// The user chose an entry: writes it in a transaction and shows what was read back. Nothing
+    /// happens when it is the one that is shown.
     void ChooseEntry(int index);
+    /// Selects what was chosen last once more, after the user has left the list without a choice.
+    void ShowChoice();
     /// The text of the option now shown; empty when cleared or without a value.
     CXString ShownText() const;
+    /// Why the entry cannot be taken; empty when it can.
+    CXString ReasonOf(int index) const;
     /// One line per option: text and, when it cannot be taken, why.
     void DumpOptions() const;
 

@@ -29,10 +29,21 @@ _UIWindowsMessage pack(UIMessageKind kind, HWND window, UINT message, WPARAM wPa
     return {kind, window, message, wParam, lParam, 0};
 }
 
+/// The system tells top-level windows alone of these changes; the controls of a page or dialog,
+/// some of which keep colours and measures, hear of them from it.
+void tellControls(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message != WM_SYSCOLORCHANGE && message != WM_SETTINGCHANGE)
+        return;
+    for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+        SendMessageW(child, message, wParam, lParam);
+}
+
 INT_PTR routePage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message == WM_INITDIALOG)
         storePointer(window, managerOfPage(lParam));
+    tellControls(window, message, wParam, lParam);
     const auto* manager =
         reinterpret_cast<UIMessageManager*>(GetWindowLongPtrW(window, GWLP_USERDATA));
     if (!manager)
@@ -45,6 +56,7 @@ INT_PTR routeDialog(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message == WM_INITDIALOG)
         storePointer(window, reinterpret_cast<void*>(lParam));
+    tellControls(window, message, wParam, lParam);
     const auto* record =
         reinterpret_cast<const UIDialogRecord*>(GetWindowLongPtrW(window, GWLP_USERDATA));
     if (!record || !record->messageManager)

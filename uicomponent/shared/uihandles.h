@@ -66,6 +66,12 @@ struct KernelTraits : NullableHandle<HANDLE>
 {
     static void close(HANDLE object) noexcept { ::CloseHandle(object); }
 };
+struct FileTraits
+{
+    using Type = HANDLE;
+    static Type null() noexcept { return INVALID_HANDLE_VALUE; }
+    static void close(HANDLE file) noexcept { ::CloseHandle(file); }
+};
 struct GlobalMemoryTraits : NullableHandle<HGLOBAL>
 {
     static void close(HGLOBAL memory) noexcept { ::GlobalFree(memory); }
@@ -92,6 +98,7 @@ using UniquePen = UniqueHandle<GdiTraits<HPEN>>;
 using UniqueMemoryDc = UniqueHandle<MemoryDcTraits>; ///< from CreateCompatibleDC or CreateDC
 using UniqueEvent = UniqueHandle<KernelTraits>;
 using UniqueThread = UniqueHandle<KernelTraits>;
+using UniqueFile = UniqueHandle<FileTraits>;
 using UniqueGlobalMemory = UniqueHandle<GlobalMemoryTraits>;
 using UniqueModule = UniqueHandle<ModuleTraits>;
 using UniqueWindow = UniqueHandle<WindowTraits>;

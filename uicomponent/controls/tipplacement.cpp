@@ -1,0 +1,39 @@
+#include "tipplacement.h"
+
+#include <algorithm>
+
+namespace o7 {
+
+namespace {
+
+constexpr LONG kGap = 2;
+
+/// The start of a length that lies within two ends; at the first end when it is too long.
+LONG within(LONG start, LONG length, LONG first, LONG last)
+{
+    return std::max(first, std::min(start, last - length));
+}
+
+} // namespace
+
+POINT placeBeside(const RECT& part, SIZE tip, const RECT& workArea, bool isMirrored) noexcept
+{
+    const LONG right = part.right + kGap;
+    const LONG left = part.left - kGap - tip.cx;
+    const bool fitsRight = right + tip.cx <= workArea.right;
+    const bool fitsLeft = left >= workArea.left;
+    const LONG besideTop = within(part.top, tip.cy, workArea.top, workArea.bottom);
+    if (fitsRight && !(isMirrored && fitsLeft)) {
+        return {right, besideTop};
+    }
+    if (fitsLeft) {
+        return {left, besideTop};
+    }
+    const LONG below = part.bottom + kGap;
+    const bool fitsBelow = below + tip.cy <= workArea.bottom;
+    return {within(part.left, tip.cx, workArea.left, workArea.right),
+            within(fitsBelow ? below : part.top - kGap - tip.cy, tip.cy, workArea.top,
+                   workArea.bottom)};
+}
+
+} // namespace o7

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <windows.h>
+
+namespace o7 {
+
+/// The corner of a tip beside a part of the screen: behind it in the direction of reading, before
+/// it when there is no room, below it when there is none there either. Never over the part itself
+/// while there is room elsewhere, and never outside the work area while the tip fits into it.
+/// Pixels.
+POINT placeBeside(const RECT& part, SIZE tip, const RECT& workArea, bool isMirrored) noexcept;
+
+} // namespace o7
