@@ -63,9 +63,8 @@ bool IsPresent(const FeatureNode& feature, const FeatureValue& value)
 
 bool IsFree(const FeatureNode& feature, const FeatureValue& value)
 {
-    return !feature.IsBlocked(value.index() != 0
-                                  ? value
-                                  : FeatureValue(ValueId(DataModelIds::kValueUnspecified)));
+    return !feature.IsBlocked(
+        value.index() != 0 ? value : FeatureValue(ValueId(DataModelIds::kValueUnspecified)));
 }
 
 } // namespace o7

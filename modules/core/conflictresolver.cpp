@@ -22,9 +22,10 @@ std::size_t Distance(const FeatureNode& feature, const FeatureValue& a, const Fe
     const auto place = [&](const FeatureValue& value) {
         const auto& options = feature.Description().options;
         const auto* option = std::get_if<ValueId>(&value);
-        return std::find_if(options.begin(), options.end(), [&](const OptionDescription& known) {
-                   return option != nullptr && known.number == option->GetValueEnum();
-               }) -
+        return std::find_if(options.begin(), options.end(),
+                            [&](const OptionDescription& known) {
+                                return option != nullptr && known.number == option->GetValueEnum();
+                            }) -
                options.begin();
     };
     const auto distance = place(a) - place(b);
@@ -133,9 +134,7 @@ bool ConflictResolver::Repair(int depth)
     if (depth == 0)
         return false;
     // What is limited gives way first.
-    const auto isTarget = [&](const auto& cause) {
-        return cause.feature.get() == broken->target;
-    };
+    const auto isTarget = [&](const auto& cause) { return cause.feature.get() == broken->target; };
     const bool helps =
         !broken->whole || std::any_of(broken->when.begin(), broken->when.end(), isTarget);
     if (helps && RepairWith(*broken->target, *broken, depth))
@@ -151,8 +150,8 @@ bool ConflictResolver::RepairWith(FeatureNode& feature, const Constraint& broken
         return false;
     for (const FeatureValue& value : Choices(feature)) {
         // The last change has to lift all that is broken, an earlier one at least this.
-        if (IsPresent(feature, value) || !IsFree(feature, value) || (depth == 1 ? !LiftsAll(feature, value)
-                                                   : !Lifts(feature, value, broken)))
+        if (IsPresent(feature, value) || !IsFree(feature, value) ||
+            (depth == 1 ? !LiftsAll(feature, value) : !Lifts(feature, value, broken)))
             continue;
         if (--m_budget < 0)
             return false;

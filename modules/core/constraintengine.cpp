@@ -143,8 +143,8 @@ void ConstraintEngine::Activate(Constraint& constraint, bool active)
 void ConstraintEngine::AddEffect(Constraint& constraint)
 {
     auto& effects = constraint.target->activeEffects;
-    effects.push_back({&constraint, constraint.affectedCodes, constraint.whole,
-                       constraint.Blocks(), false});
+    effects.push_back(
+        {&constraint, constraint.affectedCodes, constraint.whole, constraint.Blocks(), false});
     UpdateHit(*constraint.target, effects.back());
     UpdateBroken(constraint);
 }
@@ -162,10 +162,9 @@ void ConstraintEngine::RemoveEffect(Constraint& constraint)
 
 void ConstraintEngine::UpdateHit(const FeatureNode& feature, FeatureNode::ActiveEffect& effect)
 {
-    const bool hit =
-        !effect.whole && feature.StoredSpecified() &&
-        (feature.IsCoded() ? IsInMask(effect.codes, feature.StoredCode())
-                           : effect.constraint->Affects(feature.StoredValue()));
+    const bool hit = !effect.whole && feature.StoredSpecified() &&
+                     (feature.IsCoded() ? IsInMask(effect.codes, feature.StoredCode())
+                                        : effect.constraint->Affects(feature.StoredValue()));
     if (hit == effect.hit)
         return;
     effect.hit = hit;
@@ -218,9 +217,8 @@ void ConstraintEngine::AskReaders(FeatureNode& feature)
     // In three rounds, so that memory is on its way before it is needed: a constraint, and then
     // what it limits, lie anywhere.
     for (auto& reader : feature.readers) {
-        const bool holds = feature.IsCoded()
-                               ? IsInMask(reader.holdsFor, code)
-                               : reader.constraint->when[reader.condition].Holds();
+        const bool holds = feature.IsCoded() ? IsInMask(reader.holdsFor, code)
+                                             : reader.constraint->when[reader.condition].Holds();
         // The reason of an active constraint may name the value of its cause.
         if (holds == reader.holds && (!holds || reader.condition != 0))
             continue;

@@ -15,7 +15,8 @@ std::optional<EffectKind> EffectOnFeature(const Constraint& constraint)
     if (constraint.whole)
         return constraint.kind;
     if (constraint.hit) {
-        const bool mild = constraint.kind == EffectKind::Info || constraint.kind == EffectKind::Clear;
+        const bool mild =
+            constraint.kind == EffectKind::Info || constraint.kind == EffectKind::Clear;
         return mild ? constraint.kind : EffectKind::Conflict;
     }
     if (constraint.kind != EffectKind::Disable && constraint.kind != EffectKind::Clear)
@@ -111,8 +112,8 @@ ChangeProposal DataModel::ProposeChange(const FeatureIdWithContext& feature,
     for (const Constraint* broken : resolver.Try(*node, wanted)) {
         // Said now, while everything has the values that it names.
         const auto* chosen = std::get_if<ValueId>(&broken->target->StoredValue());
-        proposal.conflicts.push_back({broken->target->GetId(), CausesOf(*broken),
-                                      m_interpreter.Reason(*broken, chosen)});
+        proposal.conflicts.push_back(
+            {broken->target->GetId(), CausesOf(*broken), m_interpreter.Reason(*broken, chosen)});
     }
     for (const ConflictResolver::Plan& plan : resolver.Settle()) {
         proposal.alternatives.push_back({plan.kind, {}});
@@ -160,8 +161,11 @@ std::vector<Consequence> DataModel::PreviewAlternative(const Alternative& altern
             m_writer.Force(*feature, std::move(value));
         changes = m_log.Innermost().changes;
         for (const Change& change : changes)
-            consequences.push_back({change.feature->GetId(), {}, m_interpreter.ShownPresent(*change.feature),
-                                    {}, m_interpreter.FeatureState(*change.feature)});
+            consequences.push_back({change.feature->GetId(),
+                                    {},
+                                    m_interpreter.ShownPresent(*change.feature),
+                                    {},
+                                    m_interpreter.FeatureState(*change.feature)});
     }
     for (std::size_t i = 0; i < changes.size(); ++i) {
         consequences[i].before = m_interpreter.ShownPresent(*changes[i].feature);

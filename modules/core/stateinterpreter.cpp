@@ -130,13 +130,13 @@ CXString StateInterpreter::Reason(const Constraint& constraint, const ValueId* o
     CXString reason = Text(constraint.reason);
     // Most reasons are whole sentences.
     if (reason.View().find(L'{') != std::wstring_view::npos)
-        reason = FillIn(reason,
-                  {FeatureName(cause), FeatureName(*constraint.target),
-                   ValueText(cause, cause.StoredSpecified()
-                                        ? cause.StoredValue()
-                                        : FeatureValue(ValueId(DataModelIds::kValueUnspecified))),
-                   option != nullptr ? Complete(*constraint.target, *option).GetDisplayString()
-                                     : AffectedText(constraint)});
+        reason = FillIn(
+            reason, {FeatureName(cause), FeatureName(*constraint.target),
+                     ValueText(cause, cause.StoredSpecified()
+                                          ? cause.StoredValue()
+                                          : FeatureValue(ValueId(DataModelIds::kValueUnspecified))),
+                     option != nullptr ? Complete(*constraint.target, *option).GetDisplayString()
+                                       : AffectedText(constraint)});
     // A translation may hold an empty text; a reason is never empty.
     return reason.IsBlank() ? CXString::Formatted(L"#%u", constraint.reason) : reason;
 }

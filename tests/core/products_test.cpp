@@ -50,7 +50,9 @@ protected:
             const auto child = list.GetChild(i);
             const bool isList = child->GetKind() == FeatureKind::ListOfFeatures ||
                                 child->GetKind() == FeatureKind::ListOfValues;
-            (child->GetKind() == FeatureKind::ListOfValues ? lists : isList ? groups : leaves)
+            (child->GetKind() == FeatureKind::ListOfValues ? lists
+             : isList                                      ? groups
+                                                           : leaves)
                 .push_back(child);
             if (isList)
                 CollectLeaves(*child);
@@ -84,9 +86,9 @@ std::vector<o7::FeatureValue> ValuesOf(const IFeatureNode& feature)
             values.emplace_back(options->GetOptionWithState(i).GetValueId());
     } else if (const auto* range = dynamic_cast<const RangeCapability*>(capabilities.get())) {
         const RangeOfInteger ends = range->GetLargestAndSmallestRangeValues();
-        for (const int value : {ends.GetLowerBound(), ends.GetLowerBound() + 1,
-                                (ends.GetLowerBound() + ends.GetUpperBound()) / 2,
-                                ends.GetUpperBound()})
+        for (const int value :
+             {ends.GetLowerBound(), ends.GetLowerBound() + 1,
+              (ends.GetLowerBound() + ends.GetUpperBound()) / 2, ends.GetUpperBound()})
             values.emplace_back(value);
     } else if (const auto* lengths =
                    dynamic_cast<const RangeOfDimensionCapability*>(capabilities.get())) {
