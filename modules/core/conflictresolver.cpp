@@ -49,6 +49,7 @@ bool Lifts(const FeatureNode& feature, const FeatureValue& value, const Constrai
 ConflictResolver::ConflictResolver(ChangeLog& log, ConstraintEngine& engine)
     : m_engine(engine), m_trial(log, engine), m_mark(engine.NewMark())
 {
+    m_path.reserve(kDeepest + 1);
     // What is broken already is not this change's doing.
     for (Constraint* broken : m_engine.Broken())
         broken->seen = m_mark;
@@ -70,6 +71,7 @@ std::vector<const Constraint*> ConflictResolver::Try(FeatureNode& feature,
 std::vector<ConflictResolver::Plan> ConflictResolver::Settle()
 {
     std::vector<Plan> plans;
+    plans.reserve(3);
     const bool clashes = FirstNew() != nullptr;
     const bool kept = RepairWithin();
     if (kept)
@@ -95,8 +97,7 @@ std::vector<ConflictResolver::Plan> ConflictResolver::Settle()
 
 void ConflictResolver::Set(FeatureNode& feature, const FeatureValue& value)
 {
-    m_path.push_back(
-        {&feature, feature.StoredSpecified() ? feature.StoredValue() : FeatureValue(), value});
+    m_path.push_back({&feature, value});
     m_trial.Set(feature, value);
 }
 
@@ -176,13 +177,13 @@ bool ConflictResolver::FindNearest(const Change& wished)
     FeatureNode& feature = *wished.feature;
     std::vector<const FeatureValue*> values;
     for (const FeatureValue& value : Choices(feature)) {
-        if (value.index() != 0 && value != wished.after && !IsPresent(feature, value) &&
+        if (value.index() != 0 && value != wished.value && !IsPresent(feature, value) &&
             IsFree(feature, value))
             values.push_back(&value);
     }
     if (feature.Description().kind == FeatureKind::Option)
         std::stable_sort(values.begin(), values.end(), [&](const auto* a, const auto* b) {
-            return Distance(feature, *a, wished.after) < Distance(feature, *b, wished.after);
+            return Distance(feature, *a, wished.value) < Distance(feature, *b, wished.value);
         });
     for (const FeatureValue* value : values) {
         Set(feature, *value);

@@ -108,19 +108,24 @@ ChangeProposal DataModel::ProposeChange(const FeatureIdWithContext& feature,
     if (node == nullptr || !m_writer.CanTake(*node, wanted))
         return proposal;
     proposal.possible = true;
-    ConflictResolver resolver(m_log, m_engine);
-    for (const Constraint* broken : resolver.Try(*node, wanted)) {
-        // Said now, while everything has the values that it names.
-        const auto* chosen = std::get_if<ValueId>(&broken->target->StoredValue());
-        proposal.conflicts.push_back(
-            {broken->target->GetId(), CausesOf(*broken), m_interpreter.Reason(*broken, chosen)});
+    std::vector<ConflictResolver::Plan> plans;
+    {
+        ConflictResolver resolver(m_log, m_engine);
+        for (const Constraint* broken : resolver.Try(*node, wanted)) {
+            // Said now, while everything has the values that it names.
+            const auto* chosen = std::get_if<ValueId>(&broken->target->StoredValue());
+            proposal.conflicts.push_back({broken->target->GetId(), CausesOf(*broken),
+                                          m_interpreter.Reason(*broken, chosen)});
+        }
+        plans = resolver.Settle();
     }
-    for (const ConflictResolver::Plan& plan : resolver.Settle()) {
-        proposal.alternatives.push_back({plan.kind, {}});
+    proposal.alternatives.reserve(plans.size());
+    for (const ConflictResolver::Plan& plan : plans) {
+        auto& changes = proposal.alternatives.emplace_back(Alternative{plan.kind, {}}).changes;
+        changes.reserve(plan.changes.size());
         for (const ConflictResolver::Change& change : plan.changes)
-            proposal.alternatives.back().changes.push_back(
-                {change.feature->GetId(), m_interpreter.Shown(*change.feature, change.before),
-                 m_interpreter.Shown(*change.feature, change.after)});
+            changes.push_back({change.feature->GetId(), m_interpreter.ShownPresent(*change.feature),
+                               m_interpreter.Shown(*change.feature, change.value)});
     }
     return proposal;
 }
