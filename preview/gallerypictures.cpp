@@ -109,9 +109,10 @@ void GalleryPictures::press(WindowPicture& picture, const GalleryCell& cell)
     Pointer::moveTo(middleOf(pressedPart(cell)));
     m_pointer.press();
     add(picture, cell);
-    Pointer::park();
     m_pointer.release();
+    settle();
     SendMessageW(cell.window(), WM_CANCELMODE, 0, 0); // closes what the press has opened
+    Pointer::park();
     settle();
 }
 

@@ -4,6 +4,7 @@
 #include <wrl/client.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdio>
 #include <stdexcept>
 #include <string>
@@ -100,8 +101,9 @@ void WindowPicture::take(const WindowPicture& other, const RECT& area)
     RECT part{};
     IntersectRect(&part, &area, &all);
     for (LONG y = part.top; y < part.bottom; ++y) {
-        const DWORD* const line = other.m_pixels + y * other.m_size.cx;
-        std::copy(line + part.left, line + part.right, m_pixels + y * m_size.cx + part.left);
+        const DWORD* const line = other.m_pixels + std::ptrdiff_t{y} * other.m_size.cx;
+        std::copy(line + part.left, line + part.right,
+                  m_pixels + std::ptrdiff_t{y} * m_size.cx + part.left);
     }
 }
 

@@ -120,10 +120,14 @@ void MeasureConflicts(Report& report)
     constexpr int kCalls = 5000;
     SyntheticProduct product(kSize.features, kSize.constraints);
     auto features = FeaturesOf(product, kSize.features);
-    // One feature in four has chosen something; the others are asked about.
+    // One feature in four has chosen something, as far as that clashes with nothing; the others
+    // are asked about.
     constexpr int kChosen = 4;
-    for (std::size_t i = 0; i < features.size(); i += kChosen)
+    for (std::size_t i = 0; i < features.size(); i += kChosen) {
         features[i].SetValue(product.Value(2));
+        if (!product.Model().GetFeaturesInConflict().empty())
+            features[i].SetValue(product.Value(0));
+    }
     std::vector<SyntheticProduct::Rule> clashing;
     for (const auto& rule : product.Rules()) {
         const auto& target = features[static_cast<std::size_t>(rule.target)];

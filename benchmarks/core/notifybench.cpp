@@ -45,7 +45,8 @@ Figure MeasureObservers(int count)
         figure.baseline.push_back(NanosecondsPerCall(kCalls,
                                                      [&](int) {
                                                          for (const auto& observer : observers)
-                                                             observer->ProcessNotification(bundle, 0);
+                                                             observer->ProcessNotification(bundle,
+                                                                                           0);
                                                      }) /
                                   count);
     }

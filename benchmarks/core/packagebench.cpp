@@ -44,15 +44,18 @@ void MeasureLoading(Report& report)
     Figure timed{"package", "loading " + file.parent_path().filename().string(), "ms", {}, {}, {}};
     timed.goal = {Goal::ValueAtMost, 20};
     for (int run = 0; run < kRuns; ++run) {
-        timed.runs.push_back(NanosecondsPerCall(1, [&](int) {
-            std::vector<PackageError> errors;
-            const auto package = LoadProductPackage(file, errors);
-            if (!package)
-                throw std::runtime_error(errors.front().ToString());
-            features = package->GetFeatureCount();
-            constraints = package->GetConstraintCount();
-            CreateDataModel(*package, strings);
-        }) / 1e6);
+        timed.runs.push_back(
+            NanosecondsPerCall(1,
+                               [&](int) {
+                                   std::vector<PackageError> errors;
+                                   const auto package = LoadProductPackage(file, errors);
+                                   if (!package)
+                                       throw std::runtime_error(errors.front().ToString());
+                                   features = package->GetFeatureCount();
+                                   constraints = package->GetConstraintCount();
+                                   CreateDataModel(*package, strings);
+                               }) /
+            1e6);
         timed.baseline.push_back(NanosecondsPerCall(1, [&](int) { bytes = ReadBytes(file); }) /
                                  1e6);
     }
@@ -78,9 +81,9 @@ void MeasureMemory(Report& report)
 {
     const double without = BytesOf(1000, 0);
     const double with = BytesOf(1000, 20000);
-    report.add({"package", "memory of a feature with 4 options", "bytes", {without / 1000}, {}, {}});
     report.add(
-        {"package", "memory of a constraint", "bytes", {(with - without) / 20000}, {}, {}});
+        {"package", "memory of a feature with 4 options", "bytes", {without / 1000}, {}, {}});
+    report.add({"package", "memory of a constraint", "bytes", {(with - without) / 20000}, {}, {}});
     report.note("memory: heap of description and model together");
 }
 

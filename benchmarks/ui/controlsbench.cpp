@@ -5,12 +5,14 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "clock.h"
 #include "cxstring.h"
+#include "entryheight.h"
 #include "gallerykinds.h"
 #include "gallerytemplate.h"
 #include "isolationaware.h"
@@ -33,9 +35,11 @@ constexpr int kBatch = 4;
 constexpr int kEntries = 1000;
 constexpr int kId = 1;
 
-INT_PTR CALLBACK pageProcedure(HWND, UINT, WPARAM, LPARAM)
+/// Answers what the pages of the module answer.
+INT_PTR CALLBACK pageProcedure(HWND page, UINT message, WPARAM, LPARAM lParam)
 {
-    return FALSE;
+    return message == WM_MEASUREITEM &&
+           answerEntryHeight(page, *reinterpret_cast<MEASUREITEMSTRUCT*>(lParam));
 }
 
 /// A page that is not shown, as it is while a sheet makes its controls.
@@ -73,14 +77,46 @@ struct PlainWindow
     RECT place;
 };
 
-PlainWindow plainWindowOf(const UIControl& control)
+/// The style that the next window of this thread is created with. Afterwards it would be too late
+/// to ask: an empty list has put its scroll bar away.
+class CreationStyle
 {
+public:
+    CreationStyle()
+        : m_hook(SetWindowsHookExW(WH_CBT, &CreationStyle::hook, nullptr, GetCurrentThreadId()))
+    {
+        s_style.reset();
+    }
+    ~CreationStyle() { UnhookWindowsHookEx(m_hook); }
+    CreationStyle(const CreationStyle&) = delete;
+    CreationStyle& operator=(const CreationStyle&) = delete;
+
+    DWORD get() const { return s_style.value(); }
+
+private:
+    static LRESULT CALLBACK hook(int code, WPARAM wParam, LPARAM lParam)
+    {
+        if (code == HCBT_CREATEWND && !s_style) {
+            s_style =
+                static_cast<DWORD>(reinterpret_cast<const CBT_CREATEWNDW*>(lParam)->lpcs->style);
+        }
+        return CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    static inline std::optional<DWORD> s_style; // the hook is a plain function
+    HHOOK m_hook;
+};
+
+PlainWindow plainWindowOf(Page& page, const GalleryKind& kind)
+{
+    const CreationStyle style;
+    const std::unique_ptr<UIControl> control = kind.create(page.place(kind.size));
     std::array<wchar_t, 64> name{};
-    GetClassNameW(control.getHwnd(), name.data(), static_cast<int>(name.size()));
-    const POINT location = control.getLocationInPixels();
-    const SIZE size = control.getDimensionInPixels();
+    GetClassNameW(control->getHwnd(), name.data(), static_cast<int>(name.size()));
+    const POINT location = control->getLocationInPixels();
+    const SIZE size = control->getDimensionInPixels();
     return {name.data(),
-            static_cast<DWORD>(GetWindowLongPtrW(control.getHwnd(), GWL_STYLE)),
+            style.get(),
             {location.x, location.y, location.x + size.cx, location.y + size.cy}};
 }
 
@@ -144,7 +180,7 @@ double timePlain(const Page& page, const GalleryKind& kind, const PlainWindow& p
 
 void addCreation(Report& report, Page& page, const GalleryKind& kind)
 {
-    const PlainWindow plain = plainWindowOf(*kind.create(page.place(kind.size)));
+    const PlainWindow plain = plainWindowOf(page, kind);
     std::vector<double> ours, bare;
     timeOurs(page, kind); // what the first of a class sets up
     timePlain(page, kind, plain);
@@ -163,6 +199,7 @@ void addCreation(Report& report, Page& page, const GalleryKind& kind)
 std::vector<CXString> entries()
 {
     std::vector<CXString> texts;
+    texts.reserve(kEntries);
     for (int i = 0; i < kEntries; ++i) {
         texts.push_back(CXString::Formatted(L"Entry number %d", i));
     }

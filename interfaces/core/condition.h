@@ -5,8 +5,8 @@
 #include "valset.h"
 
 /// A question about the value of one feature: compared with a value set (with more than one value
-/// in the set an order comparison must hold for all of them, equality for one; kBetween and kOutside
-/// take two values, the bounds), or included in or excluded from the set.
+/// in the set an order comparison must hold for all of them, equality for one; kBetween and
+/// kOutside take two values, the bounds), or included in or excluded from the set.
 class Condition
 {
 public:

@@ -9,7 +9,7 @@ struct ConstraintMkIIOptions
     /// is limited (see docs); 60000 is the general "cannot be combined" text.
     unsigned reasonStringNumber = 60000;
 
-    /// What becomes of the values that must not be chosen. Whatever it is (but for information), one
-    /// that is chosen already is reported as a conflict.
+    /// What becomes of the values that must not be chosen. Whatever it is (but for information),
+    /// one that is chosen already is reported as a conflict.
     o7::EffectKind effect = o7::EffectKind::Disable;
 };

@@ -92,10 +92,10 @@ public:
     /// Where molecules add constraints of their own; belongs to the model.
     virtual IConstraintsIntegrator& GetConstraintsIntegrator() = 0;
 
-    /// Why the feature (or, when `option` is not "no value", that option of it) is disabled, cleared,
-    /// hidden, limited or in conflict: one entry for each constraint at work, in the order in which
-    /// the state tells them. Empty for a feature that is free or does not exist. Takes longer than
-    /// asking for the state: for when somebody wants to know.
+    /// Why the feature (or, when `option` is not "no value", that option of it) is disabled,
+    /// cleared, hidden, limited or in conflict: one entry for each constraint at work, in the order
+    /// in which the state tells them. Empty for a feature that is free or does not exist. Takes
+    /// longer than asking for the state: for when somebody wants to know.
     virtual std::vector<o7::StateReason> GetStateReasons(const FeatureIdWithContext& feature,
                                                          const ValueId& option) = 0;
 

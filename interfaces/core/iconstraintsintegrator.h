@@ -10,8 +10,8 @@ class IConstraintsIntegrator
 public:
     virtual ~IConstraintsIntegrator() = default;
 
-    /// False, and nothing added, when one of the features does not exist in this product, nothing is
-    /// forbidden, or a clearing constraint would go round in a circle with those there are.
+    /// False, and nothing added, when one of the features does not exist in this product, nothing
+    /// is forbidden, or a clearing constraint would go round in a circle with those there are.
     virtual bool AddConstraint(const ConstraintMkII& constraint) = 0;
 
     /// The same with several conditions that must all hold before `mustNotHold` is forbidden.

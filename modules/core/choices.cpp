@@ -2,8 +2,7 @@
 
 #include "representatives.h"
 #include "settingswriter.h"
-
-#include <algorithm>
+#include "valuecode.h"
 
 namespace o7 {
 namespace {
@@ -38,26 +37,34 @@ bool IsPersons(const FeatureNode& feature)
            !description.flags.readOnly && !description.flags.stateOnly;
 }
 
-std::vector<FeatureValue> OtherValues(const FeatureNode& feature)
+const std::vector<FeatureValue>& Choices(FeatureNode& feature)
 {
-    std::vector<FeatureValue> values = Representatives(feature.Description(), TestsOf(feature));
-    for (FeatureValue& value : values) {
+    std::vector<FeatureValue>& choices = feature.choices;
+    if (!choices.empty())
+        return choices;
+    choices = Representatives(feature.Description(), TestsOf(feature));
+    for (FeatureValue& value : choices) {
         if (IsUnspecified(value))
             value = {};
     }
-    std::erase_if(values, [&](const FeatureValue& value) {
-        return value.index() == 0
-                   ? feature.Description().flags.required || !feature.StoredSpecified()
-                   : feature.HasStored(value, true);
-    });
-    return values;
+    if (feature.Description().flags.required)
+        std::erase(choices, FeatureValue());
+    return choices;
+}
+
+bool IsPresent(const FeatureNode& feature, const FeatureValue& value)
+{
+    if (value.index() == 0)
+        return !feature.StoredSpecified();
+    return feature.StoredSpecified() &&
+           (feature.IsCoded() ? feature.StoredCode() == CodeOf(feature.Description(), value)
+                              : feature.StoredValue() == value);
 }
 
 bool IsFree(const FeatureNode& feature, const FeatureValue& value)
 {
-    return !feature.IsBlocked(value.index() != 0
-                                  ? value
-                                  : FeatureValue(ValueId(DataModelIds::kValueUnspecified)));
+    return !feature.IsBlocked(
+        value.index() != 0 ? value : FeatureValue(ValueId(DataModelIds::kValueUnspecified)));
 }
 
 } // namespace o7

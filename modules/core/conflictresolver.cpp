@@ -22,9 +22,10 @@ std::size_t Distance(const FeatureNode& feature, const FeatureValue& a, const Fe
     const auto place = [&](const FeatureValue& value) {
         const auto& options = feature.Description().options;
         const auto* option = std::get_if<ValueId>(&value);
-        return std::find_if(options.begin(), options.end(), [&](const OptionDescription& known) {
-                   return option != nullptr && known.number == option->GetValueEnum();
-               }) -
+        return std::find_if(options.begin(), options.end(),
+                            [&](const OptionDescription& known) {
+                                return option != nullptr && known.number == option->GetValueEnum();
+                            }) -
                options.begin();
     };
     const auto distance = place(a) - place(b);
@@ -48,6 +49,7 @@ bool Lifts(const FeatureNode& feature, const FeatureValue& value, const Constrai
 ConflictResolver::ConflictResolver(ChangeLog& log, ConstraintEngine& engine)
     : m_engine(engine), m_trial(log, engine), m_mark(engine.NewMark())
 {
+    m_path.reserve(kDeepest + 1);
     // What is broken already is not this change's doing.
     for (Constraint* broken : m_engine.Broken())
         broken->seen = m_mark;
@@ -69,6 +71,7 @@ std::vector<const Constraint*> ConflictResolver::Try(FeatureNode& feature,
 std::vector<ConflictResolver::Plan> ConflictResolver::Settle()
 {
     std::vector<Plan> plans;
+    plans.reserve(3);
     const bool clashes = FirstNew() != nullptr;
     const bool kept = RepairWithin();
     if (kept)
@@ -94,8 +97,7 @@ std::vector<ConflictResolver::Plan> ConflictResolver::Settle()
 
 void ConflictResolver::Set(FeatureNode& feature, const FeatureValue& value)
 {
-    m_path.push_back(
-        {&feature, feature.StoredSpecified() ? feature.StoredValue() : FeatureValue(), value});
+    m_path.push_back({&feature, value});
     m_trial.Set(feature, value);
 }
 
@@ -133,9 +135,7 @@ bool ConflictResolver::Repair(int depth)
     if (depth == 0)
         return false;
     // What is limited gives way first.
-    const auto isTarget = [&](const auto& cause) {
-        return cause.feature.get() == broken->target;
-    };
+    const auto isTarget = [&](const auto& cause) { return cause.feature.get() == broken->target; };
     const bool helps =
         !broken->whole || std::any_of(broken->when.begin(), broken->when.end(), isTarget);
     if (helps && RepairWith(*broken->target, *broken, depth))
@@ -149,10 +149,10 @@ bool ConflictResolver::RepairWith(FeatureNode& feature, const Constraint& broken
 {
     if (IsPinned(feature) || !MayGiveWay(feature))
         return false;
-    for (const FeatureValue& value : OtherValues(feature)) {
+    for (const FeatureValue& value : Choices(feature)) {
         // The last change has to lift all that is broken, an earlier one at least this.
-        if (!IsFree(feature, value) || (depth == 1 ? !LiftsAll(feature, value)
-                                                   : !Lifts(feature, value, broken)))
+        if (IsPresent(feature, value) || !IsFree(feature, value) ||
+            (depth == 1 ? !LiftsAll(feature, value) : !Lifts(feature, value, broken)))
             continue;
         if (--m_budget < 0)
             return false;
@@ -175,16 +175,18 @@ bool ConflictResolver::LiftsAll(const FeatureNode& feature, const FeatureValue& 
 bool ConflictResolver::FindNearest(const Change& wished)
 {
     FeatureNode& feature = *wished.feature;
-    std::vector<FeatureValue> values = OtherValues(feature);
-    std::erase_if(values, [&](const FeatureValue& value) { return value == wished.after; });
+    std::vector<const FeatureValue*> values;
+    for (const FeatureValue& value : Choices(feature)) {
+        if (value.index() != 0 && value != wished.value && !IsPresent(feature, value) &&
+            IsFree(feature, value))
+            values.push_back(&value);
+    }
     if (feature.Description().kind == FeatureKind::Option)
-        std::stable_sort(values.begin(), values.end(), [&](const auto& a, const auto& b) {
-            return Distance(feature, a, wished.after) < Distance(feature, b, wished.after);
+        std::stable_sort(values.begin(), values.end(), [&](const auto* a, const auto* b) {
+            return Distance(feature, *a, wished.value) < Distance(feature, *b, wished.value);
         });
-    for (const FeatureValue& value : values) {
-        if (value.index() == 0 || !IsFree(feature, value))
-            continue;
-        Set(feature, value);
+    for (const FeatureValue* value : values) {
+        Set(feature, *value);
         if (FirstNew() == nullptr)
             return true;
         TakeBack();

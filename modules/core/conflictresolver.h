@@ -18,8 +18,7 @@ public:
     struct Change
     {
         FeatureNode* feature;
-        FeatureValue before; ///< monostate: unspecified
-        FeatureValue after;
+        FeatureValue value; ///< The new one; monostate: unspecified.
     };
     struct Plan
     {

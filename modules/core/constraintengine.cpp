@@ -72,10 +72,12 @@ void ConstraintEngine::Link(Constraint& constraint)
         constraint.target->defaultRows.push_back(&constraint);
     else
         constraint.target->effects.push_back(&constraint);
+    constraint.target->choices.clear();
     constraint.unmet = 0;
     for (std::size_t i = 0; i < constraint.when.size(); ++i) {
         const Constraint::Cause& cause = constraint.when[i];
         FeatureNode& feature = *cause.feature;
+        feature.choices.clear();
         const std::uint64_t mask =
             feature.IsCoded() ? MaskOf(feature.Description(), cause.test, cause.holdsWithoutValue)
                               : 0;
@@ -141,8 +143,8 @@ void ConstraintEngine::Activate(Constraint& constraint, bool active)
 void ConstraintEngine::AddEffect(Constraint& constraint)
 {
     auto& effects = constraint.target->activeEffects;
-    effects.push_back({&constraint, constraint.affectedCodes, constraint.whole,
-                       constraint.Blocks(), false});
+    effects.push_back(
+        {&constraint, constraint.affectedCodes, constraint.whole, constraint.Blocks(), false});
     UpdateHit(*constraint.target, effects.back());
     UpdateBroken(constraint);
 }
@@ -160,10 +162,9 @@ void ConstraintEngine::RemoveEffect(Constraint& constraint)
 
 void ConstraintEngine::UpdateHit(const FeatureNode& feature, FeatureNode::ActiveEffect& effect)
 {
-    const bool hit =
-        !effect.whole && feature.StoredSpecified() &&
-        (feature.IsCoded() ? IsInMask(effect.codes, feature.StoredCode())
-                           : effect.constraint->Affects(feature.StoredValue()));
+    const bool hit = !effect.whole && feature.StoredSpecified() &&
+                     (feature.IsCoded() ? IsInMask(effect.codes, feature.StoredCode())
+                                        : effect.constraint->Affects(feature.StoredValue()));
     if (hit == effect.hit)
         return;
     effect.hit = hit;
@@ -216,9 +217,8 @@ void ConstraintEngine::AskReaders(FeatureNode& feature)
     // In three rounds, so that memory is on its way before it is needed: a constraint, and then
     // what it limits, lie anywhere.
     for (auto& reader : feature.readers) {
-        const bool holds = feature.IsCoded()
-                               ? IsInMask(reader.holdsFor, code)
-                               : reader.constraint->when[reader.condition].Holds();
+        const bool holds = feature.IsCoded() ? IsInMask(reader.holdsFor, code)
+                                             : reader.constraint->when[reader.condition].Holds();
         // The reason of an active constraint may name the value of its cause.
         if (holds == reader.holds && (!holds || reader.condition != 0))
             continue;

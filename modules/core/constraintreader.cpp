@@ -82,12 +82,11 @@ void ConstraintReader::ReadEffect(const LocatedJson& json, const Scope& scope,
     constraint.affected = m_values.ReadTest(json, *target, "options");
 }
 
-std::vector<ConstraintDescription>
-ConstraintReader::ReadNever(const LocatedJson& json, const Scope& scope,
-                            const ConstraintDescription& common)
+std::vector<ConstraintDescription> ConstraintReader::ReadNever(const LocatedJson& json,
+                                                               const Scope& scope,
+                                                               const ConstraintDescription& common)
 {
-    const std::vector<ConditionDescription> together =
-        ReadConditions(*json.Find("never"), scope);
+    const std::vector<ConditionDescription> together = ReadConditions(*json.Find("never"), scope);
     const std::set<FeatureEnum> limited = ReadLimit(json, scope);
     std::vector<ConstraintDescription> constraints;
     for (std::size_t i = 0; i < together.size(); ++i) {

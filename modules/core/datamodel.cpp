@@ -18,10 +18,10 @@ constexpr int kMostDeliveryRounds = 10000;
 
 bool IsHiddenWhole(const FeatureNode& feature)
 {
-    return std::any_of(
-        feature.activeEffects.begin(), feature.activeEffects.end(), [](const auto& effect) {
-            return effect.whole && effect.constraint->kind == EffectKind::Hide;
-        });
+    return std::any_of(feature.activeEffects.begin(), feature.activeEffects.end(),
+                       [](const auto& effect) {
+                           return effect.whole && effect.constraint->kind == EffectKind::Hide;
+                       });
 }
 
 FeatureNode* FindGroup(const FeatureNode& list, FeatureEnum group)

@@ -15,7 +15,8 @@ std::optional<EffectKind> EffectOnFeature(const Constraint& constraint)
     if (constraint.whole)
         return constraint.kind;
     if (constraint.hit) {
-        const bool mild = constraint.kind == EffectKind::Info || constraint.kind == EffectKind::Clear;
+        const bool mild =
+            constraint.kind == EffectKind::Info || constraint.kind == EffectKind::Clear;
         return mild ? constraint.kind : EffectKind::Conflict;
     }
     if (constraint.kind != EffectKind::Disable && constraint.kind != EffectKind::Clear)
@@ -107,19 +108,24 @@ ChangeProposal DataModel::ProposeChange(const FeatureIdWithContext& feature,
     if (node == nullptr || !m_writer.CanTake(*node, wanted))
         return proposal;
     proposal.possible = true;
-    ConflictResolver resolver(m_log, m_engine);
-    for (const Constraint* broken : resolver.Try(*node, wanted)) {
-        // Said now, while everything has the values that it names.
-        const auto* chosen = std::get_if<ValueId>(&broken->target->StoredValue());
-        proposal.conflicts.push_back({broken->target->GetId(), CausesOf(*broken),
-                                      m_interpreter.Reason(*broken, chosen)});
+    std::vector<ConflictResolver::Plan> plans;
+    {
+        ConflictResolver resolver(m_log, m_engine);
+        for (const Constraint* broken : resolver.Try(*node, wanted)) {
+            // Said now, while everything has the values that it names.
+            const auto* chosen = std::get_if<ValueId>(&broken->target->StoredValue());
+            proposal.conflicts.push_back({broken->target->GetId(), CausesOf(*broken),
+                                          m_interpreter.Reason(*broken, chosen)});
+        }
+        plans = resolver.Settle();
     }
-    for (const ConflictResolver::Plan& plan : resolver.Settle()) {
-        proposal.alternatives.push_back({plan.kind, {}});
+    proposal.alternatives.reserve(plans.size());
+    for (const ConflictResolver::Plan& plan : plans) {
+        auto& changes = proposal.alternatives.emplace_back(Alternative{plan.kind, {}}).changes;
+        changes.reserve(plan.changes.size());
         for (const ConflictResolver::Change& change : plan.changes)
-            proposal.alternatives.back().changes.push_back(
-                {change.feature->GetId(), m_interpreter.Shown(*change.feature, change.before),
-                 m_interpreter.Shown(*change.feature, change.after)});
+            changes.push_back({change.feature->GetId(), m_interpreter.ShownPresent(*change.feature),
+                               m_interpreter.Shown(*change.feature, change.value)});
     }
     return proposal;
 }
@@ -160,8 +166,11 @@ std::vector<Consequence> DataModel::PreviewAlternative(const Alternative& altern
             m_writer.Force(*feature, std::move(value));
         changes = m_log.Innermost().changes;
         for (const Change& change : changes)
-            consequences.push_back({change.feature->GetId(), {}, m_interpreter.ShownPresent(*change.feature),
-                                    {}, m_interpreter.FeatureState(*change.feature)});
+            consequences.push_back({change.feature->GetId(),
+                                    {},
+                                    m_interpreter.ShownPresent(*change.feature),
+                                    {},
+                                    m_interpreter.FeatureState(*change.feature)});
     }
     for (std::size_t i = 0; i < changes.size(); ++i) {
         consequences[i].before = m_interpreter.ShownPresent(*changes[i].feature);

@@ -57,8 +57,8 @@ bool DataModel::AddConstraint(const std::vector<Condition>& when, const Conditio
     }
     auto* target = FindNode(mustNotHold.GetFeature());
     // An empty set has no values to forbid; excluding none of them forbids all.
-    const bool nothing = mustNotHold.GetValues().IsEmpty() &&
-                         mustNotHold.GetComparison() != DataModelIds::kNotEqual;
+    const bool nothing =
+        mustNotHold.GetValues().IsEmpty() && mustNotHold.GetComparison() != DataModelIds::kNotEqual;
     if (target == nullptr || !IsLeaf(*target) || constraint->when.empty() || nothing)
         return false;
     constraint->target = target;

@@ -66,8 +66,8 @@ struct FeatureDescription
     std::vector<RangeOfInteger> ranges; ///< Rising; none: no limits.
     std::optional<Dimension::UnitsEnum> units;
     std::optional<std::pair<Dimension, Dimension>> limits;
-    std::size_t maxLength = 4096; ///< In UTF-16 units.
-    FeatureValue defaultValue;    ///< monostate: starts unspecified.
+    std::size_t maxLength = 4096;          ///< In UTF-16 units.
+    FeatureValue defaultValue;             ///< monostate: starts unspecified.
     std::vector<AdaptingDefault> defaults; ///< Before that one; the first that holds counts.
     CapabilityFlags flags;
     bool userDefinedValues = false;

@@ -243,9 +243,8 @@ unsigned FeatureNode::EffectiveCode() const
 
 bool FeatureNode::IsLimitedWhole() const
 {
-    const bool here =
-        std::any_of(activeEffects.begin(), activeEffects.end(),
-                    [](const auto& effect) { return effect.whole && effect.blocks; });
+    const bool here = std::any_of(activeEffects.begin(), activeEffects.end(),
+                                  [](const auto& effect) { return effect.whole && effect.blocks; });
     return here || (m_parent != nullptr && m_parent->IsLimitedWhole());
 }
 

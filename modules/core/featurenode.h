@@ -119,10 +119,11 @@ public:
     std::vector<Constraint*> effects;     ///< All constraints with this feature as target.
     std::vector<std::unique_ptr<Constraint>> constraints; ///< Those declared here.
     std::unique_ptr<DeliveryList> delivery;               ///< Null until somebody registered.
-    unsigned activeClears = 0; ///< How many of the active effects clear.
-    unsigned rank = 0;         ///< Above those whose clearing or value can change this one's.
-    bool isPending = false;    ///< Its readers have to look again.
-    bool isUnsettled = false;  ///< Its default may have changed.
+    std::vector<FeatureValue> choices;                    ///< Kept by Choices().
+    unsigned activeClears = 0;                            ///< How many of the active effects clear.
+    unsigned rank = 0;        ///< Above those whose clearing or value can change this one's.
+    bool isPending = false;   ///< Its readers have to look again.
+    bool isUnsettled = false; ///< Its default may have changed.
 
     // One line of memory for what a change of another feature touches here.
     alignas(64) std::vector<ActiveEffect> activeEffects; ///< In no order.

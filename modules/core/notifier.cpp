@@ -60,10 +60,10 @@ void Rebuild(const FeatureNode& feature)
         list.slots.push_back(
             {registration->observer, registration->kind, WantedBits(registration->instance)});
     list.valid = true;
-    list.simple = std::adjacent_find(sorted.begin(), sorted.end(),
-                                     [](const auto& a, const auto& b) {
-                                         return !ComesBefore(*a, *b);
-                                     }) == sorted.end();
+    list.simple =
+        std::adjacent_find(sorted.begin(), sorted.end(), [](const auto& a, const auto& b) {
+            return !ComesBefore(*a, *b);
+        }) == sorted.end();
 }
 
 /// Takes an observer out of a delivery that may be under way.
@@ -241,8 +241,7 @@ void Notifier::DeliverRun(const Entry* first, const Entry* last)
         return;
     const Registration& registration = *alive->registration;
     // The change keeps its feature, and with it the bundle, during the call.
-    const bool alone =
-        last - first == 1 && registration.node.lock().get() == first->feature;
+    const bool alone = last - first == 1 && registration.node.lock().get() == first->feature;
     if (alone)
         registration.observer->ProcessNotification(KeptBundle(*first->feature, first->bits),
                                                    registration.kind);
@@ -270,7 +269,8 @@ NotificationBundle Notifier::MakeBundle(const Entry* first, const Entry* last)
     for (const Entry* entry = first; entry != last; ++entry) {
         for (const unsigned bit : {kValueBit, kStateBit}) {
             if (entry->registration->alive && (entry->bits & bit) != 0)
-                bundle.Add(MakeNotification(bit, entry->feature->GetId(), entry->registration->feature));
+                bundle.Add(
+                    MakeNotification(bit, entry->feature->GetId(), entry->registration->feature));
         }
     }
     return bundle;

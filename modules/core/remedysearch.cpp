@@ -95,7 +95,7 @@ void RemedySearch::Search(int depth)
             });
             if (used || !IsPersons(*feature) || feature->IsLimitedWhole())
                 continue;
-            for (const FeatureValue& value : OtherValues(*feature))
+            for (const FeatureValue& value : Choices(*feature))
                 TryStep(*feature, value, depth);
         }
     }
@@ -103,7 +103,8 @@ void RemedySearch::Search(int depth)
 
 void RemedySearch::TryStep(FeatureNode& feature, const FeatureValue& value, int depth)
 {
-    if (!IsFree(feature, value) || m_budget <= 0 || m_found.size() >= kMostRemedies)
+    if (IsPresent(feature, value) || !IsFree(feature, value) || m_budget <= 0 ||
+        m_found.size() >= kMostRemedies)
         return;
     --m_budget;
     const std::size_t steps = m_trial.Steps();

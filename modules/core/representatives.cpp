@@ -73,9 +73,9 @@ std::vector<FeatureValue> Options(const FeatureDescription& feature)
     values.emplace_back(first);
     for (const OptionDescription& option : feature.options) {
         if (option.number != first.GetValueEnum())
-            values.emplace_back(
-                ValueId(option.number, initial != nullptr ? first.GetFeatureId() : feature.Id(),
-                        option.name, CXString()));
+            values.emplace_back(ValueId(option.number,
+                                        initial != nullptr ? first.GetFeatureId() : feature.Id(),
+                                        option.name, CXString()));
     }
     return values;
 }

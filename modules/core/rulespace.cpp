@@ -57,8 +57,8 @@ std::vector<RuleSpace::Source> RuleSpace::Sources() const
     }
     for (const FeatureDescription& feature : m_list.features) {
         for (const AdaptingDefault& row : feature.defaults)
-            sources.push_back({&row.when, nullptr, &feature,
-                               "default of " + feature.name.ToUtf8(), row.line});
+            sources.push_back(
+                {&row.when, nullptr, &feature, "default of " + feature.name.ToUtf8(), row.line});
     }
     return sources;
 }

@@ -16,9 +16,9 @@ struct SettingsSnapshot
 {
     static constexpr int kNewItem = -1;
 
-    FeatureValue value;  ///< monostate: unspecified, or a list.
+    FeatureValue value;          ///< monostate: unspecified, or a list.
     bool followsDefault = false; ///< The value is the default, whatever that becomes.
-    int item = kNewItem; ///< For an item of a list of values the key it has in the model.
+    int item = kNewItem;         ///< For an item of a list of values the key it has in the model.
     std::vector<SettingsSnapshot> children;
 
     /// Somebody's choice instead of a default.

@@ -31,8 +31,13 @@ void SettingsWriter::Write(FeatureNode& feature, FeatureValue value, bool specif
         return;
     // The record first: without it nothing may have changed.
     if (m_log.IsRecording()) {
-        auto& undo = m_log.Record({ChangeLog::Undo::Kind::Value, &feature, {},
-                                   feature.StoredSpecified(), feature.FollowsDefault(), nullptr, 0});
+        auto& undo = m_log.Record({ChangeLog::Undo::Kind::Value,
+                                   &feature,
+                                   {},
+                                   feature.StoredSpecified(),
+                                   feature.FollowsDefault(),
+                                   nullptr,
+                                   0});
         undo.value = feature.Release();
     }
     feature.Store(std::move(value), specified, followsDefault);
@@ -101,8 +106,13 @@ void SettingsWriter::Erase(FeatureNode& list, std::size_t index)
 void SettingsWriter::DeleteItem(FeatureNode& list, std::size_t index)
 {
     if (m_log.IsRecording())
-        m_log.Record({ChangeLog::Undo::Kind::ItemDeleted, &list, {}, false,
-                      false, list.Children()[index], index});
+        m_log.Record({ChangeLog::Undo::Kind::ItemDeleted,
+                      &list,
+                      {},
+                      false,
+                      false,
+                      list.Children()[index],
+                      index});
     Erase(list, index);
 }
 
@@ -114,8 +124,7 @@ std::shared_ptr<FeatureNode> SettingsWriter::CreateItem(FeatureNode& list)
         return nullptr;
     std::shared_ptr<FeatureNode> item = list.MakeItem();
     if (m_log.IsRecording())
-        m_log.Record({ChangeLog::Undo::Kind::ItemCreated, &list, {}, false, false,
-                      item, index});
+        m_log.Record({ChangeLog::Undo::Kind::ItemCreated, &list, {}, false, false, item, index});
     Insert(list, item, index);
     return item;
 }

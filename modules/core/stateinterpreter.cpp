@@ -127,14 +127,16 @@ CXString StateInterpreter::AffectedText(const Constraint& constraint)
 CXString StateInterpreter::Reason(const Constraint& constraint, const ValueId* option)
 {
     const FeatureNode& cause = *constraint.when.front().feature;
-    const CXString reason =
-        FillIn(Text(constraint.reason),
-               {FeatureName(cause), FeatureName(*constraint.target),
-                ValueText(cause, cause.StoredSpecified()
-                                     ? cause.StoredValue()
-                                     : FeatureValue(ValueId(DataModelIds::kValueUnspecified))),
-                option != nullptr ? Complete(*constraint.target, *option).GetDisplayString()
-                                  : AffectedText(constraint)});
+    CXString reason = Text(constraint.reason);
+    // Most reasons are whole sentences.
+    if (reason.View().find(L'{') != std::wstring_view::npos)
+        reason = FillIn(
+            reason, {FeatureName(cause), FeatureName(*constraint.target),
+                     ValueText(cause, cause.StoredSpecified()
+                                          ? cause.StoredValue()
+                                          : FeatureValue(ValueId(DataModelIds::kValueUnspecified))),
+                     option != nullptr ? Complete(*constraint.target, *option).GetDisplayString()
+                                       : AffectedText(constraint)});
     // A translation may hold an empty text; a reason is never empty.
     return reason.IsBlank() ? CXString::Formatted(L"#%u", constraint.reason) : reason;
 }

@@ -138,8 +138,8 @@ void ValueReader::ReadOrdered(const LocatedJson& json, const LocatedJson& value,
                               const FeatureDescription& feature, ValueTest& test)
 {
     test.comparison = ByName(kComparisons, Text(json));
-    const bool ordered = test.comparison != DataModelIds::kEqual &&
-                         test.comparison != DataModelIds::kNotEqual;
+    const bool ordered =
+        test.comparison != DataModelIds::kEqual && test.comparison != DataModelIds::kNotEqual;
     if (ordered && !HasOrder(feature))
         Fail(json, NameOf(feature) + " has no order to compare by");
     test.values.push_back(ReadCompared(value, feature));

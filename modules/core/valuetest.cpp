@@ -37,7 +37,8 @@ bool InOrder(std::partial_ordering order, Comparison comparison)
 
 bool WithinBounds(const FeatureValue& actual, const std::vector<FeatureValue>& bounds)
 {
-    return std::is_gteq(Order(actual, bounds.front())) && std::is_lteq(Order(actual, bounds.back()));
+    return std::is_gteq(Order(actual, bounds.front())) &&
+           std::is_lteq(Order(actual, bounds.back()));
 }
 
 } // namespace

@@ -41,4 +41,20 @@ TEST(WindowText, ShowsWhatIsDisplayed)
     EXPECT_EQ(LR"(a\nb \"c\" \\)", o7::oneLine(L"a\r\nb \"c\" \\"));
 }
 
+TEST(WindowText, SaysALabelWithoutItsMarks)
+{
+    constexpr const wchar_t* kRows[][2] = {
+        {L"Paper &size:", L"Paper size"},
+        {L"\u7528\u7D19(&P):", L"\u7528\u7D19"},
+        {L"\u7528\u7D19(&P)\uFF1A", L"\u7528\u7D19"},
+        {L"Tray (lower):", L"Tray (lower)"},
+        {L"(&P)", L"(P)"},
+        {L":", L""},
+        {L"", L""},
+    };
+    for (const auto& [label, spoken] : kRows) {
+        EXPECT_EQ(spoken, o7::spokenName(label));
+    }
+}
+
 } // namespace

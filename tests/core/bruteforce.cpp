@@ -156,7 +156,10 @@ void BruteForce::CollectLimits(Feature& list)
 void BruteForce::AddLimits(Feature& list, const json& constraint)
 {
     if (!constraint.contains("never")) {
-        Limit limit{{}, nullptr, constraint["effect"]["kind"], &list,
+        Limit limit{{},
+                    nullptr,
+                    constraint["effect"]["kind"],
+                    &list,
                     &Find(list, constraint["effect"]["feature"])};
         for (const json& condition : constraint["when"])
             limit.when.push_back(&condition);
@@ -190,8 +193,8 @@ BruteForce::Feature& BruteForce::Find(const Feature& list, const json& reference
 {
     for (const Feature* scope = &list; scope != nullptr; scope = scope->list) {
         for (const auto& member : scope->members) {
-            if (member->json->contains("enum") && (member->json->at("enum") == reference ||
-                                                   member->json->at("name") == reference))
+            if (member->json->contains("enum") &&
+                (member->json->at("enum") == reference || member->json->at("name") == reference))
                 return *member;
         }
     }
@@ -252,9 +255,9 @@ void BruteForce::SettleClearing()
     for (bool again = true; again;) {
         std::set<Feature*> cleared;
         for (const Limit& limit : m_limits) {
-            const bool hit = limit.test == nullptr ||
-                             (!limit.target->value.is_null() &&
-                              Asks(*limit.target, *limit.test, limit.target->value));
+            const bool hit =
+                limit.test == nullptr || (!limit.target->value.is_null() &&
+                                          Asks(*limit.target, *limit.test, limit.target->value));
             if (limit.kind == "clear" && hit && AllHold(limit))
                 cleared.insert(limit.target);
         }
@@ -337,8 +340,7 @@ void BruteForce::Compare(const Feature& feature, std::vector<std::string>& diffe
     }
     const json expected = DefaultOf(feature);
     o7::FeatureValue now;
-    const auto* option =
-        feature.node->GetDefaultValue(now) ? std::get_if<ValueId>(&now) : nullptr;
+    const auto* option = feature.node->GetDefaultValue(now) ? std::get_if<ValueId>(&now) : nullptr;
     if (!expected.is_null() && option != nullptr)
         differ(" default", expected, option->GetValueName().ToUtf8());
     for (const auto& member : feature.members)

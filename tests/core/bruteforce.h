@@ -1,5 +1,5 @@
-// Works out all constraints of a package from scratch, straight from its JSON: slow, plain, and with
-// no code in common with the model.
+// Works out all constraints of a package from scratch, straight from its JSON: slow, plain, and
+// with no code in common with the model.
 #pragma once
 
 #include "listoffeaturesref.h"
@@ -27,7 +27,7 @@ private:
     {
         const nlohmann::json* json;
         IFeatureNode::Ptr node;
-        Feature* list; ///< Around it; null for the top.
+        Feature* list;        ///< Around it; null for the top.
         nlohmann::json value; ///< null: none.
         bool cleared = false;
         std::vector<std::unique_ptr<Feature>> members;
@@ -50,7 +50,8 @@ private:
     bool Holds(const Feature& list, const nlohmann::json& condition) const;
     bool AllHold(const Limit& limit) const;
     static Feature& Find(const Feature& list, const nlohmann::json& reference);
-    static bool Asks(const Feature& feature, const nlohmann::json& test, const nlohmann::json& value);
+    static bool Asks(const Feature& feature, const nlohmann::json& test,
+                     const nlohmann::json& value);
     void Compare(const Feature& feature, std::vector<std::string>& differences) const;
     std::string StateOf(const Feature& feature) const;
     std::string StateOfOption(const Feature& feature, const std::string& option) const;

@@ -53,9 +53,8 @@ TEST(Engine, EveryQuestionAboutANumber)
     };
     for (const Shape& shape : shapes) {
         SCOPED_TRACE(std::string(shape.condition) + " " + std::to_string(shape.copies));
-        const Product product(
-            Disable(R"({ "feature": 103, )" + std::string(shape.condition) + "}",
-                    R"("feature": 102, "options": [6022])"));
+        const Product product(Disable(R"({ "feature": 103, )" + std::string(shape.condition) + "}",
+                                      R"("feature": 102, "options": [6022])"));
         auto copies = product.All().GetIntegerFeature(test::kCopies);
         copies.SetValue(50);
         shape.copies != 0 ? copies.SetValue(shape.copies) : copies.SetIsSpecified(false);
@@ -118,7 +117,8 @@ TEST(Engine, SizesStandForTheOptionsThatHaveThem)
 
 TEST(Engine, DefaultsFollowUntilSomebodyChooses)
 {
-    std::string text = test::PackageText(R"({ "id": "a", "when": [ { "feature": 130, "is": [true] } ],
+    std::string text =
+        test::PackageText(R"({ "id": "a", "when": [ { "feature": 130, "is": [true] } ],
         "effect": { "feature": "odrv-media", "kind": "clear" }, "reason": 60000 })");
     const std::string_view plain = R"("odrv-copies", "kind": "integer", "default": 1,)";
     text.replace(text.find(plain), plain.size(), std::string(plain) + R"( "defaults": [
@@ -203,7 +203,8 @@ TEST(Engine, TheOrderOfLoadingChangesNothing)
                 product.All().GetBooleanFeature(test::kBooklet).SetValue(true);
             else if (step == 3)
                 product.All().GetIntegerFeature(test::kCopies).SetValue(3);
-            for (const auto feature : {test::kBooklet, test::kCollate, test::kStaple, test::kSides}) {
+            for (const auto feature :
+                 {test::kBooklet, test::kCollate, test::kStaple, test::kSides}) {
                 const InterpretedState state = product.State(feature);
                 states += Letters(state) + test::Narrow(state.GetInfoBtnMsg()) + "|" +
                           test::Narrow(state.GetReason()) + ";";
@@ -232,10 +233,10 @@ TEST(Engine, ConstraintsOfCodeHaveEveryEffectAndNoCircle)
         << "it would go round";
     EXPECT_TRUE(integrator.AddConstraint(
         ConstraintMkII(collate, allOfBooklet, {60000, o7::EffectKind::Info})));
-    EXPECT_TRUE(integrator.AddConstraint(ConstraintMkII(
-        Condition(test::kCopies, DataModelIds::kBetween, ValSet{5, 9}),
-        Condition(test::kMedia, DataModelIds::kInclude, ValSet{test::kFilm}),
-        {60000, o7::EffectKind::Hide})));
+    EXPECT_TRUE(integrator.AddConstraint(
+        ConstraintMkII(Condition(test::kCopies, DataModelIds::kBetween, ValSet{5, 9}),
+                       Condition(test::kMedia, DataModelIds::kInclude, ValSet{test::kFilm}),
+                       {60000, o7::EffectKind::Hide})));
     EXPECT_EQ(Letters(product.State(test::kBooklet)), "i");
     product.All().GetBooleanFeature(test::kBooklet).SetValue(true);
     EXPECT_EQ(Letters(product.State(test::kCollate)), "dci");
@@ -246,8 +247,8 @@ TEST(Engine, ConstraintsOfCodeHaveEveryEffectAndNoCircle)
 
 TEST(Engine, TheUnspecifiedEntryHasAStateOfItsOwn)
 {
-    const Product product(Disable(R"({ "feature": 100, "is": ["film"] })",
-                                  R"("feature": 102, "options": [5001])"));
+    const Product product(
+        Disable(R"({ "feature": 100, "is": ["film"] })", R"("feature": 102, "options": [5001])"));
     const auto unspecified = [&] {
         return product.All()
             .GetFeature(test::kStaple)
@@ -355,7 +356,8 @@ TEST(Proposals, OfAValueThatIsForbidden)
 TEST(Proposals, OfWhatCannotBe)
 {
     const Product product;
-    const auto impossible = [&](DataModelIds::tagFeatureEnum feature, const o7::FeatureValue& value) {
+    const auto impossible = [&](DataModelIds::tagFeatureEnum feature,
+                                const o7::FeatureValue& value) {
         const auto proposal = product.model->ProposeChange(feature, value);
         return !proposal.possible && proposal.alternatives.empty();
     };
@@ -365,7 +367,8 @@ TEST(Proposals, OfWhatCannotBe)
     EXPECT_TRUE(impossible(test::kModel, CXString(L"T2"))) << "read-only";
     EXPECT_TRUE(impossible(test::kSides, {})) << "required";
     EXPECT_FALSE(impossible(test::kStaple, {}));
-    o7::Alternative stale{o7::AlternativeKind::KeepNew, {{test::kCopies, 1, 5}, {test::kCopies, 1, 0}}};
+    o7::Alternative stale{o7::AlternativeKind::KeepNew,
+                          {{test::kCopies, 1, 5}, {test::kCopies, 1, 0}}};
     EXPECT_FALSE(product.model->ApplyAlternative(stale));
     EXPECT_EQ(product.Number(test::kCopies), 1) << "all or nothing";
 }
@@ -389,7 +392,8 @@ TEST(Analysis, FindsWhatCannotBeMeant)
             "effect": { "feature": 101, "options": ["two"], "kind": "disable" }, "reason": 60000 },
             { "id": "b", "when": [ { "feature": 100, "isNot": ["film"] } ],
             "effect": { "feature": 101, "options": ["two"], "kind": "hide" }, "reason": 60000 })",
-         Kind::UnreachableOption, "odrv-sides: the value two can never be chosen; forbidden by a, b"},
+         Kind::UnreachableOption,
+         "odrv-sides: the value two can never be chosen; forbidden by a, b"},
         {R"({ "id": "a", "when": [ { "feature": 103, "compare": "less", "value": 5 },
             { "feature": 103, "compare": "greater", "value": 4 } ],
             "effect": { "feature": 101, "kind": "info" }, "reason": 60000 })",
@@ -417,7 +421,8 @@ TEST(Analysis, FindsWhatCannotBeMeant)
     for (const Mistake& mistake : mistakes) {
         SCOPED_TRACE(mistake.constraints);
         std::vector<o7::PackageError> errors;
-        const auto package = o7::ParseProductPackage(test::PackageText(mistake.constraints), "p", errors);
+        const auto package =
+            o7::ParseProductPackage(test::PackageText(mistake.constraints), "p", errors);
         ASSERT_TRUE(package) << errors.front().ToString();
         const auto findings = o7::AnalyseProductPackage(*package);
         ASSERT_EQ(findings.empty(), mistake.says == nullptr)

@@ -27,6 +27,7 @@ constexpr std::array kSheetModes{UIMode::PrintingPreferences, UIMode::DeviceSett
 /// What a box or a frame needs beside its text, in pixels.
 constexpr LONG kCheckMark = 17;
 constexpr LONG kFrameEnds = 16;
+constexpr LONG kDrawnWider = 50; // one part of that many
 
 bool hasButtonType(HWND button, LONG type)
 {
@@ -141,8 +142,7 @@ void TextFitTest::measureEntries(HWND list)
     COMBOBOXINFO info{};
     info.cbSize = sizeof info;
     ASSERT_TRUE(GetComboBoxInfo(list, &info));
-    const LONG width =
-        info.rcItem.right - info.rcItem.left - 2 * GetSystemMetrics(SM_CXEDGE);
+    const LONG width = info.rcItem.right - info.rcItem.left - 2 * GetSystemMetrics(SM_CXEDGE);
     const auto count = static_cast<int>(SendMessageW(list, CB_GETCOUNT, 0, 0));
     for (int entry = 0; entry < count; ++entry) {
         const auto index = static_cast<WPARAM>(entry);
@@ -156,6 +156,8 @@ void TextFitTest::measureEntries(HWND list)
 void TextFitTest::expectRoom(HWND control, const std::wstring& text, LONG width, LONG height,
                              UINT format)
 {
+    // Some displays draw a little wider than they measure.
+    width -= width / kDrawnWider;
     if (text.empty() || !m_seen.insert(text + L'|' + std::to_wstring(width)).second)
         return;
     const HDC dc = GetDC(control);

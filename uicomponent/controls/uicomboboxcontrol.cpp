@@ -57,9 +57,9 @@ UIComboBoxControl::UIComboBoxControl(HWND parent, int id, UIServices& services, 
     const o7::TextMeasure measure(font);
     {
         const PaintLater paintLater(parent, UIControl::getHwnd());
-        giveFont();
         setItemHeight(-1, measure.fontHeight());
         setItemHeight(0, measure.fontHeight());
+        giveFont();
     }
     m_margin = measure.measure(kReferenceCharacter).cx;
     m_widestItem = static_cast<int>(send(CB_GETDROPPEDWIDTH));

@@ -93,7 +93,9 @@ LRESULT UIHyperlinkTextControl::subclassWindowProcedure(HWND window, UINT messag
         return TRUE; // draw covers everything
     case WM_SETTEXT: {
         const LRESULT result = callSavedProcedure(window, message, wParam, lParam);
-        ::InvalidateRect(window, nullptr, FALSE);
+        if (::IsWindowVisible(window) != FALSE) {
+            ::InvalidateRect(window, nullptr, FALSE);
+        }
         return result;
     }
     case WM_SETFOCUS:

@@ -38,6 +38,21 @@ CXString withoutMnemonics(const CXString& text)
     return CXString(std::wstring_view(shown));
 }
 
+CXString spokenName(const CXString& label)
+{
+    std::wstring name(label.View());
+    while (!name.empty() &&
+           (name.back() == L':' || name.back() == L'\uFF1A' || name.back() == L' ')) {
+        name.pop_back();
+    }
+    constexpr std::size_t kMarkLength = 4; // "(&P)"
+    if (name.ends_with(L')') && name.size() > kMarkLength &&
+        name.compare(name.size() - kMarkLength, 2, L"(&") == 0) {
+        name.resize(name.size() - kMarkLength);
+    }
+    return withoutMnemonics(CXString(std::wstring_view(name)));
+}
+
 CXString oneLine(const CXString& text)
 {
     CXString line = text;

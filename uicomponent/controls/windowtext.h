@@ -17,6 +17,10 @@ bool setWindowTextIfDifferent(HWND window, const CXString& text);
 /// mnemonic and is not shown.
 CXString withoutMnemonics(const CXString& text);
 
+/// A label as a screen reader should say it for the control behind it: without its mnemonic, also
+/// when that stands in parentheses at the end, and without the colon.
+CXString spokenName(const CXString& label);
+
 /// Line breaks and quotation marks written as escapes, for texts that have to stay on one line.
 CXString oneLine(const CXString& text);
 

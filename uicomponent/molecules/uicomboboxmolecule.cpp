@@ -9,6 +9,7 @@
 #include "uimoleculedata.h"
 #include "uimoleculedump.h"
 #include "uitextcontrol.h"
+#include "windowtext.h"
 
 namespace {
 
@@ -55,7 +56,7 @@ void UIComboBoxMolecule::InitializeFromDescription()
     SetMinimumExtent({0, box + (labelAbove ? kTextHeight + kLabelGap : 0)});
 }
 
-void UIComboBoxMolecule::CreateLabel(UIPageWindow& page)
+void UIComboBoxMolecule::CreateLabel(UIPageWindow& page, const CXString& text)
 {
     const long labelWidth = GetLabelWidth();
     const POINT place = GetPosition();
@@ -64,14 +65,15 @@ void UIComboBoxMolecule::CreateLabel(UIPageWindow& page)
         std::make_unique<UITextControl>(page.window, page.takeId(), GetSite().services, page.font,
                                         POINT{place.x, place.y + (labelWidth ? kLabelDrop : 0)},
                                         size, SS_NOTIFY, true, page.boldFont);
-    SetWindowTextW(m_label->getHwnd(), LoadText(m_labelText).c_str());
+    SetWindowTextW(m_label->getHwnd(), text.c_str());
 }
 
 void UIComboBoxMolecule::CreateControls(UIPageWindow& page)
 {
     SetPage(page);
+    const CXString label = m_labelText ? LoadText(m_labelText) : CXString();
     if (m_labelText)
-        CreateLabel(page);
+        CreateLabel(page, label);
     const POINT place = GetPosition();
     const long labelWidth = m_labelText ? GetLabelWidth() : 0;
     m_combo = std::make_unique<UIComboBoxControl>(
@@ -79,6 +81,8 @@ void UIComboBoxMolecule::CreateControls(UIPageWindow& page)
         POINT{place.x + labelWidth, place.y + GetMinimumHeight() - kBoxHeight},
         SIZE{GetContentWidth() - labelWidth, kBoxHeight});
     m_combo->setUnavailableReasons(GetToolTips(), [this](int index) { return ReasonOf(index); });
+    // The system's own name for a list is its present text.
+    m_combo->setAccessibleName(o7::spokenName(label));
 }
 
 void UIComboBoxMolecule::SetPosition(POINT position)

@@ -31,7 +31,7 @@ protected:
     void FillTogether(const std::function<void()>& fill) override;
 
 private:
-    void CreateLabel(UIPageWindow& page);
+    void CreateLabel(UIPageWindow& page, const CXString& text);
     bool HandleNotification(int notification);
 
     std::unique_ptr<UITextControl> m_label;

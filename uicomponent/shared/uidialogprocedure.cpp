@@ -2,6 +2,7 @@
 
 #include <prsht.h>
 
+#include "entryheight.h"
 #include "uiguard.h"
 #include "uimessagemanager.h"
 
@@ -39,6 +40,13 @@ void tellControls(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
         SendMessageW(child, message, wParam, lParam);
 }
 
+/// What a page or dialog answers when nobody on it has anything to say.
+INT_PTR answerOf(HWND window, UINT message, LPARAM lParam)
+{
+    return message == WM_MEASUREITEM &&
+           o7::answerEntryHeight(window, *reinterpret_cast<MEASUREITEMSTRUCT*>(lParam));
+}
+
 INT_PTR routePage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message == WM_INITDIALOG)
@@ -46,10 +54,10 @@ INT_PTR routePage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     tellControls(window, message, wParam, lParam);
     const auto* manager =
         reinterpret_cast<UIMessageManager*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    if (!manager)
-        return 0;
     const auto packed = pack(UIMessageKind::TabPage, window, message, wParam, lParam);
-    return manager->handleMessage(packed) ? packed.result : 0;
+    if (manager && manager->handleMessage(packed))
+        return packed.result;
+    return answerOf(window, message, lParam);
 }
 
 INT_PTR routeDialog(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -59,11 +67,9 @@ INT_PTR routeDialog(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     tellControls(window, message, wParam, lParam);
     const auto* record =
         reinterpret_cast<const UIDialogRecord*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    if (!record || !record->messageManager)
-        return 0;
     const auto packed = pack(UIMessageKind::Dialog, window, message, wParam, lParam);
-    if (!record->messageManager->handleMessage(packed))
-        return 0;
+    if (!record || !record->messageManager || !record->messageManager->handleMessage(packed))
+        return answerOf(window, message, lParam);
     if (message == WM_CTLCOLORSTATIC)
         return packed.result; // a brush goes back directly
     SetWindowLongPtrW(window, DWLP_MSGRESULT, packed.result);

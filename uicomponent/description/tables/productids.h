@@ -173,12 +173,12 @@ inline constexpr tagFeatureEnum kBannerPolicy        {3086};
 inline constexpr tagFeatureEnum kAccountRequired     {3087};
 inline constexpr tagFeatureEnum kRoll1Type           {3089};
 inline constexpr tagFeatureEnum kRoll2Type           {3091};
-inline constexpr tagFeatureEnum kInstalledBookletSquare {3092};
+inline constexpr tagFeatureEnum kInstalledSquareSpineUnit {3092};
 inline constexpr tagFeatureEnum kInstalledFeedModule {3093};
 inline constexpr tagFeatureEnum kInstalledStorageCard {3094};
 inline constexpr tagFeatureEnum kInstalledMatteInk   {3095};
 inline constexpr tagFeatureEnum kInstalledBoardFeed  {3096};
-inline constexpr tagFeatureEnum kInstalledSecondBypass {3097};
+inline constexpr tagFeatureEnum kInstalledLongSheetFeed {3097};
 
 // Values
 inline constexpr tagValueEnum kPaperA3             {5110};

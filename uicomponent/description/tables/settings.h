@@ -193,12 +193,12 @@ inline constexpr UIMoleculeRecord kBannerPolicy        = combo<o7::kBannerPolicy
 inline constexpr UIMoleculeRecord kAccountRequired     = check<o7::kAccountRequired, O7STR_L_ACCOUNT_REQUIRED>();
 inline constexpr UIMoleculeRecord kRoll1Type           = combo<o7::kRoll1Type, O7STR_L_ROLL_1_TYPE>();
 inline constexpr UIMoleculeRecord kRoll2Type           = combo<o7::kRoll2Type, O7STR_L_ROLL_2_TYPE>();
-inline constexpr UIMoleculeRecord kSquareSpineUnit     = check<o7::kInstalledBookletSquare, O7STR_L_SQUARE_SPINE_UNIT>();
+inline constexpr UIMoleculeRecord kSquareSpineUnit     = check<o7::kInstalledSquareSpineUnit, O7STR_L_SQUARE_SPINE_UNIT>();
 inline constexpr UIMoleculeRecord kFeedModule          = combo<o7::kInstalledFeedModule, O7STR_L_FEED_MODULE>();
 inline constexpr UIMoleculeRecord kStorageCard         = check<o7::kInstalledStorageCard, O7STR_L_STORAGE_CARD>();
 inline constexpr UIMoleculeRecord kMatteInk            = check<o7::kInstalledMatteInk, O7STR_L_MATTE_INK>();
 inline constexpr UIMoleculeRecord kBoardFeed           = check<o7::kInstalledBoardFeed, O7STR_L_BOARD_FEED>();
-inline constexpr UIMoleculeRecord kLongSheetFeed       = check<o7::kInstalledSecondBypass, O7STR_L_LONG_SHEET_FEED>();
+inline constexpr UIMoleculeRecord kLongSheetFeed       = check<o7::kInstalledLongSheetFeed, O7STR_L_LONG_SHEET_FEED>();
 // clang-format on
 
 } // namespace o7::settings
