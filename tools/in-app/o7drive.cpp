@@ -32,7 +32,6 @@ namespace fs = std::filesystem;
 using o7::inapp::EditorSession;
 
 /// Texts of values in the product's string module.
-constexpr UINT kA4 = 45111;
 constexpr UINT kA5 = 45112;
 constexpr UINT kLetter = 45113;
 constexpr UINT kOneSided = 45140;
@@ -88,8 +87,9 @@ void settingsReachTheProgramAndComeBack(EditorSession& session, const std::wstri
         throw std::runtime_error("The program has the settings before they were chosen.");
     }
     session.openSetUp();
-    expect(session.chosenPaper(), session.text(kA4), "In the program's own set-up at first");
+    const std::wstring paper = session.chosenPaper();
     session.openProperties();
+    expect(paper, session.chosen(kA5), "In the program's own set-up at first, as in our sheet");
     session.choose(kA5);
     session.choose(kShortEdge);
     session.closeProperties(IDOK);
