@@ -54,18 +54,20 @@ UIComboBoxControl::UIComboBoxControl(HWND parent, int id, UIServices& services, 
 {
     setVisibleFlag(true);
     createBareWindow(L"COMBOBOX", kStyle);
+    subclassWindow(UIControl::getHwnd());
     const o7::TextMeasure measure(font);
     {
         const PaintLater paintLater(parent, UIControl::getHwnd());
+        m_keepsSize = true; // the font would change it, and the height of the field once more
+        giveFont();
+        m_keepsSize = false;
         setItemHeight(-1, measure.fontHeight());
         setItemHeight(0, measure.fontHeight());
-        giveFont();
     }
     m_margin = measure.measure(kReferenceCharacter).cx;
     m_widestItem = static_cast<int>(send(CB_GETDROPPEDWIDTH));
     m_droppedWidth = m_widestItem;
     m_minVisible = static_cast<int>(send(CB_GETMINVISIBLE));
-    subclassWindow(UIControl::getHwnd());
 }
 
 UIComboBoxControl::~UIComboBoxControl() = default;
@@ -134,6 +136,10 @@ void UIComboBoxControl::notifySelected()
 LRESULT UIComboBoxControl::subclassWindowProcedure(HWND window, UINT message, WPARAM wParam,
                                                    LPARAM lParam)
 {
+    if (m_keepsSize && message == WM_WINDOWPOSCHANGING) {
+        reinterpret_cast<WINDOWPOS*>(lParam)->flags |= SWP_NOSIZE;
+        return 0;
+    }
     // The list asks for its colours before it is seen for the first time.
     if (message == WM_CTLCOLORLISTBOX && m_droppedList == nullptr) {
         m_droppedList = std::make_unique<o7::DroppedList>(*this, reinterpret_cast<HWND>(lParam));

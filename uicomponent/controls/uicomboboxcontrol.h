@@ -61,4 +61,5 @@ private:
     int m_minVisible = 0;
     int m_wheel = 0;          ///< what it has turned and that made no entry yet
     bool m_isFilling = false; ///< a Fill lives
+    bool m_keepsSize = false; ///< while the window takes its font
 };
