@@ -15,7 +15,7 @@ import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 # What only the compiler of the build understands.
-FOREIGN_FLAGS = ("-fno-keep-inline-dllexport",)
+FOREIGN_FLAGS = ("-fno-keep-inline-dllexport", "-fno-devirtualize", "-fno-devirtualize-speculatively")
 
 
 def build_folder(preset):

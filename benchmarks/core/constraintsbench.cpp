@@ -66,6 +66,7 @@ std::string NameOf(const Size& size)
 std::vector<OptionFeatureRef> FeaturesOf(SyntheticProduct& product, int count)
 {
     std::vector<OptionFeatureRef> features;
+    features.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
         features.push_back(product.Model().GetOptionFeatureRef(product.Feature(i)));
     return features;

@@ -1,5 +1,6 @@
 #include "syntheticproduct.h"
 
+#include <algorithm>
 #include <stdexcept>
 #include <string>
 
@@ -41,7 +42,7 @@ SyntheticProduct::SyntheticProduct(int features, int constraints)
         // Each feature's rules lead to different ones. The last option is never disabled, so that a
         // change is never refused.
         const int round = i / features;
-        const int step = 1 + (i * 7 + round * 131) % (features - 1);
+        const int step = 1 + (i * 7 + round * 131) % std::max(1, features - 1);
         m_rules.push_back(
             {i % features, 1 + round % 3, (i + step) % features, 1 + round / 3 % (kOptions - 2)});
         text.append(i == 0 ? "" : ",").append(RuleText(i, m_rules.back()));

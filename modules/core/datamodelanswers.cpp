@@ -162,8 +162,8 @@ std::vector<Consequence> DataModel::PreviewAlternative(const Alternative& altern
             Rehearsal& operator=(const Rehearsal&) = delete;
             DataModel& model;
         } rehearsal(*this);
-        for (auto& [feature, value] : Resolved(alternative))
-            m_writer.Force(*feature, std::move(value));
+        for (const auto& [feature, value] : Resolved(alternative))
+            m_writer.Force(*feature, value);
         changes = m_log.Innermost().changes;
         for (const Change& change : changes)
             consequences.push_back({change.feature->GetId(),
@@ -184,12 +184,12 @@ std::vector<Consequence> DataModel::PreviewAlternative(const Alternative& altern
 
 bool DataModel::ApplyAlternative(const Alternative& alternative)
 {
-    auto writes = Resolved(alternative);
+    const auto writes = Resolved(alternative);
     if (writes.size() != alternative.changes.size())
         return false;
     const auto transaction = OpenTransaction(CXString());
-    for (auto& [feature, value] : writes)
-        m_writer.Force(*feature, std::move(value));
+    for (const auto& [feature, value] : writes)
+        m_writer.Force(*feature, value);
     return transaction->Close(true);
 }
 

@@ -29,10 +29,10 @@ public:
     explicit EscapeSearch(std::vector<const Rule*> rules) : m_rules(std::move(rules)) {}
 
     /// Also true when the search was too long to tell.
-    bool Exists(Settings settings) { return Search(std::move(settings), 0); }
+    bool Exists(const Settings& settings) { return Search(settings, 0); }
 
 private:
-    bool Search(Settings settings, std::size_t next)
+    bool Search(const Settings& settings, std::size_t next)
     {
         if (++m_steps > kMostSteps)
             return true;
@@ -49,7 +49,7 @@ private:
                 values[i] = values[i] && !question.holds[i];
                 any = any || values[i];
             }
-            if (any && Search(std::move(without), next + 1))
+            if (any && Search(without, next + 1))
                 return true;
         }
         return false;

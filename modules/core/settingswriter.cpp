@@ -52,10 +52,10 @@ bool SettingsWriter::CanTake(const FeatureNode& feature, FeatureValue& value) co
            (value.index() == 0 ? !description.flags.required : description.Accepts(value));
 }
 
-void SettingsWriter::Force(FeatureNode& feature, FeatureValue value)
+void SettingsWriter::Force(FeatureNode& feature, const FeatureValue& value)
 {
     const bool specified = value.index() != 0;
-    Write(feature, specified ? std::move(value) : feature.StoredValue(), specified, false);
+    Write(feature, specified ? value : feature.StoredValue(), specified, false);
 }
 
 bool SettingsWriter::SetValue(FeatureNode& feature, const FeatureValue& value)

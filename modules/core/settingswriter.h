@@ -30,7 +30,7 @@ public:
     /// value is completed.
     bool CanTake(const FeatureNode& feature, FeatureValue& value) const;
     /// A value that the feature can take, whatever constraints say; monostate: unspecified.
-    void Force(FeatureNode& feature, FeatureValue value);
+    void Force(FeatureNode& feature, const FeatureValue& value);
     void Apply(FeatureNode& feature, const SettingsSnapshot& snapshot);
     void Undo(ChangeLog::Undo undo);
 

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
 #include <stdexcept>
 
 namespace {
@@ -172,6 +173,49 @@ TEST_F(Notifications, ObserversMayGoWhileTheyAreTold)
     product.Set(test::kMedia, test::kPlain);
     EXPECT_EQ(selfish, nullptr);
     EXPECT_EQ(newcomer.bundles.size(), 1U);
+}
+
+TEST_F(Notifications, AnItemMayGoWhileItsObserversAreTold)
+{
+    auto pages = product.All().GetListOfValues(test::kSpecialPages);
+    auto copies = pages.CreateListOfFeatures().GetIntegerFeature(test::kCopies);
+    const FeatureIdWithContext id = copies.GetFeatureIdWithContextRef();
+    const SettingsInstanceId all(DataModelIds::kSettingsCurrent);
+    Recorder first;
+    Recorder second;
+    for (Recorder* recorder : {&first, &second})
+        product.model->RegisterObserver(*recorder, all, id, kKind);
+    first.reaction = [&] {
+        copies = IntegerFeatureRef();
+        pages.DeleteAllItems();
+        pages.CreateListOfFeatures();
+    };
+    copies.SetValue(7);
+    EXPECT_EQ(first.bundles, Bundles{"odrv-special-pages[0]/odrv-copies value"});
+    EXPECT_EQ(second.bundles, first.bundles) << "it is told of what is no longer there";
+    EXPECT_EQ(pages.GetNumItems(), 1U);
+    for (Recorder* recorder : {&first, &second})
+        product.model->UnregisterObserver(*recorder, all, id, kKind);
+}
+
+TEST_F(Notifications, ObserversOfOneFeatureMayComeAndGoWhileTheyAreTold)
+{
+    // Four on one feature: the first strikes out the second, brings a fifth, and changes the
+    // feature again; the others hear of both changes, each once.
+    Recorder recorders[5];
+    for (int i = 0; i < 4; ++i)
+        Watch(recorders[i], test::kMedia);
+    recorders[0].reaction = [&] {
+        if (recorders[0].bundles.size() > 1)
+            return;
+        Unwatch(recorders[1], test::kMedia);
+        Watch(recorders[4], test::kMedia);
+        product.Set(test::kMedia, test::kPlain);
+    };
+    product.Set(test::kMedia, test::kFilm);
+    const std::size_t heard[] = {2, 0, 2, 2, 1};
+    for (std::size_t i = 0; i < std::size(heard); ++i)
+        EXPECT_EQ(recorders[i].bundles.size(), heard[i]) << i;
 }
 
 TEST_F(Notifications, ObserversThatAnswerEachOtherForEverAreCutOff)
