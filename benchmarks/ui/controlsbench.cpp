@@ -17,6 +17,7 @@
 #include "gallerytemplate.h"
 #include "isolationaware.h"
 #include "report.h"
+#include "textmeasure.h"
 #include "uicomboboxcontrol.h"
 #include "uihandles.h"
 #include "uiresourceids.h"
@@ -75,6 +76,7 @@ struct PlainWindow
     std::wstring className;
     DWORD style;
     RECT place;
+    int heights = 0; ///< what a combo box is told for its field and its entries; 0: nothing
 };
 
 /// The style that the next window of this thread is created with. Afterwards it would be too late
@@ -117,7 +119,8 @@ PlainWindow plainWindowOf(Page& page, const GalleryKind& kind)
     const SIZE size = control->getDimensionInPixels();
     return {name.data(),
             style.get(),
-            {location.x, location.y, location.x + size.cx, location.y + size.cy}};
+            {location.x, location.y, location.x + size.cx, location.y + size.cy},
+            0};
 }
 
 HWND makePlain(const Page& page, const PlainWindow& plain)
@@ -127,6 +130,10 @@ HWND makePlain(const Page& page, const PlainWindow& plain)
         plain.place.right - plain.place.left, plain.place.bottom - plain.place.top, page.handle(),
         reinterpret_cast<HMENU>(INT_PTR{kId}), GetModuleHandleW(nullptr), nullptr);
     SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(page.font()), FALSE);
+    if (plain.heights != 0) {
+        SendMessageW(window, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), plain.heights);
+        SendMessageW(window, CB_SETITEMHEIGHT, 0, plain.heights);
+    }
     return window;
 }
 
@@ -178,9 +185,8 @@ double timePlain(const Page& page, const GalleryKind& kind, const PlainWindow& p
     return (microsecondsNow() - start) / kBatch;
 }
 
-void addCreation(Report& report, Page& page, const GalleryKind& kind)
+void addCreation(Report& report, Page& page, const GalleryKind& kind, const PlainWindow& plain)
 {
-    const PlainWindow plain = plainWindowOf(page, kind);
     std::vector<double> ours, bare;
     timeOurs(page, kind); // what the first of a class sets up
     timePlain(page, kind, plain);
@@ -189,7 +195,8 @@ void addCreation(Report& report, Page& page, const GalleryKind& kind)
         bare.push_back(timePlain(page, kind, plain));
     }
     report.add({"controls",
-                "creation: " + CXString(kind.name).ToUtf8(),
+                "creation: " + CXString(kind.name).ToUtf8() +
+                    (plain.heights != 0 ? ", both told heights" : ""),
                 "us",
                 ours,
                 bare,
@@ -217,7 +224,8 @@ void addFilling(Report& report, Page& page)
         return UniqueWindow(makePlain(
             page, {L"COMBOBOX",
                    WS_CHILD | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS,
-                   {0, 0, 100, 20}}));
+                   {0, 0, 100, 20},
+                   0}));
     }();
     const auto timed = [](const std::function<void()>& fill) {
         const double start = microsecondsNow();
@@ -255,7 +263,12 @@ void benchControls(Report& report, const std::wstring& /*productFolder*/)
     Page page;
     for (const GallerySection& section : gallerySections()) {
         for (const GalleryKind& kind : section.kinds) {
-            addCreation(report, page, kind);
+            PlainWindow plain = plainWindowOf(page, kind);
+            addCreation(report, page, kind, plain);
+            if (kind.name == std::wstring_view(L"Combo box")) {
+                plain.heights = TextMeasure(page.font()).fontHeight();
+                addCreation(report, page, kind, plain);
+            }
         }
     }
     addFilling(report, page);
