@@ -24,36 +24,33 @@ TEST(WindowText, ReadsTextsOfAnyLengthAndSetsOnlyNewOnes)
     }
 }
 
-TEST(WindowText, ShowsWhatIsDisplayed)
+TEST(WindowText, IsShownAndSpokenWithoutItsMarks)
 {
-    constexpr const wchar_t* kRows[][2] = {
-        {L"&Size", L"Size"},
-        {L"Paper &size", L"Paper size"},
-        {L"Black && white", L"Black & white"},
-        {L"Black & white", L"Black & white"},
-        {L"R&&&D", L"R&D"},
-        {L"last&", L"last&"},
-        {L"", L""},
+    struct Row
+    {
+        CXString (*change)(const CXString&);
+        const wchar_t* text;
+        const wchar_t* expected;
     };
-    for (const auto& [marked, shown] : kRows) {
-        EXPECT_EQ(shown, o7::withoutMnemonics(marked));
-    }
-    EXPECT_EQ(LR"(a\nb \"c\" \\)", o7::oneLine(L"a\r\nb \"c\" \\"));
-}
-
-TEST(WindowText, SaysALabelWithoutItsMarks)
-{
-    constexpr const wchar_t* kRows[][2] = {
-        {L"Paper &size:", L"Paper size"},
-        {L"\u7528\u7D19(&P):", L"\u7528\u7D19"},
-        {L"\u7528\u7D19(&P)\uFF1A", L"\u7528\u7D19"},
-        {L"Tray (lower):", L"Tray (lower)"},
-        {L"(&P)", L"(P)"},
-        {L":", L""},
-        {L"", L""},
+    constexpr Row kRows[] = {
+        {o7::withoutMnemonics, L"&Size", L"Size"},
+        {o7::withoutMnemonics, L"Paper &size", L"Paper size"},
+        {o7::withoutMnemonics, L"Black && white", L"Black & white"},
+        {o7::withoutMnemonics, L"Black & white", L"Black & white"},
+        {o7::withoutMnemonics, L"R&&&D", L"R&D"},
+        {o7::withoutMnemonics, L"last&", L"last&"},
+        {o7::withoutMnemonics, L"", L""},
+        {o7::spokenName, L"Paper &size:", L"Paper size"},
+        {o7::spokenName, L"\u7528\u7D19(&P):", L"\u7528\u7D19"},
+        {o7::spokenName, L"\u7528\u7D19(&P)\uFF1A", L"\u7528\u7D19"},
+        {o7::spokenName, L"Tray (lower):", L"Tray (lower)"},
+        {o7::spokenName, L"(&P)", L"(P)"},
+        {o7::spokenName, L":", L""},
+        {o7::spokenName, L"", L""},
+        {o7::oneLine, L"a\r\nb \"c\" \\", LR"(a\nb \"c\" \\)"},
     };
-    for (const auto& [label, spoken] : kRows) {
-        EXPECT_EQ(spoken, o7::spokenName(label));
+    for (const Row& row : kRows) {
+        EXPECT_EQ(row.expected, row.change(row.text));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "rowtip.h"
 
 #include "cxstring.h"
+#include "tipplacement.h"
 
 #include <commctrl.h>
 
@@ -10,19 +11,11 @@ namespace o7 {
 
 namespace {
 
-bool isMirrored(HWND window)
-{
-    return (::GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
-}
-
 /// Top left corner of a tip of this size, in pixels of the screen, with the whole of it on the
 /// monitor that the row is on.
 POINT placeFor(SIZE tip, const RECT& row, int x, bool growsLeft)
 {
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof monitor;
-    ::GetMonitorInfoW(::MonitorFromRect(&row, MONITOR_DEFAULTTONEAREST), &monitor);
-    const RECT& work = monitor.rcWork;
+    const RECT work = workAreaOf(row);
     POINT place{growsLeft ? x - tip.cx : x, row.bottom};
     if (place.y + tip.cy > work.bottom) {
         place.y = row.top - tip.cy;

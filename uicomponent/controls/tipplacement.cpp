@@ -16,6 +16,19 @@ LONG within(LONG start, LONG length, LONG first, LONG last)
 
 } // namespace
 
+bool isMirrored(HWND window) noexcept
+{
+    return (::GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
+}
+
+RECT workAreaOf(const RECT& part) noexcept
+{
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    ::GetMonitorInfoW(::MonitorFromRect(&part, MONITOR_DEFAULTTONEAREST), &monitor);
+    return monitor.rcWork;
+}
+
 POINT placeBeside(const RECT& part, SIZE tip, const RECT& workArea, bool isMirrored) noexcept
 {
     const LONG right = part.right + kGap;

@@ -4,6 +4,12 @@
 
 namespace o7 {
 
+/// Whether a window is laid out from right to left.
+bool isMirrored(HWND window) noexcept;
+
+/// The work area of the monitor that a part of the screen is on, in pixels.
+RECT workAreaOf(const RECT& part) noexcept;
+
 /// The corner of a tip beside a part of the screen: behind it in the direction of reading, before
 /// it when there is no room, below it when there is none there either. Never over the part itself
 /// while there is room elsewhere, and never outside the work area while the tip fits into it.

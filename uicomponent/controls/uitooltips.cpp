@@ -18,17 +18,12 @@ constexpr int kMaximumWidth = 800; ///< pixels; longer texts go on in the next l
 constexpr int kTrackingOffset = 16;
 
 /// A page laid out from right to left is read that way.
-bool isRightToLeft(HWND window)
-{
-    return (::GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
-}
-
 /// A tool without its text. The size is the one that every version of the library knows.
 TTTOOLINFOW toolInfo(HWND owner, HWND tool, UINT flags)
 {
     TTTOOLINFOW info{};
     info.cbSize = TTTOOLINFOW_V2_SIZE;
-    info.uFlags = flags | (isRightToLeft(owner) ? TTF_RTLREADING : 0U);
+    info.uFlags = flags | (o7::isMirrored(owner) ? TTF_RTLREADING : 0U);
     info.hwnd = owner;
     info.uId = reinterpret_cast<UINT_PTR>(tool);
     return info;
@@ -199,7 +194,7 @@ void UIToolTips::showPlaced(HWND window, const CXString& text,
 {
     hidePlaced(window);
     TTTOOLINFOW info = placedTool(window);
-    info.uFlags |= isRightToLeft(m_owner) ? UINT{TTF_RTLREADING} : 0U; // a dropped list is not
+    info.uFlags |= o7::isMirrored(m_owner) ? UINT{TTF_RTLREADING} : 0U; // a dropped list is not
     info.lpszText = const_cast<wchar_t*>(text.c_str());
     if (text.IsEmpty() || send(getHwnd(), TTM_ADDTOOLW, 0, info) == FALSE) {
         return;
@@ -226,11 +221,9 @@ void UIToolTips::hidePlaced(HWND window)
 
 void UIToolTips::showBeside(HWND window, const RECT& part, const CXString& text)
 {
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof monitor;
-    ::GetMonitorInfoW(::MonitorFromRect(&part, MONITOR_DEFAULTTONEAREST), &monitor);
+    const RECT workArea = o7::workAreaOf(part);
     showPlaced(window, text, [&](SIZE size) {
-        return o7::placeBeside(part, size, monitor.rcWork, isRightToLeft(m_owner));
+        return o7::placeBeside(part, size, workArea, o7::isMirrored(m_owner));
     });
 }
 
