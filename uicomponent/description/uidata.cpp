@@ -20,6 +20,7 @@ UIData::UIData(const UIRootRecord* root, UIMode mode, Workflow workflow)
     const auto modeValue = static_cast<std::uint32_t>(mode);
     m_tabs = o7::wrapRecords<UIContainerData>(m_root->tabs, modeValue);
     m_dialogs = o7::wrapRecords<UIContainerData>(m_root->dialogs, modeValue);
+    m_offTabs = o7::wrapRecords<UIContainerData>(m_root->offTabs, modeValue);
     if (m_root->tvTab != nullptr)
         m_tvTab = std::make_unique<UITvTabData>(*m_root->tvTab);
 }

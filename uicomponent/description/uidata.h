@@ -32,6 +32,8 @@ public:
 
     const UIDataList<UIContainerData>& getTabs() const { return m_tabs; }
     const UIDataList<UIContainerData>& getDialogs() const { return m_dialogs; }
+    /// Areas that the sheet's window shows under its pages, whichever page is active.
+    const UIDataList<UIContainerData>& getOffTabs() const { return m_offTabs; }
 
     /// The dialog of that number, or null when this interface has none.
     const UIContainerData* findDialog(DialogId id) const;
@@ -58,6 +60,7 @@ private:
     const UIRootRecord* m_root;
     CXString m_name;
     std::unique_ptr<UITvTabData> m_tvTab;
+    UIDataList<UIContainerData> m_offTabs;
     UIMode m_mode;
     Workflow m_workflow;
 };

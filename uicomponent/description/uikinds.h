@@ -48,6 +48,8 @@ enum class UIMoleculeKind : std::uint32_t
     RangeOfInteger = 11,
     Text = 12, ///< A line or short paragraph of explanation, bound to no feature.
     DimensionSpin = 13,
+    Status = 14, ///< What is in conflict, or differs from the defaults; bound to no feature.
+    Button = 15, ///< A push button that reports an action.
 };
 
 /// The kind of a tree-view item.

@@ -108,5 +108,6 @@ struct UIRootRecord
     std::uint32_t caption = 0;
     UIRecords<UIContainerRecord> tabs{};
     UIRecords<UIContainerRecord> dialogs{};
-    const UITvTabRecord* tvTab = nullptr; ///< Tree-view page, when the interface has one.
+    const UITvTabRecord* tvTab = nullptr;   ///< Tree-view page, when the interface has one.
+    UIRecords<UIContainerRecord> offTabs{}; ///< Areas in the sheet's window, under the pages.
 };

@@ -281,4 +281,10 @@
 #define O7STR_T_INK 33024 // "Changing the black ink takes some minutes."
 #define O7STR_T_LINES 33025 // "They change drawings and leave pictures alone."
 #define O7STR_T_COLOUR_UNITS 33026 // "Profiles and spot colours need the controller."
+
+// What is said about typed values (34000 to 34099)
+#define O7STR_M_NUMBER_RANGE 34000 // "Enter a whole number from %s to %s."
+
+// The sheet around the pages (34200 to 34299)
+#define O7STR_L_PAGE_DEFAULTS 34200 // "Page &Defaults"
 // clang-format on

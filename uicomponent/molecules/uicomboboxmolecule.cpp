@@ -8,7 +8,6 @@
 #include "uicontroldata.h"
 #include "uimoleculedata.h"
 #include "uimoleculedump.h"
-#include "uitextcontrol.h"
 #include "windowtext.h"
 
 namespace {
@@ -17,9 +16,6 @@ namespace {
 constexpr long kListHeight = 12;       // closed, at least
 constexpr long kRaisedListHeight = 21; // with room for a button beside it
 constexpr long kBoxHeight = 14;        // closed, as drawn
-constexpr long kTextHeight = 8;
-constexpr long kLabelGap = 1;  // between a label and the box under it
-constexpr long kLabelDrop = 3; // of a label beside the box
 
 } // namespace
 
@@ -45,52 +41,52 @@ void UIComboBoxMolecule::InitializeFromDescription()
             raised = true;
             break;
         case UIControlKind::Text:
-            m_labelText = control->getLabel();
+            m_label.Set(LoadText(control->getLabel()), GetLabelWidth());
             break;
         default:
             break;
         }
     }
-    const long box = std::max({raised ? kRaisedListHeight : kListHeight, least, kBoxHeight});
-    const bool labelAbove = m_labelText && !GetLabelWidth();
-    SetMinimumExtent({0, box + (labelAbove ? kTextHeight + kLabelGap : 0)});
+    m_boxHeight = std::max({raised ? kRaisedListHeight : kListHeight, least, kBoxHeight});
+    UpdateMinimumHeight();
 }
 
-void UIComboBoxMolecule::CreateLabel(UIPageWindow& page, const CXString& text)
+void UIComboBoxMolecule::UpdateMinimumHeight()
 {
-    const long labelWidth = GetLabelWidth();
-    const POINT place = GetPosition();
-    const SIZE size{labelWidth ? labelWidth : GetContentWidth(), kTextHeight};
-    m_label =
-        std::make_unique<UITextControl>(page.window, page.takeId(), GetSite().services, page.font,
-                                        POINT{place.x, place.y + (labelWidth ? kLabelDrop : 0)},
-                                        size, SS_NOTIFY, true, page.boldFont);
-    SetWindowTextW(m_label->getHwnd(), text.c_str());
+    SetMinimumExtent({0, m_boxHeight + m_label.GetHeightAbove()});
+}
+
+void UIComboBoxMolecule::FitTexts(const UITextRuler& ruler, long width)
+{
+    m_label.Fit(ruler, width - kInfoLane);
+    UpdateMinimumHeight();
+}
+
+long UIComboBoxMolecule::GetWantedLabelWidth(const UITextRuler& ruler) const
+{
+    return m_label.GetWantedWidth(ruler);
 }
 
 void UIComboBoxMolecule::CreateControls(UIPageWindow& page)
 {
     SetPage(page);
-    const CXString label = m_labelText ? LoadText(m_labelText) : CXString();
-    if (m_labelText)
-        CreateLabel(page, label);
     const POINT place = GetPosition();
-    const long labelWidth = m_labelText ? GetLabelWidth() : 0;
+    m_label.Create(page, GetSite().services, place, GetContentWidth());
+    const long labelWidth = m_label.GetBesideWidth();
     m_combo = std::make_unique<UIComboBoxControl>(
         page.window, page.takeId(), GetSite().services, page.font,
         POINT{place.x + labelWidth, place.y + GetMinimumHeight() - kBoxHeight},
         SIZE{GetContentWidth() - labelWidth, kBoxHeight});
     m_combo->setUnavailableReasons(GetToolTips(), [this](int index) { return ReasonOf(index); });
     // The system's own name for a list is its present text.
-    m_combo->setAccessibleName(o7::spokenName(label));
+    m_combo->setAccessibleName(o7::spokenName(m_label.GetText()));
 }
 
 void UIComboBoxMolecule::SetPosition(POINT position)
 {
     const POINT delta{position.x - GetPosition().x, position.y - GetPosition().y};
     UIComboListBaseMolecule::SetPosition(position);
-    if (m_label)
-        m_label->move(delta, false);
+    m_label.Move(delta);
     if (m_combo)
         m_combo->move(delta, false);
 }
@@ -108,8 +104,7 @@ void UIComboBoxMolecule::FillTogether(const std::function<void()>& fill)
 
 void UIComboBoxMolecule::EnableControls(bool enabled)
 {
-    if (m_label)
-        m_label->setEnable(enabled);
+    m_label.Enable(enabled);
     if (m_combo)
         m_combo->setEnable(enabled);
 }
@@ -155,8 +150,7 @@ void UIComboBoxMolecule::LookChanged()
 void UIComboBoxMolecule::Show(bool shown)
 {
     UIComboListBaseMolecule::Show(shown);
-    if (m_label)
-        m_label->setShow(shown);
+    m_label.Show(shown);
     if (m_combo)
         m_combo->setShow(shown);
 }
@@ -168,7 +162,7 @@ HWND UIComboBoxMolecule::InfoAnchor() const
 
 void UIComboBoxMolecule::DumpControls() const
 {
-    o7::dumpControl(L"list", LoadText(m_labelText), ShownText(), StateText(), GetInfoText());
+    o7::dumpControl(L"list", m_label.GetText(), ShownText(), StateText(), GetInfoText());
     DumpOptions();
 }
 

@@ -3,9 +3,9 @@
 #include <memory>
 
 #include "uicombolistbasemolecule.h"
+#include "uimoleculelabel.h"
 
 class UIComboBoxControl;
-class UITextControl;
 
 /// A labelled drop-down list of the options of a feature. With a label width the label stands to
 /// the left of the list, otherwise above it.
@@ -22,6 +22,8 @@ public:
     void LookChanged() override;
     void DumpControls() const override;
     void Show(bool shown) override;
+    void FitTexts(const UITextRuler& ruler, long width) override;
+    long GetWantedLabelWidth(const UITextRuler& ruler) const override;
     HWND InfoAnchor() const override;
     CXString GetObserverClassNameHeirarchy() const override;
 
@@ -31,11 +33,11 @@ protected:
     void FillTogether(const std::function<void()>& fill) override;
 
 private:
-    void CreateLabel(UIPageWindow& page, const CXString& text);
+    void UpdateMinimumHeight();
     bool HandleNotification(int notification);
 
-    std::unique_ptr<UITextControl> m_label;
+    UIMoleculeLabel m_label;
     std::unique_ptr<UIComboBoxControl> m_combo;
-    unsigned m_labelText = 0;
+    long m_boxHeight = 0;           ///< with the room that a button beside the box wants
     bool m_choiceCancelled = false; ///< the list is about to close without a choice
 };

@@ -15,9 +15,11 @@ void UIFeatureMolecule::ConnectToDataModel()
 {
     if (!IsBound() || m_connected)
         return;
-    GetSite().featureServices.RegisterObserver(*this,
-                                               SettingsInstanceId(DataModelIds::kSettingsCurrent),
-                                               GetBoundFeature(), DataModelIds::kObserverFeature);
+    const SettingsInstanceId current(DataModelIds::kSettingsCurrent);
+    FeatureServices& services = GetSite().featureServices;
+    services.RegisterObserver(*this, current, GetBoundFeature(), DataModelIds::kObserverFeature);
+    for (const auto& feature : m_furtherFeatures)
+        services.RegisterObserver(*this, current, feature, DataModelIds::kObserverFeature);
     m_connected = true;
     LoadValue();
     LoadState();
@@ -28,9 +30,16 @@ void UIFeatureMolecule::DisconnectFromDataModel()
     if (!IsBound() || !m_connected)
         return;
     m_connected = false;
-    GetSite().featureServices.UnregisterObserver(*this,
-                                                 SettingsInstanceId(DataModelIds::kSettingsCurrent),
-                                                 GetBoundFeature(), DataModelIds::kObserverFeature);
+    const SettingsInstanceId current(DataModelIds::kSettingsCurrent);
+    FeatureServices& services = GetSite().featureServices;
+    services.UnregisterObserver(*this, current, GetBoundFeature(), DataModelIds::kObserverFeature);
+    for (const auto& feature : m_furtherFeatures)
+        services.UnregisterObserver(*this, current, feature, DataModelIds::kObserverFeature);
+}
+
+void UIFeatureMolecule::AddFurtherFeature(const FeatureIdWithContext& feature)
+{
+    m_furtherFeatures.push_back(feature);
 }
 
 void UIFeatureMolecule::Refresh()
@@ -45,6 +54,8 @@ void UIFeatureMolecule::CollectSettings(SetOfSettingIds& settings) const
 {
     if (IsBound())
         settings.InsertSetting(GetBoundFeature());
+    for (const auto& feature : m_furtherFeatures)
+        settings.InsertSetting(feature);
 }
 
 void UIFeatureMolecule::ProcessNotification(const INotification& notification, unsigned int)

@@ -25,6 +25,9 @@ protected:
     /// Enables, clears and fills the controls from the state. Safe to repeat; never writes.
     virtual void ShowState(const InterpretedState& state, bool enabled) = 0;
 
+    /// A feature beside the bound one whose changes load value and state again. For
+    /// InitializeFromDescription.
+    void AddFurtherFeature(const FeatureIdWithContext& feature);
     /// Reads the state of the feature and shows it.
     void LoadState();
     /// The state last shown, for descriptions.
@@ -37,6 +40,7 @@ private:
     void ProcessChange(const INotification& notification);
     void ShowReasonTip();
 
+    std::vector<FeatureIdWithContext> m_furtherFeatures;
     InterpretedState m_state;
     CXString m_reasonTip; ///< what the tip of the greyed control says now
     bool m_connected = false;

@@ -254,6 +254,32 @@ HWND UIMolecule::InfoAnchor() const
     return nullptr;
 }
 
+bool UIMolecule::HasPendingInput() const
+{
+    return false;
+}
+
+bool UIMolecule::Focus()
+{
+    HWND target = InfoAnchor();
+    if (!target || !IsWindowEnabled(target))
+        target = m_infoButton ? m_infoButton->getHwnd() : nullptr;
+    if (!m_page || !target)
+        return false;
+    // The way of the dialog manager: it moves the default button and the focus cues along.
+    SendMessageW(m_page, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(target), TRUE);
+    return GetFocus() == target;
+}
+
+void UIMolecule::FitTexts(const UITextRuler&, long)
+{
+}
+
+long UIMolecule::GetWantedLabelWidth(const UITextRuler&) const
+{
+    return 0;
+}
+
 void UIMolecule::ProcessNotification(const INotification&, unsigned int)
 {
 }

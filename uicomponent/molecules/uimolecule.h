@@ -20,6 +20,7 @@
 class SetOfSettingIds;
 class UIInfoButtonControl;
 class UIMoleculeData;
+class UITextRuler;
 class UIToolTips;
 
 /// The unit that binds a few controls to one feature of the data model. A page holds its molecules
@@ -108,6 +109,19 @@ public:
     /// The window beside which the info button stands, centred on its height; null for none.
     virtual HWND InfoAnchor() const;
 
+    /// Whether something typed has not been taken into the model (yet): the sheet counts as
+    /// changed.
+    virtual bool HasPendingInput() const;
+    /// Moves the keyboard focus to the control, or to the info button while it is disabled.
+    /// @return false when neither can take it.
+    virtual bool Focus();
+    /// Called with the width that the molecule is about to get, before the controls are created:
+    /// changes the minimum height to what the texts need in the page's font. Widths that the record
+    /// fixes stay.
+    virtual void FitTexts(const UITextRuler& ruler, long width);
+    /// The room that the label wants beside its box; 0 without a label.
+    virtual long GetWantedLabelWidth(const UITextRuler& ruler) const;
+
     /// Room in dialog units for a label beside its box; 0 puts labels above. Set by the column
     /// before InitializeFromDescription.
     void SetLabelWidth(long width) { m_labelWidth = width; }
@@ -134,6 +148,7 @@ protected:
     bool IsForceDisabled() const { return m_forceDisabled; }
     bool IsShownOnPage() const { return m_shownOnPage; }
     bool IsBound() const;
+    HWND GetPage() const { return m_page; }
     /// Remembers the page for the controls that come later (the info button).
     void SetPage(UIPageWindow& page);
     /// Width in dialog units of what the molecule shows, the lane of the info button left free.

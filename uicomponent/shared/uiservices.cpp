@@ -10,7 +10,8 @@ constexpr auto kFeatureHelpFile = static_cast<DataModelIds::tagFeatureEnum>(696)
 
 } // namespace
 
-UIServices::UIServices() : m_dialogConversion(new DialogConversion)
+UIServices::UIServices()
+    : m_dialogConversion(new DialogConversion), m_regionalSettings(UIRegionalSettings::current())
 {
 }
 

@@ -2,6 +2,7 @@
 
 #include "cxstring.h"
 #include "uiapi.h"
+#include "uiregionalsettings.h"
 
 class DialogConversion;
 class FeatureServices;
@@ -23,10 +24,16 @@ public:
     /// Converts dialog units to pixels; set up for a page when that page's dialog is initialised.
     DialogConversion& getDialogConversion() const noexcept { return *m_dialogConversion; }
 
+    /// How the person writes numbers and lengths; read from the system when the services are made.
+    const UIRegionalSettings& getRegionalSettings() const noexcept { return m_regionalSettings; }
+    /// For WM_SETTINGCHANGE, and for tests.
+    void setRegionalSettings(const UIRegionalSettings& settings) { m_regionalSettings = settings; }
+
     /// The help file of the product: the value of string feature 696; empty when the product has
     /// no such feature.
     static CXString GetHelpFile(FeatureServices& featureServices, ProductData& productData);
 
 private:
     DialogConversion* m_dialogConversion;
+    UIRegionalSettings m_regionalSettings;
 };

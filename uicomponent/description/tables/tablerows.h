@@ -47,7 +47,115 @@ inline constexpr UIControlRecord kTextControls[] = {
     {.kind = UIControlKind::Text, .label = Text, .extra = &kTextLines<Lines>},
 };
 
+/// A label and a box of another kind than a list, told more about by an extra record.
+template <UIControlKind Kind, tagFeatureEnum Feature, std::uint32_t Label, auto* Extra>
+inline constexpr UIControlRecord kBoxControls[] = {
+    {.kind = UIControlKind::Text, .feature = Feature, .label = Label},
+    {.kind = Kind, .feature = Feature, .extra = Extra},
+};
+
+template <std::uint32_t Unit> inline constexpr UISpinRecord kUnitSpin{.unitLabel = Unit};
+inline constexpr UIDimensionSpinRecord kLengthSpin{};
+template <std::uint32_t Low, std::uint32_t High>
+inline constexpr UISliderRecord kEndsSlider{
+    .tickFrequency = 10, .pageSize = 10, .lowLabel = Low, .highLabel = High};
+template <std::uint32_t Limit> inline constexpr UIEditRecord kLimitEdit{.limit = Limit};
+inline constexpr UIEditRecord kNumberEdit{.limit = 11, .width = 40, .digitsOnly = true};
+inline constexpr UIListRecord kOptionList{};
+inline constexpr UIRadioRecord kOptionRadio{};
+
+template <tagFeatureEnum Switch, tagFeatureEnum Range, std::uint32_t Label, std::uint32_t From,
+          std::uint32_t To>
+inline constexpr UIControlRecord kRangeControls[] = {
+    {.kind = UIControlKind::Check, .feature = Switch, .label = Label},
+    {.kind = UIControlKind::Text, .feature = Range, .label = From},
+    {.kind = UIControlKind::Spin, .feature = Range},
+    {.kind = UIControlKind::Text, .feature = Range, .label = To},
+    {.kind = UIControlKind::Spin, .feature = Range},
+};
+
 } // namespace rows
+
+/// A whole number with arrows, and the text of its unit behind the box.
+template <tagFeatureEnum Feature, std::uint32_t Label, std::uint32_t Unit = 0>
+constexpr UIMoleculeRecord spin()
+{
+    return {.kind = UIMoleculeKind::Spin,
+            .controls =
+                rows::kBoxControls<UIControlKind::Spin, Feature, Label, &rows::kUnitSpin<Unit>>,
+            .featureState = 1};
+}
+
+/// A length with arrows, in the units that the person works in.
+template <tagFeatureEnum Feature, std::uint32_t Label> constexpr UIMoleculeRecord length()
+{
+    return {
+        .kind = UIMoleculeKind::DimensionSpin,
+        .controls =
+            rows::kBoxControls<UIControlKind::DimensionSpin, Feature, Label, &rows::kLengthSpin>,
+        .featureState = 1};
+}
+
+/// A slider over a whole number, with texts under its ends.
+template <tagFeatureEnum Feature, std::uint32_t Label, std::uint32_t Low, std::uint32_t High>
+constexpr UIMoleculeRecord slider()
+{
+    return {.kind = UIMoleculeKind::Slider,
+            .controls = rows::kBoxControls<UIControlKind::Slider, Feature, Label,
+                                           &rows::kEndsSlider<Low, High>>,
+            .featureState = 1};
+}
+
+/// A field for a text of so many characters.
+template <tagFeatureEnum Feature, std::uint32_t Label, std::uint32_t Limit = 255>
+constexpr UIMoleculeRecord edit()
+{
+    return {.kind = UIMoleculeKind::Edit,
+            .controls =
+                rows::kBoxControls<UIControlKind::Edit, Feature, Label, &rows::kLimitEdit<Limit>>,
+            .featureState = 1};
+}
+
+/// A field for a whole number, without arrows.
+template <tagFeatureEnum Feature, std::uint32_t Label> constexpr UIMoleculeRecord number()
+{
+    return {.kind = UIMoleculeKind::Edit,
+            .controls = rows::kBoxControls<UIControlKind::Edit, Feature, Label, &rows::kNumberEdit>,
+            .featureState = 1};
+}
+
+/// A range of whole numbers behind a check box that switches it on.
+template <tagFeatureEnum Switch, tagFeatureEnum Range, std::uint32_t Label, std::uint32_t From,
+          std::uint32_t To>
+constexpr UIMoleculeRecord range()
+{
+    return {.kind = UIMoleculeKind::RangeOfInteger,
+            .controls = rows::kRangeControls<Switch, Range, Label, From, To>,
+            .featureState = 1};
+}
+
+/// An open list of the options, with its label.
+template <tagFeatureEnum Feature, std::uint32_t Label> constexpr UIMoleculeRecord pickOne()
+{
+    return {.kind = UIMoleculeKind::PickOne,
+            .controls = rows::kBoxControls<UIControlKind::List, Feature, Label, &rows::kOptionList>,
+            .featureState = 1};
+}
+
+/// One radio button for each option that the product has, under a heading.
+template <tagFeatureEnum Feature, std::uint32_t Label> constexpr UIMoleculeRecord pickOneRadio()
+{
+    return {.kind = UIMoleculeKind::PickOneRadio,
+            .controls =
+                rows::kBoxControls<UIControlKind::Radio, Feature, Label, &rows::kOptionRadio>,
+            .featureState = 1};
+}
+
+/// Radio buttons for the values that its controls name.
+constexpr UIMoleculeRecord radioButtons(UIRecords<UIControlRecord> controls)
+{
+    return {.kind = UIMoleculeKind::RadioButtons, .controls = controls, .featureState = 1};
+}
 
 /// A closed list with its label.
 template <tagFeatureEnum Feature, std::uint32_t Label> constexpr UIMoleculeRecord combo()
