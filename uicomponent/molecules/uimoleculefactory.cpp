@@ -5,8 +5,13 @@
 #include "uicheckboxmolecule.h"
 #include "uicomboboxmolecule.h"
 #include "uicontainermolecule.h"
+#include "uidimensionspinmolecule.h"
+#include "uieditmolecule.h"
 #include "uigroupboxmolecule.h"
 #include "uimoleculedata.h"
+#include "uirangeofintegermolecule.h"
+#include "uislidermolecule.h"
+#include "uispinmolecule.h"
 #include "uitextmolecule.h"
 
 namespace {
@@ -29,6 +34,11 @@ constexpr struct
     { UIMoleculeKind::GroupBox,  make<UIGroupBoxMolecule> },
     { UIMoleculeKind::Container, make<UIContainerMolecule> },
     { UIMoleculeKind::Text,      make<UITextMolecule> },
+    { UIMoleculeKind::Spin,      make<UISpinMolecule> },
+    { UIMoleculeKind::DimensionSpin, make<UIDimensionSpinMolecule> },
+    { UIMoleculeKind::Slider,    make<UISliderMolecule> },
+    { UIMoleculeKind::Edit,      make<UIEditMolecule> },
+    { UIMoleculeKind::RangeOfInteger, make<UIRangeOfIntegerMolecule> },
 };
 // clang-format on
 
