@@ -7,6 +7,9 @@
 #include "uicontainermolecule.h"
 #include "uigroupboxmolecule.h"
 #include "uimoleculedata.h"
+#include "uipickonemolecule.h"
+#include "uipickoneradiomolecule.h"
+#include "uiradiobuttonmolecule.h"
 #include "uitextmolecule.h"
 
 namespace {
@@ -23,12 +26,15 @@ constexpr struct
     UIMoleculeKind kind;
     std::unique_ptr<UIMolecule> (*create)(const UIMoleculeData&, const UIMoleculeSite&);
 } kClasses[] = {
-    // kind                     class
-    { UIMoleculeKind::CheckBox,  make<UICheckBoxMolecule> },
-    { UIMoleculeKind::ComboBox,  make<UIComboBoxMolecule> },
-    { UIMoleculeKind::GroupBox,  make<UIGroupBoxMolecule> },
-    { UIMoleculeKind::Container, make<UIContainerMolecule> },
-    { UIMoleculeKind::Text,      make<UITextMolecule> },
+    // kind                        class
+    { UIMoleculeKind::CheckBox,     make<UICheckBoxMolecule> },
+    { UIMoleculeKind::ComboBox,     make<UIComboBoxMolecule> },
+    { UIMoleculeKind::GroupBox,     make<UIGroupBoxMolecule> },
+    { UIMoleculeKind::Container,    make<UIContainerMolecule> },
+    { UIMoleculeKind::PickOne,      make<UIPickOneMolecule> },
+    { UIMoleculeKind::PickOneRadio, make<UIPickOneRadioMolecule> },
+    { UIMoleculeKind::RadioButtons, make<UIRadioButtonMolecule> },
+    { UIMoleculeKind::Text,         make<UITextMolecule> },
 };
 // clang-format on
 
