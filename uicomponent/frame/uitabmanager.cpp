@@ -18,6 +18,7 @@
 #include "uidialogtemplate.h"
 #include "uieventprocessor.h"
 #include "uimessagemanager.h"
+#include "uiofftab.h"
 #include "uiservices.h"
 #include "uitab.h"
 
@@ -33,7 +34,17 @@ constexpr unsigned kWarningAdvice = 35002;
 
 // What the manager and the tabs handle themselves, besides what molecules want.
 constexpr UINT kOwnMessages[] = {WM_INITDIALOG, WM_PAINT, WM_NOTIFY, WM_DESTROY,
-                                 kFirstPaintMessage};
+                                 kFirstPaintMessage, UIApplyButton::kModelChanged};
+
+// Between the tab control and an area, and between two areas; dialog units.
+constexpr long kAreaGap = 4;
+
+/// The whole dialog units that fit into so many pixels.
+long unitsIn(const DialogConversion& conversion, long pixels)
+{
+    const long units = conversion.pixelsToDialogUnits(SIZE{pixels, 0}).cx;
+    return conversion.dialogUnitsToPixels(SIZE{units, 0}).cx > pixels ? units - 1 : units;
+}
 
 [[noreturn]] void throwPageFailure(const UITab& tab)
 {
@@ -64,7 +75,8 @@ UITabManager::UITabManager(UIServices& services, UIMessageManager& messageManage
       m_eventProcessor(eventProcessor),
       m_services(services),
       m_mode(mode),
-      m_option(option)
+      m_option(option),
+      m_applyButton(featureServices, [this] { return hasPendingInput(); })
 {
     for (const UINT message : kOwnMessages)
         m_wanted.add(message);
@@ -72,6 +84,10 @@ UITabManager::UITabManager(UIServices& services, UIMessageManager& messageManage
 
 UITabManager::~UITabManager()
 {
+    if (hasOffTabs())
+        m_messageManager.removeLast(UIMessageKind::OffTab);
+    m_offTabs.clear(); // before the sheet closes up over the place where they stood
+    m_sheet.restore();
     if (!m_tabs.empty())
         m_messageManager.removeLast(UIMessageKind::TabPage);
 }
@@ -223,27 +239,95 @@ bool UITabManager::handlePageMessage(const _UIWindowsMessage& message)
         return true;
     case WM_COMMAND: {
         const bool claimed = offerToTabs(message);
-        if (claimed)
-            updateApplyButton(message.window);
+        m_applyButton.update();
         return claimed;
     }
+    case UIApplyButton::kModelChanged:
+        m_applyButton.modelChanged();
+        return true;
     default:
         return offerToTabs(message);
     }
 }
 
-bool UITabManager::handleOffTabMessage(const _UIWindowsMessage&)
+void UITabManager::buildOffTabs(const Descriptions& descriptions)
 {
+    for (const UIContainerData* description : descriptions) {
+        auto offTab = std::make_unique<UIOffTab>(m_featureServices, m_context, m_services);
+        if (offTab->build(*description))
+            m_offTabs.push_back(std::move(offTab));
+    }
+    if (hasOffTabs())
+        m_messageManager.append(UIMessageKind::OffTab, *this);
+}
+
+bool UITabManager::handleOffTabMessage(const _UIWindowsMessage& message)
+{
+    const IsolationAware::CallerContext callerContext(m_activationContext);
+    if (message.kind == UIMessageKind::TabPage) {
+        if (!m_sheet.get())
+            openOffTabs(message);
+        return false; // the page itself is still to be made
+    }
+    const bool claimed = offerToOffTabs(message);
+    if (message.message == WM_COMMAND)
+        m_applyButton.update();
+    if (!claimed && message.window == m_sheet.get()) {
+        message.result = m_sheet.passOn(message);
+        return true;
+    }
+    return claimed;
+}
+
+bool UITabManager::offerToOffTabs(const _UIWindowsMessage& message) const
+{
+    for (const auto& offTab : m_offTabs)
+        if (offTab->handleMessage(message))
+            return true;
     return false;
+}
+
+void UITabManager::openOffTabs(const _UIWindowsMessage& message)
+{
+    if (!m_sheet.adopt(GetParent(message.window)))
+        return;
+    const DialogConversion& conversion = m_services.getDialogConversion();
+    RECT place = m_sheet.getTabControl();
+    const long units = unitsIn(conversion, place.right - place.left);
+    const long gap = conversion.dialogUnitsToPixels(SIZE{0, kAreaGap}).cy;
+    std::vector<long> heights;
+    long growth = 0;
+    for (const auto& offTab : m_offTabs) {
+        heights.push_back(
+            conversion.dialogUnitsToPixels(SIZE{0, offTab->arrange(units)}).cy);
+        growth += gap + heights.back();
+    }
+    if (!m_sheet.enlarge(growth)) {
+        o7::trace(CXString(L"the screen is too low for the areas under the pages"));
+        return;
+    }
+    m_sheet.subclass(m_messageManager);
+    HWND predecessor = m_sheet.getTabPredecessor();
+    for (std::size_t index = 0; index < m_offTabs.size(); ++index) {
+        place.top = place.bottom + gap;
+        place.bottom = place.top + heights[index];
+        if (m_offTabs[index]->open(m_moduleInstance, m_sheet.get(), place, predecessor,
+                                   m_messageManager))
+            predecessor = m_offTabs[index]->getWindow();
+    }
+    m_eventProcessor.notifyDataModel(DataModelIds::kEventSheetSubclassed, message.window);
 }
 
 bool UITabManager::initializePage(const _UIWindowsMessage& message)
 {
     m_services.getDialogConversion().initDialogConversions(message.window);
-    const bool claimed = offerToTabs(message);
-    if (claimed)
-        m_eventProcessor.incrementVisitedTabCount();
-    return claimed;
+    if (hasOffTabs())
+        handleOffTabMessage(message);
+    if (!offerToTabs(message))
+        return false;
+    m_eventProcessor.incrementVisitedTabCount();
+    m_applyButton.pageInitialized(message.window);
+    return true;
 }
 
 void UITabManager::postFirstPaint(const _UIWindowsMessage& message)
@@ -281,7 +365,7 @@ void UITabManager::completeApply(const _UIWindowsMessage& message)
     const bool closing = reinterpret_cast<const PSHNOTIFY*>(message.lParam)->lParam != 0;
     m_eventProcessor.notifyDataModel(closing ? DataModelIds::kEventOk : DataModelIds::kEventApply,
                                      &m_mode);
-    m_modifiedShown = false; // the sheet greys Apply by itself
+    m_applyButton.applied();
     if (showApplyWarning(message.window))
         SetWindowLongPtrW(message.window, DWLP_MSGRESULT, PSNRET_INVALID);
 }
@@ -301,24 +385,17 @@ bool UITabManager::showApplyWarning(HWND page) const
     return true;
 }
 
-void UITabManager::updateApplyButton(HWND page)
+bool UITabManager::hasPendingInput() const
 {
-    const bool modified = m_featureServices.IsModified();
-    if (modified == m_modifiedShown)
-        return;
-    m_modifiedShown = modified;
-    const HWND sheet = GetParent(page);
-    if (modified) {
-        SendMessageW(sheet, PSM_CHANGED, reinterpret_cast<WPARAM>(page), 0);
-        return;
-    }
-    for (const auto& tab : m_tabs)
-        if (tab->getWindow())
-            SendMessageW(sheet, PSM_UNCHANGED, reinterpret_cast<WPARAM>(tab->getWindow()), 0);
+    const auto waits = [](const auto& container) { return container->hasPendingInput(); };
+    return std::any_of(m_tabs.begin(), m_tabs.end(), waits) ||
+           std::any_of(m_offTabs.begin(), m_offTabs.end(), waits);
 }
 
 void UITabManager::dump() const
 {
     for (const auto& tab : m_tabs)
         tab->dump();
+    for (const auto& offTab : m_offTabs)
+        offTab->dump();
 }

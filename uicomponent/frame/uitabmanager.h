@@ -7,16 +7,19 @@
 #include <memory>
 #include <vector>
 
+#include "uiapplybutton.h"
 #include "uidatalist.h"
 #include "uimessagehandler.h"
 #include "uimessagemask.h"
 #include "uimode.h"
+#include "uisheetwindow.h"
 
 class FeatureServices;
 class ProductData;
 class UIContainerData;
 class UIEventProcessor;
 class UIMessageManager;
+class UIOffTab;
 class UIServices;
 class UITab;
 struct UIContext;
@@ -40,7 +43,7 @@ public:
     ~UITabManager() override;
 
     bool handleMessage(const _UIWindowsMessage& message) override;
-    /// Dumps every tab, in creation order.
+    /// Dumps every tab, in creation order, and then the areas under them.
     void dump() const override;
 
     /// Pages for PropertySheetW. @return how many; their handles are written to `pages`, and belong
@@ -61,6 +64,10 @@ public:
     /// Called when the data model has settled: what is on screen already is brought up to date.
     virtual void buildTabs(const Descriptions& descriptions);
 
+    /// Makes the areas that stand in the sheet's own window, under the pages. They get their
+    /// windows with the first page. To be called before pages are created, once.
+    void buildOffTabs(const Descriptions& descriptions);
+
     long getLargestWidth() const { return m_largestWidth; }   ///< dialog units
     long getLargestHeight() const { return m_largestHeight; } ///< dialog units
     const std::vector<std::unique_ptr<UITab>>& getTabs() const { return m_tabs; }
@@ -68,12 +75,13 @@ public:
 protected:
     /// Messages of the pages.
     virtual bool handlePageMessage(const _UIWindowsMessage& message);
-    /// Messages of the sheet window. Without off-tab areas the sheet is not subclassed and none
-    /// arrive.
+    /// Messages of the sheet window and of the areas in it, and each page's WM_INITDIALOG: with the
+    /// first one the areas are opened. Without areas the sheet is not subclassed and none arrive.
     virtual bool handleOffTabMessage(const _UIWindowsMessage& message);
 
     /// Offers a message to the tabs in creation order, up to the first that claims it.
     bool offerToTabs(const _UIWindowsMessage& message) const;
+    bool hasOffTabs() const { return !m_offTabs.empty(); }
 
 private:
     struct Page;
@@ -86,12 +94,15 @@ private:
     void rejectApply();
     void completeApply(const _UIWindowsMessage& message);
     bool showApplyWarning(HWND page) const;
-    void updateApplyButton(HWND page);
+    bool hasPendingInput() const;
+    void openOffTabs(const _UIWindowsMessage& message);
+    bool offerToOffTabs(const _UIWindowsMessage& message) const;
 
     std::vector<HPROPSHEETPAGE> m_pages;
     HANDLE m_cpsuiSheet = nullptr;
     UIComPropSheetCallback m_cpsuiCallback = nullptr;
     std::vector<std::unique_ptr<UITab>> m_tabs;
+    std::vector<std::unique_ptr<UIOffTab>> m_offTabs;
     HINSTANCE m_moduleInstance;
     UIMessageManager& m_messageManager;
     FeatureServices& m_featureServices;
@@ -104,7 +115,8 @@ private:
     HANDLE m_activationContext = nullptr; ///< the caller's, for what the pages create
     bool m_tabFlag = false;
     bool m_firstPaintPending = true;
-    bool m_modifiedShown = false;
+    UISheetWindow m_sheet;
+    UIApplyButton m_applyButton;
     long m_largestWidth = 0;
     long m_largestHeight = 0;
     UIMessageMask m_wanted;
