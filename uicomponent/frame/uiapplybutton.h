@@ -17,7 +17,7 @@ class UIApplyButton : public IObserver
 {
 public:
     /// Posted to a page when the model has changed; the manager calls modelChanged() then.
-    static constexpr UINT kModelChanged = WM_APP + 8;
+    static constexpr UINT kModelChanged = WM_APP + 10;
 
     /// @param hasPendingInput  asked after every command of a page, so it has to be quick.
     UIApplyButton(FeatureServices& featureServices, std::function<bool()> hasPendingInput);

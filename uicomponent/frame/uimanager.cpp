@@ -110,9 +110,9 @@ void UIManager::initializePartI(FeatureServices& featureServices, ProductStringL
     m_specialFeatureHandler->setEventProcessor(m_eventProcessor.get());
     if (!wantsPages)
         return;
-    m_tabManager = std::make_unique<UITabManager>(
-        *m_services, *m_messageManager, m_moduleInstance, featureServices, *m_context,
-        m_productData, *m_eventProcessor, m_mode, m_option);
+    m_tabManager = std::make_unique<UITabManager>(*m_services, *m_messageManager, m_moduleInstance,
+                                                  featureServices, *m_context, m_productData,
+                                                  *m_eventProcessor, m_mode, m_option);
     m_tabManager->buildOffTabs(listed(m_uiData->getOffTabs()));
 }
 

@@ -33,8 +33,8 @@ constexpr unsigned kWarningText = 35001;
 constexpr unsigned kWarningAdvice = 35002;
 
 // What the manager and the tabs handle themselves, besides what molecules want.
-constexpr UINT kOwnMessages[] = {WM_INITDIALOG, WM_PAINT, WM_NOTIFY, WM_DESTROY,
-                                 kFirstPaintMessage, UIApplyButton::kModelChanged};
+constexpr UINT kOwnMessages[] = {WM_INITDIALOG, WM_PAINT,           WM_NOTIFY,
+                                 WM_DESTROY,    kFirstPaintMessage, UIApplyButton::kModelChanged};
 
 // Between the tab control and an area, and between two areas; dialog units.
 constexpr long kAreaGap = 4;
@@ -298,8 +298,7 @@ void UITabManager::openOffTabs(const _UIWindowsMessage& message)
     std::vector<long> heights;
     long growth = 0;
     for (const auto& offTab : m_offTabs) {
-        heights.push_back(
-            conversion.dialogUnitsToPixels(SIZE{0, offTab->arrange(units)}).cy);
+        heights.push_back(conversion.dialogUnitsToPixels(SIZE{0, offTab->arrange(units)}).cy);
         growth += gap + heights.back();
     }
     if (!m_sheet.enlarge(growth)) {
