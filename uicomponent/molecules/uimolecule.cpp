@@ -144,7 +144,8 @@ UIMolecule::InfoStyle UIMolecule::WantedInfoStyle(const InterpretedState& state)
     return state.HasInfoBtnMsg() || limited ? InfoStyle::Information : InfoStyle::None;
 }
 
-void UIMolecule::UpdateInfoButton(const FeatureIdWithContext&, const InterpretedState& state)
+void UIMolecule::UpdateInfoButton(const FeatureIdWithContext& feature,
+                                  const InterpretedState& state)
 {
     m_infoStyle = WantedInfoStyle(state);
     m_infoText = CXString();
@@ -160,9 +161,8 @@ void UIMolecule::UpdateInfoButton(const FeatureIdWithContext&, const Interpreted
     if (!m_infoButton)
         CreateInfoButton();
     if (m_infoButton)
-        m_infoButton->setMessage(
-            static_cast<std::uint32_t>(m_infoStyle), m_infoText,
-            m_site.strings.GetStringForFeature(m_feature.GetFeatureId().GetFeatureEnum()));
+        m_infoButton->setMessage(static_cast<std::uint32_t>(m_infoStyle), m_infoText,
+                                 GetInfoTitle(feature));
 }
 
 void UIMolecule::CreateInfoButton()
@@ -247,6 +247,11 @@ void UIMolecule::Inner(std::vector<UIMolecule*>&)
 void UIMolecule::Show(bool shown)
 {
     ShowInfoButton(shown);
+}
+
+CXString UIMolecule::GetInfoTitle(const FeatureIdWithContext& feature) const
+{
+    return m_site.strings.GetStringForFeature(feature.GetFeatureEnum());
 }
 
 HWND UIMolecule::InfoAnchor() const

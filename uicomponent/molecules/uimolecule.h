@@ -122,6 +122,9 @@ public:
     /// The room that the label wants beside its box; 0 without a label.
     virtual long GetWantedLabelWidth(const UITextRuler& ruler) const;
 
+    /// What the messages of the info button are about; the name of the setting.
+    virtual CXString GetInfoTitle(const FeatureIdWithContext& feature) const;
+
     /// Room in dialog units for a label beside its box; 0 puts labels above. Set by the column
     /// before InitializeFromDescription.
     void SetLabelWidth(long width) { m_labelWidth = width; }
