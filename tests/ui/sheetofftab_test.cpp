@@ -178,8 +178,8 @@ TEST_F(SheetOffTabTest, AStrangerInFrontOfOurProcedureKeepsHisChain)
 {
     auto rig = makeRig(kWithOne);
     const HWND sheet = open(*rig);
-    s_former = reinterpret_cast<WNDPROC>(SetWindowLongPtrW(
-        sheet, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&strangersProcedure)));
+    s_former = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(sheet, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&strangersProcedure)));
     rig.reset();
     EXPECT_EQ(procedureOf(sheet), &strangersProcedure);
     s_passed = 0;

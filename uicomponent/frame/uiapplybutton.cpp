@@ -23,7 +23,8 @@ UIApplyButton::UIApplyButton(FeatureServices& featureServices,
 UIApplyButton::~UIApplyButton()
 {
     if (m_page)
-        m_featureServices.UnregisterObserver(*this, SettingsInstanceId(kValues), FeatureIdWithContext(),
+        m_featureServices.UnregisterObserver(*this, SettingsInstanceId(kValues),
+                                             FeatureIdWithContext(),
                                              DataModelIds::kObserverFeature);
 }
 

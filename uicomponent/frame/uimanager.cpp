@@ -114,6 +114,13 @@ void UIManager::initializePartI(FeatureServices& featureServices, ProductStringL
                                                   featureServices, *m_context, m_productData,
                                                   *m_eventProcessor, m_mode, m_option);
     m_tabManager->buildOffTabs(listed(m_uiData->getOffTabs()));
+    if (!m_personalSettings.IsEmpty())
+        m_tabManager->rememberLastPage(m_personalSettings);
+}
+
+void UIManager::setPersonalSettings(const CXString& registryPath)
+{
+    m_personalSettings = registryPath;
 }
 
 void UIManager::initializePartII(FeatureServices& featureServices)

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "entryheight.h"
+#include "featureservices.h"
 #include "isolationaware.h"
 #include "productstringloader.h"
 #include "trace.h"
@@ -14,9 +15,11 @@
 #include "uidialogtemplate.h"
 #include "uidump.h"
 #include "uilayoutmanager.h"
+#include "uiservices.h"
 
 UIOffTab::UIOffTab(FeatureServices& featureServices, UIContext& context, UIServices& services)
-    : UIMoleculeContainer(featureServices, context.strings, services)
+    : UIMoleculeContainer(featureServices, context.strings, services,
+                          featureServices.GetFullListOfFeatures())
 {
 }
 
@@ -62,10 +65,11 @@ bool UIOffTab::open(HINSTANCE instance, HWND sheet, const RECT& place, HWND pred
     if (!areaTemplate.get())
         return false;
     areaTemplate.makeArea();
+    if (getServices().isRightToLeft())
+        areaTemplate.mirror();
     IsolationAware::ActivationScope scope;
     if (scope.isActive())
-        m_area.reset(
-            CreateDialogIndirectParamW(instance, areaTemplate.get(), sheet, nullptr, 0));
+        m_area.reset(CreateDialogIndirectParamW(instance, areaTemplate.get(), sheet, nullptr, 0));
     if (!m_area)
         return false;
     SetPropW(m_area.get(), UIDialogProcedure::kManagerProperty, &manager);

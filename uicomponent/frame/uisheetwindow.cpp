@@ -123,9 +123,9 @@ void UISheetWindow::moveLowerWindows(long distance) const noexcept
 void UISheetWindow::subclass(UIMessageManager& manager)
 {
     SetPropW(m_sheet, UIDialogProcedure::kManagerProperty, &manager);
-    m_keptProcedure = reinterpret_cast<WNDPROC>(SetWindowLongPtrW(
-        m_sheet, GWLP_WNDPROC,
-        reinterpret_cast<LONG_PTR>(&UIDialogProcedure::offTabDialogProcedure)));
+    m_keptProcedure = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(m_sheet, GWLP_WNDPROC,
+                          reinterpret_cast<LONG_PTR>(&UIDialogProcedure::offTabDialogProcedure)));
 }
 
 LRESULT UISheetWindow::passOn(const _UIWindowsMessage& message)

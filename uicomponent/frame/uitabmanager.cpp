@@ -2,24 +2,24 @@
 
 #include <algorithm>
 
-#include "booleanfeatureref.h"
 #include "dialogconversion.h"
 #include "exceptiontabcreationfailure.h"
 #include "featureservices.h"
 #include "isolationaware.h"
 #include "optionfeatureref.h"
+#include "productdata.h"
 #include "productstringloader.h"
 #include "throworvik.h"
 #include "trace.h"
 #include "uicontainerdata.h"
 #include "uicontext.h"
-#include "uidatavalidator.h"
 #include "uidialogprocedure.h"
 #include "uidialogtemplate.h"
 #include "uieventprocessor.h"
 #include "uimessagemanager.h"
 #include "uiofftab.h"
 #include "uiservices.h"
+#include "uisheetguide.h"
 #include "uitab.h"
 
 namespace {
@@ -27,24 +27,15 @@ namespace {
 constexpr UINT kFirstPaintMessage = WM_APP + 7;
 constexpr UINT kAddPropSheetPage = 1; // function index of the print system's callback
 
-// String resources of the warning that keeps the sheet open.
-constexpr unsigned kWarningCaption = 35000;
-constexpr unsigned kWarningText = 35001;
-constexpr unsigned kWarningAdvice = 35002;
-
 // What the manager and the tabs handle themselves, besides what molecules want.
-constexpr UINT kOwnMessages[] = {WM_INITDIALOG, WM_PAINT,           WM_NOTIFY,
-                                 WM_DESTROY,    kFirstPaintMessage, UIApplyButton::kModelChanged};
-
-// Between the tab control and an area, and between two areas; dialog units.
-constexpr long kAreaGap = 4;
-
-/// The whole dialog units that fit into so many pixels.
-long unitsIn(const DialogConversion& conversion, long pixels)
-{
-    const long units = conversion.pixelsToDialogUnits(SIZE{pixels, 0}).cx;
-    return conversion.dialogUnitsToPixels(SIZE{units, 0}).cx > pixels ? units - 1 : units;
-}
+constexpr UINT kOwnMessages[] = {WM_INITDIALOG,
+                                 WM_PAINT,
+                                 WM_NOTIFY,
+                                 WM_DESTROY,
+                                 kFirstPaintMessage,
+                                 UIApplyButton::kModelChanged,
+                                 UISheetGuide::kUpdateMessage,
+                                 UIConflictWalk::kMessage};
 
 [[noreturn]] void throwPageFailure(const UITab& tab)
 {
@@ -76,7 +67,11 @@ UITabManager::UITabManager(UIServices& services, UIMessageManager& messageManage
       m_services(services),
       m_mode(mode),
       m_option(option),
-      m_applyButton(featureServices, [this] { return hasPendingInput(); })
+      m_areas(moduleInstance, featureServices, context, services, messageManager),
+      m_guide(std::make_unique<UISheetGuide>(featureServices, context.strings, m_tabs)),
+      m_applyButton(featureServices, [this] { return hasPendingInput(); }),
+      m_apply(featureServices, context.strings, services, eventProcessor, m_mode, m_areas, *m_guide,
+              m_applyButton)
 {
     for (const UINT message : kOwnMessages)
         m_wanted.add(message);
@@ -84,10 +79,8 @@ UITabManager::UITabManager(UIServices& services, UIMessageManager& messageManage
 
 UITabManager::~UITabManager()
 {
-    if (hasOffTabs())
+    if (!m_areas.isEmpty())
         m_messageManager.removeLast(UIMessageKind::OffTab);
-    m_offTabs.clear(); // before the sheet closes up over the place where they stood
-    m_sheet.restore();
     if (!m_tabs.empty())
         m_messageManager.removeLast(UIMessageKind::TabPage);
 }
@@ -199,6 +192,15 @@ void UITabManager::createPagesForCPSUI(const Descriptions& descriptions, HANDLE 
     }
 }
 
+void UITabManager::rememberLastPage(const CXString& path)
+{
+    const CXString printer = m_featureServices.GetFullListOfFeatures()
+                                 .GetOptionFeature(FeatureId(DataModelIds::kFeaturePrinterName))
+                                 .GetValue()
+                                 .GetDisplayString();
+    m_guide->rememberPage(path, printer.IsEmpty() ? m_productData.GetModelName() : printer, m_mode);
+}
+
 void UITabManager::buildTabs(const Descriptions&)
 {
     for (const auto& tab : m_tabs)
@@ -226,6 +228,8 @@ bool UITabManager::handlePageMessage(const _UIWindowsMessage& message)
 {
     // Controls are created while the page initialises, and marks at any time later.
     const IsolationAware::CallerContext callerContext(m_activationContext);
+    if (m_guide->handleMessage(message))
+        return true;
     switch (message.message) {
     case WM_INITDIALOG:
         return initializePage(message);
@@ -254,12 +258,8 @@ bool UITabManager::handlePageMessage(const _UIWindowsMessage& message)
 
 void UITabManager::buildOffTabs(const Descriptions& descriptions)
 {
-    for (const UIContainerData* description : descriptions) {
-        auto offTab = std::make_unique<UIOffTab>(m_featureServices, m_context, m_services);
-        if (offTab->build(*description))
-            m_offTabs.push_back(std::move(offTab));
-    }
-    if (hasOffTabs())
+    m_areas.build(descriptions);
+    if (!m_areas.isEmpty())
         m_messageManager.append(UIMessageKind::OffTab, *this);
 }
 
@@ -267,62 +267,27 @@ bool UITabManager::handleOffTabMessage(const _UIWindowsMessage& message)
 {
     const IsolationAware::CallerContext callerContext(m_activationContext);
     if (message.kind == UIMessageKind::TabPage) {
-        if (!m_sheet.get())
-            openOffTabs(message);
+        if (m_areas.open(message.window))
+            areasOpened(message.window);
         return false; // the page itself is still to be made
     }
-    const bool claimed = offerToOffTabs(message);
+    const bool claimed = m_areas.handleMessage(message);
     if (message.message == WM_COMMAND)
         m_applyButton.update();
-    if (!claimed && message.window == m_sheet.get()) {
-        message.result = m_sheet.passOn(message);
-        return true;
-    }
     return claimed;
 }
 
-bool UITabManager::offerToOffTabs(const _UIWindowsMessage& message) const
+void UITabManager::areasOpened(HWND page)
 {
-    for (const auto& offTab : m_offTabs)
-        if (offTab->handleMessage(message))
-            return true;
-    return false;
-}
-
-void UITabManager::openOffTabs(const _UIWindowsMessage& message)
-{
-    if (!m_sheet.adopt(GetParent(message.window)))
-        return;
-    const DialogConversion& conversion = m_services.getDialogConversion();
-    RECT place = m_sheet.getTabControl();
-    const long units = unitsIn(conversion, place.right - place.left);
-    const long gap = conversion.dialogUnitsToPixels(SIZE{0, kAreaGap}).cy;
-    std::vector<long> heights;
-    long growth = 0;
-    for (const auto& offTab : m_offTabs) {
-        heights.push_back(conversion.dialogUnitsToPixels(SIZE{0, offTab->arrange(units)}).cy);
-        growth += gap + heights.back();
-    }
-    if (!m_sheet.enlarge(growth)) {
-        o7::trace(CXString(L"the screen is too low for the areas under the pages"));
-        return;
-    }
-    m_sheet.subclass(m_messageManager);
-    HWND predecessor = m_sheet.getTabPredecessor();
-    for (std::size_t index = 0; index < m_offTabs.size(); ++index) {
-        place.top = place.bottom + gap;
-        place.bottom = place.top + heights[index];
-        if (m_offTabs[index]->open(m_moduleInstance, m_sheet.get(), place, predecessor,
-                                   m_messageManager))
-            predecessor = m_offTabs[index]->getWindow();
-    }
-    m_eventProcessor.notifyDataModel(DataModelIds::kEventSheetSubclassed, message.window);
+    for (const auto& offTab : m_areas.getOffTabs())
+        m_guide->serve(*offTab);
+    m_eventProcessor.notifyDataModel(DataModelIds::kEventSheetSubclassed, page);
 }
 
 bool UITabManager::initializePage(const _UIWindowsMessage& message)
 {
     m_services.getDialogConversion().initDialogConversions(message.window);
-    if (hasOffTabs())
+    if (!m_areas.isEmpty())
         handleOffTabMessage(message);
     if (!offerToTabs(message))
         return false;
@@ -343,60 +308,20 @@ bool UITabManager::applyPage(const _UIWindowsMessage& message)
 {
     if (!offerToTabs(message))
         return false;
-    const LONG_PTR result = GetWindowLongPtrW(message.window, DWLP_MSGRESULT);
-    const UIDataValidator validator(m_featureServices, m_eventProcessor);
-    const auto& notification = *reinterpret_cast<const NMHDR*>(message.lParam);
-    if (result == PSNRET_INVALID || !validator.validate(notification))
-        rejectApply();
-    else if (result == PSNRET_NOERROR && m_eventProcessor.incrementNotificationCount())
-        completeApply(message);
-    return true;
-}
-
-void UITabManager::rejectApply()
-{
-    m_eventProcessor.resetNotificationCount();
-    m_featureServices.GetFullListOfFeatures()
-        .GetBooleanFeature(FeatureId(DataModelIds::kFeatureApplyIsValid))
-        .SetValue(false);
-}
-
-void UITabManager::completeApply(const _UIWindowsMessage& message)
-{
-    const bool closing = reinterpret_cast<const PSHNOTIFY*>(message.lParam)->lParam != 0;
-    m_eventProcessor.notifyDataModel(closing ? DataModelIds::kEventOk : DataModelIds::kEventApply,
-                                     &m_mode);
-    m_applyButton.applied();
-    if (showApplyWarning(message.window))
-        SetWindowLongPtrW(message.window, DWLP_MSGRESULT, PSNRET_INVALID);
-}
-
-bool UITabManager::showApplyWarning(HWND page) const
-{
-    ValueId value;
-    const auto feature = m_featureServices.GetFullListOfFeatures().GetOptionFeature(
-        FeatureId(DataModelIds::kFeatureApplyResult));
-    if (!feature.GetValue(value, FeatureRef::kDoNotAssertIfUnsupported) ||
-        value.GetValueEnum() != DataModelIds::kValueApplyRejected)
-        return false;
-    const auto& strings = m_context.strings;
-    const CXString text =
-        strings.LoadStringW(kWarningText) + L"\n\n" + strings.LoadStringW(kWarningAdvice);
-    m_services.showMessage(page, text, strings.LoadStringW(kWarningCaption), MB_ICONWARNING);
+    m_apply.pageAnswered(message);
     return true;
 }
 
 bool UITabManager::hasPendingInput() const
 {
-    const auto waits = [](const auto& container) { return container->hasPendingInput(); };
-    return std::any_of(m_tabs.begin(), m_tabs.end(), waits) ||
-           std::any_of(m_offTabs.begin(), m_offTabs.end(), waits);
+    return m_areas.hasPendingInput() ||
+           std::any_of(m_tabs.begin(), m_tabs.end(),
+                       [](const auto& tab) { return tab->hasPendingInput(); });
 }
 
 void UITabManager::dump() const
 {
     for (const auto& tab : m_tabs)
         tab->dump();
-    for (const auto& offTab : m_offTabs)
-        offTab->dump();
+    m_areas.dump();
 }

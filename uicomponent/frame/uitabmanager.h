@@ -12,15 +12,17 @@
 #include "uimessagehandler.h"
 #include "uimessagemask.h"
 #include "uimode.h"
-#include "uisheetwindow.h"
+#include "uisheetapply.h"
+#include "uisheetareas.h"
 
+class CXString;
 class FeatureServices;
 class ProductData;
 class UIContainerData;
 class UIEventProcessor;
 class UIMessageManager;
-class UIOffTab;
 class UIServices;
+class UISheetGuide;
 class UITab;
 struct UIContext;
 
@@ -68,6 +70,10 @@ public:
     /// windows with the first page. To be called before pages are created, once.
     void buildOffTabs(const Descriptions& descriptions);
 
+    /// From now on the sheet opens on the page that the person left it on: per printer and mode, in
+    /// the current user's hive. For before the first page. @param path  the key above the printers'
+    void rememberLastPage(const CXString& path);
+
     long getLargestWidth() const { return m_largestWidth; }   ///< dialog units
     long getLargestHeight() const { return m_largestHeight; } ///< dialog units
     const std::vector<std::unique_ptr<UITab>>& getTabs() const { return m_tabs; }
@@ -81,7 +87,6 @@ protected:
 
     /// Offers a message to the tabs in creation order, up to the first that claims it.
     bool offerToTabs(const _UIWindowsMessage& message) const;
-    bool hasOffTabs() const { return !m_offTabs.empty(); }
 
 private:
     struct Page;
@@ -91,18 +96,13 @@ private:
     bool initializePage(const _UIWindowsMessage& message);
     void postFirstPaint(const _UIWindowsMessage& message);
     bool applyPage(const _UIWindowsMessage& message);
-    void rejectApply();
-    void completeApply(const _UIWindowsMessage& message);
-    bool showApplyWarning(HWND page) const;
     bool hasPendingInput() const;
-    void openOffTabs(const _UIWindowsMessage& message);
-    bool offerToOffTabs(const _UIWindowsMessage& message) const;
+    void areasOpened(HWND page);
 
     std::vector<HPROPSHEETPAGE> m_pages;
     HANDLE m_cpsuiSheet = nullptr;
     UIComPropSheetCallback m_cpsuiCallback = nullptr;
     std::vector<std::unique_ptr<UITab>> m_tabs;
-    std::vector<std::unique_ptr<UIOffTab>> m_offTabs;
     HINSTANCE m_moduleInstance;
     UIMessageManager& m_messageManager;
     FeatureServices& m_featureServices;
@@ -115,8 +115,10 @@ private:
     HANDLE m_activationContext = nullptr; ///< the caller's, for what the pages create
     bool m_tabFlag = false;
     bool m_firstPaintPending = true;
-    UISheetWindow m_sheet;
+    UISheetAreas m_areas;
+    std::unique_ptr<UISheetGuide> m_guide; ///< goes before the tabs and the areas
     UIApplyButton m_applyButton;
+    UISheetApply m_apply;
     long m_largestWidth = 0;
     long m_largestHeight = 0;
     UIMessageMask m_wanted;

@@ -2,11 +2,13 @@
 
 #include "cxstring.h"
 #include "trace.h"
+#include "uibuttonmolecule.h"
 #include "uicheckboxmolecule.h"
 #include "uicomboboxmolecule.h"
 #include "uicontainermolecule.h"
 #include "uigroupboxmolecule.h"
 #include "uimoleculedata.h"
+#include "uistatusmolecule.h"
 #include "uitextmolecule.h"
 
 namespace {
@@ -29,6 +31,8 @@ constexpr struct
     { UIMoleculeKind::GroupBox,  make<UIGroupBoxMolecule> },
     { UIMoleculeKind::Container, make<UIContainerMolecule> },
     { UIMoleculeKind::Text,      make<UITextMolecule> },
+    { UIMoleculeKind::Status,    make<UIStatusMolecule> },
+    { UIMoleculeKind::Button,    make<UIButtonMolecule> },
 };
 // clang-format on
 
