@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 
+#include "listoffeaturesref.h"
 #include "uiapplybutton.h"
 #include "uidatalist.h"
 #include "uimessagehandler.h"
@@ -87,6 +88,14 @@ protected:
 
     /// Offers a message to the tabs in creation order, up to the first that claims it.
     bool offerToTabs(const _UIWindowsMessage& message) const;
+    /// For a page's WM_INITDIALOG: measures the page's dialog units and opens the areas.
+    void prepareSheet(const _UIWindowsMessage& message);
+
+    /// The list of features that pages made from now on work on; the full one otherwise.
+    void workOn(const ListOfFeaturesRef& features) { m_features = features; }
+    /// Pages made from now on send no event when Cancel is queried.
+    void suppressCancelEvent() { m_tabFlag = true; }
+    const UIContext& getContext() const { return m_context; }
 
 private:
     struct Page;
@@ -113,6 +122,7 @@ private:
     UIMode m_mode;
     unsigned long m_option;
     HANDLE m_activationContext = nullptr; ///< the caller's, for what the pages create
+    ListOfFeaturesRef m_features;
     bool m_tabFlag = false;
     bool m_firstPaintPending = true;
     UISheetAreas m_areas;
