@@ -33,9 +33,9 @@ SheetRig::SheetRig(ProductData& productData, FeatureServices& featureServices,
     m_popups->setEventProcessor(m_events.get());
     m_tabs = std::make_unique<UITabManager>(*m_services, *m_messages, instance, featureServices,
                                             *m_context, productData, *m_events, mode, 0UL);
-    m_popupSheet = std::make_unique<UIPopupSheet>(*m_services, *m_messages, instance,
-                                                  featureServices, *m_context, productData,
-                                                  *m_events, mode, 0UL, nullptr);
+    m_popupSheet =
+        std::make_unique<UIPopupSheet>(*m_services, *m_messages, instance, featureServices,
+                                       *m_context, productData, *m_events, mode, 0UL, nullptr);
     m_popups->setSheetRunner(m_popupSheet.get());
 }
 

@@ -227,7 +227,8 @@ TEST_F(SheetOffTabTest, APopupTabSetKeepsItsPagesAndItsChangesApart)
     const HWND sheet = open(*rig);
     const auto features = model().GetFullListOfFeatures();
     const bool toner = boolean(kTonerSaving);
-    ASSERT_TRUE(features.GetBooleanFeature(FeatureId(kTonerSaving)).SetValue(!toner)); // a pending change of the sheet below
+    ASSERT_TRUE(features.GetBooleanFeature(FeatureId(kTonerSaving))
+                    .SetValue(!toner)); // a pending change of the sheet below
     for (const int button : {IDCANCEL, IDOK}) {
         const bool before = boolean(kCollate);
         const IdleDriver driver({

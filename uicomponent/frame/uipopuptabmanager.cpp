@@ -18,8 +18,7 @@ UIPopupTabManager::UIPopupTabManager(UIServices& services, UIMessageManager& mes
 }
 
 std::size_t UIPopupTabManager::createPagesForPropertySheet(const Descriptions& descriptions,
-                                                           HPROPSHEETPAGE* pages,
-                                                           std::size_t room,
+                                                           HPROPSHEETPAGE* pages, std::size_t room,
                                                            HANDLE activationContext)
 {
     m_first = descriptions.empty() ? nullptr : descriptions.front();

@@ -9,7 +9,8 @@
 class UIPopupTabManager : public UITabManager
 {
 public:
-    /// Everything is borrowed as for UITabManager. @param features  the list that the pages work on.
+    /// Everything is borrowed as for UITabManager. @param features  the list that the pages work
+    /// on.
     UIPopupTabManager(UIServices& services, UIMessageManager& messageManager,
                       HINSTANCE moduleInstance, FeatureServices& featureServices,
                       UIContext& context, ProductData& productData,
@@ -20,9 +21,8 @@ public:
     HWND getParent() const { return m_parent; }
     HWND getOkButton() const { return m_okButton; }
 
-    std::size_t createPagesForPropertySheet(const Descriptions& descriptions,
-                                            HPROPSHEETPAGE* pages, std::size_t room,
-                                            HANDLE activationContext) override;
+    std::size_t createPagesForPropertySheet(const Descriptions& descriptions, HPROPSHEETPAGE* pages,
+                                            std::size_t room, HANDLE activationContext) override;
 
 protected:
     bool handlePageMessage(const _UIWindowsMessage& message) override;

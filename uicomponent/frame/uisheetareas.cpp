@@ -86,9 +86,8 @@ bool UISheetAreas::handleMessage(const _UIWindowsMessage& message)
 
 bool UISheetAreas::offer(const _UIWindowsMessage& message) const
 {
-    return std::any_of(m_offTabs.begin(), m_offTabs.end(), [&](const auto& offTab) {
-        return offTab->handleMessage(message);
-    });
+    return std::any_of(m_offTabs.begin(), m_offTabs.end(),
+                       [&](const auto& offTab) { return offTab->handleMessage(message); });
 }
 
 bool UISheetAreas::hasPendingInput() const
