@@ -84,6 +84,22 @@ void UIOptionMolecule::KeepNamedOptions(const OptionCapability& capability,
             keep(known.value, known.text);
 }
 
+void UIOptionMolecule::CompleteState(const CapabilitiesNode& capabilities,
+                                     InterpretedState& state) const
+{
+    const auto* capability = dynamic_cast<const OptionCapability*>(&capabilities);
+    if (!capability)
+        return;
+    // A model that speaks for its options itself need not be repeated.
+    const bool isTold = state.HasInfoBtnMsg();
+    for (const Option& option : ReadOptions(*capability)) {
+        if (option.hidden || (option.unavailable && !isTold))
+            state.AddInfo(option.reason);
+        if (option.conflict && !state.HasCbrBtnMsg() && option.value == ReadValue())
+            state.AddConflict(option.reason);
+    }
+}
+
 int UIOptionMolecule::FindOption(const ValueId& value) const
 {
     const auto found = std::find_if(m_options.begin(), m_options.end(),

@@ -38,6 +38,11 @@ protected:
     void LoadValue() override;
     void ShowState(const InterpretedState& state, bool enabled) override;
 
+    /// The reasons of options that are not to be seen, and the clash of the present one, belong to
+    /// what the mark of the molecule says.
+    void CompleteState(const CapabilitiesNode& capabilities,
+                       InterpretedState& state) const override;
+
     /// False while there are no controls yet: nothing is read then.
     virtual bool HasControls() const = 0;
     // After each reading these are called in this order. Each compares with what is shown.
