@@ -80,8 +80,7 @@ bool UIInfoButtonControl::handleMessage(const _UIWindowsMessage& message)
     }
     if (message.message == WM_COMMAND && reinterpret_cast<HWND>(message.lParam) == getHwnd()) {
         if (HIWORD(message.wParam) == BN_CLICKED)
-            PostMessageW(message.window, WM_COMMAND, MAKEWPARAM(getId(), kShowMessage),
-                         message.lParam);
+            postShowMessage();
         if (HIWORD(message.wParam) == kShowMessage)
             showMessage();
         return true;
@@ -97,11 +96,16 @@ LRESULT UIInfoButtonControl::subclassWindowProcedure(HWND window, UINT message, 
     if (message == WM_GETDLGCODE && key && key->message == WM_KEYDOWN && key->wParam == VK_RETURN)
         return callSavedProcedure(window, message, wParam, lParam) | DLGC_WANTMESSAGE;
     if (message == WM_KEYDOWN && wParam == VK_RETURN) {
-        PostMessageW(getParentHwnd(), WM_COMMAND, MAKEWPARAM(getId(), kShowMessage),
-                     reinterpret_cast<LPARAM>(window));
+        postShowMessage();
         return 0;
     }
     return callSavedProcedure(window, message, wParam, lParam);
+}
+
+void UIInfoButtonControl::postShowMessage() const
+{
+    PostMessageW(getParentHwnd(), WM_COMMAND, MAKEWPARAM(getId(), kShowMessage),
+                 reinterpret_cast<LPARAM>(getHwnd()));
 }
 
 void UIInfoButtonControl::showMessage() const

@@ -42,6 +42,7 @@ private:
     using UIControl::forgetWindow;
     LRESULT subclassWindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void draw(const DRAWITEMSTRUCT& item) const;
+    void postShowMessage() const;
     void showMessage() const;
 
     const UIServices& m_services;

@@ -51,6 +51,13 @@ void UIFeatureMolecule::Refresh()
     LoadState();
 }
 
+void UIFeatureMolecule::SetShownOnPage(bool shown)
+{
+    UIMolecule::SetShownOnPage(shown);
+    if (m_connected)
+        LoadState();
+}
+
 void UIFeatureMolecule::SetForceDisabled(bool disabled)
 {
     UIMolecule::SetForceDisabled(disabled);

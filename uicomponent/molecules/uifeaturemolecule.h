@@ -16,7 +16,8 @@ public:
     void DisconnectFromDataModel() override;
     /// Reads value and state again; the first time after a connect they are fresh and stay.
     void Refresh() override;
-    /// Takes effect at once, also while connected.
+    // Both take effect at once, also while connected.
+    void SetShownOnPage(bool shown) override;
     void SetForceDisabled(bool disabled) override;
     void CollectSettings(SetOfSettingIds& settings) const override;
     void ProcessNotification(const INotification& notification, unsigned int kind) override;

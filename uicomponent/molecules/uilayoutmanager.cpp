@@ -3,17 +3,30 @@
 #include "uicolumndata.h"
 #include "uicontainer.h"
 #include "uicontainerdata.h"
-#include "uimoleculestack.h"
+#include "uitextruler.h"
 
 UILayoutManager::UILayoutManager(const UIContainer& container, long extraHeight)
     : m_container(container), m_extraHeight(extraHeight)
 {
 }
 
+long UILayoutManager::getRoom() const
+{
+    return m_container.getData().getHeight() - 2 * kMargin - m_extraHeight;
+}
+
+void UILayoutManager::fillArea(long width)
+{
+    m_margin = 0;
+    m_widening = width - (m_container.getData().getWidth() - 2 * kMargin);
+    if (!m_container.getColumns().empty())
+        m_container.getColumns().front()->widen(m_widening);
+}
+
 CXString UILayoutManager::findMisfit() const
 {
     const UIContainerData& page = m_container.getData();
-    const long room = page.getHeight() - 2 * kMargin - m_extraHeight;
+    const long room = getRoom();
     unsigned number = 0;
     for (const auto& column : m_container.getColumns()) {
         ++number;
@@ -33,7 +46,17 @@ CXString UILayoutManager::findMisfit() const
 
 void UILayoutManager::layOut() const
 {
+    long shift = m_margin - kMargin;
+    for (const auto& column : m_container.getColumns()) {
+        column->place({column->getData().getX() + shift, m_margin});
+        shift = m_margin - kMargin + m_widening;
+    }
+}
+
+bool UILayoutManager::fitTexts(const UITextRuler& ruler) const
+{
     for (const auto& column : m_container.getColumns())
-        UIMoleculeStack::place(column->getMolecules(), {column->getData().getX(), kMargin},
-                               column->getData().getWidth());
+        column->fitTexts(ruler, getRoom());
+    layOut();
+    return ruler.HasCut();
 }

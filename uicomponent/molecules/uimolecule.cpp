@@ -273,7 +273,12 @@ std::optional<InterpretedState> UIMolecule::ReadState() const
     const bool readOnly = capabilities->IsReadOnly();
     if (!state.IsDisabled() && (readOnly || m_forceDisabled))
         state.Disable(LoadText(readOnly ? O7STR_M_READ_ONLY : O7STR_M_NOT_HERE));
+    CompleteState(*capabilities, state);
     return state;
+}
+
+void UIMolecule::CompleteState(const CapabilitiesNode&, InterpretedState&) const
+{
 }
 
 ListOfFeaturesRef UIMolecule::GetMoleculeFeatures()
@@ -363,6 +368,12 @@ bool UIMolecule::Focus()
 
 void UIMolecule::FitTexts(const UITextRuler&, long)
 {
+}
+
+void UIMolecule::SetLabelWidth(long width)
+{
+    const long own = GetData().getLabelWidth();
+    m_labelWidth = own > 0 ? own : width;
 }
 
 long UIMolecule::GetWantedLabelWidth(const UITextRuler&) const
