@@ -23,6 +23,7 @@ class UIMessageManager;
 class UIMRUHandler;
 class UIOffsetHandler;
 class UIPopupLauncher;
+class UIPopupSheet;
 class UIServices;
 class UISpecialFeatureHandler;
 class UITabManager;
@@ -116,4 +117,5 @@ private:
     unsigned long m_option;
     ProductData& m_productData;
     CXString m_personalSettings;
+    std::unique_ptr<UIPopupSheet> m_popupSheet; ///< an addition, after the fixed order
 };
