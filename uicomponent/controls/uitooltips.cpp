@@ -1,6 +1,5 @@
 #include "uitooltips.h"
 
-#include "cxstring.h"
 #include "isolationaware.h"
 #include "textmeasure.h"
 #include "tipplacement.h"
@@ -17,7 +16,6 @@ static_assert(kStyle == 0x80000003);
 constexpr int kMaximumWidth = 800; ///< pixels; longer texts go on in the next line
 constexpr int kTrackingOffset = 16;
 
-/// A page laid out from right to left is read that way.
 /// A tool without its text. The size is the one that every version of the library knows.
 TTTOOLINFOW toolInfo(HWND owner, HWND tool, UINT flags)
 {
@@ -163,6 +161,37 @@ void UIToolTips::AddToolTipAndTruncatedLabel(ControlType type, HWND control, INT
     }
 }
 
+// A tool's window is subclassed by the tip window, and then pays with every message for a tip that
+// most people never ask for.
+void UIToolTips::setTip(HWND control, const CXString& text)
+{
+    if (!text.IsEmpty()) {
+        Tip& tip = m_tips[control];
+        tip.text = text;
+        if (tip.isTool) {
+            UpdateTipMessage(control, nullptr, asText(text));
+        }
+        return;
+    }
+    const auto known = m_tips.find(control);
+    if (known == m_tips.end()) {
+        return;
+    }
+    if (known->second.isTool) {
+        DeleteToolFromToolTip(control);
+    }
+    m_tips.erase(known);
+}
+
+void UIToolTips::makeTool(HWND control)
+{
+    const auto known = m_tips.find(control);
+    if (known != m_tips.end() && !known->second.isTool) {
+        known->second.isTool = true;
+        AddToolAndTipMessage(control, nullptr, asText(known->second.text));
+    }
+}
+
 void UIToolTips::setAreaTip(HWND control, const CXString& text)
 {
     TTTOOLINFOW info = toolInfo(m_owner, control, 0);
@@ -178,6 +207,10 @@ void UIToolTips::setAreaTip(HWND control, const CXString& text)
 
 void UIToolTips::relayMouse(const _UIWindowsMessage& message)
 {
+    if (message.message == WM_SETCURSOR) {
+        makeTool(reinterpret_cast<HWND>(message.wParam));
+        return;
+    }
     if (message.message < WM_MOUSEFIRST || message.message > WM_MOUSELAST) {
         return;
     }

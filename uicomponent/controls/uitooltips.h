@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cxstring.h"
 #include "subclassedwindow.h"
 #include "uiapi.h"
 #include "uihandles.h"
@@ -7,8 +8,8 @@
 #include <windows.h>
 
 #include <functional>
+#include <map>
 
-class CXString;
 struct _UIWindowsMessage;
 
 /// The one tool-tip window of a page or dialog, shared by its controls. The tools' windows must be
@@ -55,11 +56,16 @@ public:
     void AddToolTipAndTruncatedLabel(ControlType type, HWND control, INT_PTR extraText, SIZE area,
                                      const CXString& label, HFONT font);
 
+    /// A control's tip that costs nothing until the mouse is on the control, of which relayMouse
+    /// hears. An empty text takes the tip away; that has to be done before the control goes.
+    void setTip(HWND control, const CXString& text);
+
     /// The tip of a control that may be disabled. A disabled window lets the mouse through to the
     /// page, so the tip belongs to the control's area of the page, and works as long as the page's
     /// mouse messages are handed to relayMouse. An empty text takes the tip away.
     void setAreaTip(HWND control, const CXString& text);
-    /// Hands a mouse message of the owner window to the tip window; other messages are ignored.
+    /// Hands a mouse message of the owner window to the tip window; other messages are ignored. With
+    /// WM_SETCURSOR the owner hears which of its controls the mouse is on.
     void relayMouse(const _UIWindowsMessage& message);
 
     /// Shows the tip of a part of a window, such as an entry of a list, until hidePlaced. It is a
@@ -82,6 +88,14 @@ private:
 
     void forgetWindow() noexcept { m_window.release(); }
 
+    struct Tip
+    {
+        CXString text;
+        bool isTool = false; ///< of the tip window, since the mouse has been there
+    };
+    void makeTool(HWND control);
+
     HWND m_owner;
     o7::UniqueWindow m_window;
+    std::map<HWND, Tip> m_tips; ///< those of setTip
 };

@@ -7,6 +7,7 @@
 #include "uibuttoncontrol.h"
 #include "uicontainerdata.h"
 #include "uicontext.h"
+#include "uicontrol.h"
 #include "uidump.h"
 #include "uilayoutmanager.h"
 #include "uiservices.h"
@@ -63,10 +64,12 @@ bool UIPopupDialog::handleMessage(const _UIWindowsMessage& message)
     case WM_CLOSE:
         EndDialog(getWindow(), 0);
         return true;
-    case WM_DESTROY: // the controls go while their windows still exist
+    case WM_DESTROY: { // the controls go while their windows still exist
+        const UIControl::ParentGoes going(message.window);
         releaseMolecules();
         m_buttons.clear();
         return false;
+    }
     default:
         return offerToMolecules(message);
     }

@@ -75,7 +75,7 @@ void UICheckBoxMolecule::CreateControls(UIPageWindow& page)
         auto text = std::make_unique<UITextControl>(
             page.window, page.takeId(), GetSite().services, page.font, POINT{textX, place.y + 1},
             SIZE{textWidth, kTextHeight}, SS_NOTIFY, true, page.boldFont);
-        SetWindowTextW(text->getHwnd(), LoadText(number).c_str());
+        text->setLabelText(LoadText(number));
         return text;
     };
     if (m_labelText) {
@@ -87,7 +87,7 @@ void UICheckBoxMolecule::CreateControls(UIPageWindow& page)
     m_check = std::make_unique<UICheckBoxControl>(page.window, page.takeId(), GetSite().services,
                                                   page.font, POINT{x, place.y},
                                                   SIZE{checkWidth, kHeight}, m_threeState);
-    SetWindowTextW(m_check->getHwnd(), LoadText(m_checkText).c_str());
+    m_check->setLabelText(LoadText(m_checkText));
     if (m_secondTextNumber)
         m_secondText = createText(m_secondTextNumber, x + checkWidth, width - checkWidth);
 }

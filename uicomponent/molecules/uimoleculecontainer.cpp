@@ -23,6 +23,7 @@ void UIMoleculeContainer::buildFrom(const UIContainerData& data)
     m_molecules = m_container->getMolecules();
     m_wanted.clear();
     m_wanted.add(WM_MOUSEMOVE);
+    m_wanted.add(WM_SETCURSOR);
     for (const UIMolecule* molecule : m_molecules)
         molecule->CollectWantedMessages(m_wanted);
 }
@@ -128,9 +129,9 @@ bool UIMoleculeContainer::offerToMolecules(const _UIWindowsMessage& message) con
 {
     if (!m_wanted.wants(message.message))
         return false;
-    if (message.message == WM_MOUSEMOVE &&
-        m_toolTips) { // over a disabled control it comes to the page
-        m_toolTips->relayMouse(message);
+    if (message.message == WM_MOUSEMOVE || message.message == WM_SETCURSOR) {
+        if (m_toolTips) // over a disabled control the mouse belongs to the page
+            m_toolTips->relayMouse(message);
         return false;
     }
     for (UIMolecule* molecule : m_molecules)
