@@ -57,7 +57,9 @@ public:
                                      const CXString& label, HFONT font);
 
     /// A control's tip that costs nothing until the mouse is on the control, of which relayMouse
-    /// hears. An empty text takes the tip away; that has to be done before the control goes.
+    /// hears. What setAreaTip is given for the same control then stands behind it. A static control
+    /// has to have SS_NOTIFY. An empty text takes the tip away, as has to be done before the control
+    /// goes.
     void setTip(HWND control, const CXString& text);
 
     /// The tip of a control that may be disabled. A disabled window lets the mouse through to the

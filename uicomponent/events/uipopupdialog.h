@@ -1,9 +1,11 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "listoffeaturesref.h"
+#include "uifunctionkey.h"
 #include "uimessagehandler.h"
 #include "uimoleculecontainer.h"
 
@@ -26,7 +28,6 @@ public:
     bool handleMessage(const _UIWindowsMessage& message) override;
     void dump() const override;
 
-    const ListOfFeaturesRef& getFeatures() const { return m_features; }
     void* getParam() const { return m_param; }
 
 protected:
@@ -38,10 +39,11 @@ private:
     void focusFirst() const;
     void placeOnScreen() const;
     bool processCommand(const _UIWindowsMessage& message) const;
+    void goToConflict(bool backwards) const;
 
     const UIContainerData& m_data;
-    ListOfFeaturesRef m_features;
     bool m_wholeUi;
     void* m_param;
     std::vector<std::unique_ptr<UIButtonControl>> m_buttons;
+    std::optional<UIFunctionKey> m_conflictKey;
 };

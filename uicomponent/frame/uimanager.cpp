@@ -92,7 +92,7 @@ void UIManager::initializePartI(FeatureServices& featureServices, ProductStringL
                             .GetValue()
                             .GetValueEnum();
     m_uiData = m_dataSource->createDescription(m_mode, family, m_workflow);
-    m_services = std::make_unique<UIServices>();
+    m_services = std::make_unique<UIServices>(strings.GetLanguage());
     m_messageManager = std::make_unique<UIMessageManager>();
     m_context.reset(new UIContext{featureServices, strings, m_productData});
     m_popupLauncher = std::make_unique<UIPopupLauncher>(
@@ -103,10 +103,18 @@ void UIManager::initializePartI(FeatureServices& featureServices, ProductStringL
     m_popupLauncher->setEventProcessor(m_eventProcessor.get());
     m_dataSource->setEventProcessor(m_eventProcessor.get());
     m_specialFeatureHandler->setEventProcessor(m_eventProcessor.get());
-    if (wantsPages)
-        m_tabManager = std::make_unique<UITabManager>(
-            *m_services, *m_messageManager, m_moduleInstance, featureServices, *m_context,
-            m_productData, *m_eventProcessor, m_mode, m_option);
+    if (!wantsPages)
+        return;
+    m_tabManager = std::make_unique<UITabManager>(*m_services, *m_messageManager, m_moduleInstance,
+                                                  featureServices, *m_context, m_productData,
+                                                  *m_eventProcessor, m_mode, m_option);
+    if (!m_personalSettings.IsEmpty())
+        m_tabManager->rememberLastPage(m_personalSettings);
+}
+
+void UIManager::setPersonalSettings(const CXString& registryPath)
+{
+    m_personalSettings = registryPath;
 }
 
 void UIManager::initializePartII(FeatureServices& featureServices)

@@ -1,14 +1,21 @@
 #include "uimoleculecontainer.h"
 
 #include "iuicontainercompanion.h"
-#include "operatingsystem.h"
+#include "textmeasure.h"
+#include "trace.h"
 #include "uicontainer.h"
+#include "uilayoutmanager.h"
 #include "uimolecule.h"
+#include "uiservices.h"
+#include "uitextruler.h"
 #include "uitooltips.h"
+#include "uiwholetexttips.h"
 
 UIMoleculeContainer::UIMoleculeContainer(FeatureServices& featureServices,
-                                         const ProductStringLoader& strings, UIServices& services)
-    : m_valueWriter(featureServices), m_site{services, featureServices, strings, m_valueWriter}
+                                         const ProductStringLoader& strings, UIServices& services,
+                                         const ListOfFeaturesRef& features)
+    : m_valueWriter(featureServices),
+      m_site{services, featureServices, strings, m_valueWriter, features}
 {
 }
 
@@ -17,9 +24,10 @@ UIMoleculeContainer::~UIMoleculeContainer()
     releaseMolecules();
 }
 
-void UIMoleculeContainer::buildFrom(const UIContainerData& data)
+void UIMoleculeContainer::buildFrom(const UIContainerData& data, long extraHeight)
 {
     m_container = std::make_unique<UIContainer>(data, m_site);
+    m_layout = std::make_unique<UILayoutManager>(*m_container, extraHeight);
     m_molecules = m_container->getMolecules();
     m_wanted.clear();
     m_wanted.add(WM_MOUSEMOVE);
@@ -32,6 +40,7 @@ void UIMoleculeContainer::releaseMolecules()
 {
     UIMoleculeContainer::disconnectAll(); // named: the destructor comes here too
     m_molecules.clear();
+    m_layout.reset();
     m_container.reset(); // the controls' tips go with them, so the tip window goes after them
     m_toolTips.reset();
 }
@@ -47,9 +56,15 @@ bool UIMoleculeContainer::initialize(HWND window)
         return false;
     m_page.window = window;
     m_toolTips = std::make_unique<UIToolTips>(window);
-    m_themed = OperatingSystem::IsUiThemeEnabled();
+    m_look.themeChanged();
+    m_page.look = &m_look;
+    m_page.font = reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0));
+    const bool someTextIsCut = fitTexts();
     createControls();
+    if (someTextIsCut)
+        o7::addWholeTextTips(m_page, *m_toolTips);
     connectAll();
+    refreshAll();
     return true;
 }
 
@@ -63,13 +78,23 @@ void UIMoleculeContainer::makeBoldFont()
     m_page.boldFont = m_boldFont.get();
 }
 
+bool UIMoleculeContainer::fitTexts() const
+{
+    const o7::TextMeasure measure(m_page.font);
+    return m_layout->fitTexts(UITextRuler(measure, getServices().getDialogConversion()));
+}
+
 void UIMoleculeContainer::createControls()
 {
-    m_page.font = reinterpret_cast<HFONT>(SendMessageW(m_page.window, WM_GETFONT, 0, 0));
     makeBoldFont();
     for (UIMolecule* molecule : m_molecules) {
         molecule->SetToolTips(m_toolTips.get());
+        const int firstId = m_page.nextId;
         molecule->CreateControls(m_page);
+        molecule->SetControlIds(firstId, m_page.nextId);
+        if (molecule->LacksControl())
+            o7::trace(CXString::Formatted(L"the control of %s could not be created",
+                                          molecule->GetDumpDisplayString(false).c_str()));
     }
 }
 
@@ -134,6 +159,10 @@ bool UIMoleculeContainer::offerToMolecules(const _UIWindowsMessage& message) con
             m_toolTips->relayMouse(message);
         return false;
     }
+    // Without a window it comes from a menu or an accelerator. A control that could not be created
+    // has no window either, and must not take it for its own.
+    if (message.message == WM_COMMAND && !message.lParam)
+        return false;
     for (UIMolecule* molecule : m_molecules)
         if (molecule->HandleMessage(message))
             return true;

@@ -8,6 +8,7 @@
 #include "uihandles.h"
 #include "uimessagemask.h"
 #include "uimoleculesite.h"
+#include "uipagelook.h"
 #include "uipagewindow.h"
 #include "uivaluewriter.h"
 #include "uiwindowsmessage.h"
@@ -16,6 +17,7 @@ class IUIContainerCompanion;
 class SetOfSettingIds;
 class UIContainer;
 class UIContainerData;
+class UILayoutManager;
 class UIMolecule;
 class UIToolTips;
 
@@ -24,13 +26,15 @@ class UIToolTips;
 class UIMoleculeContainer
 {
 public:
+    /// @param features  the list that the window works on; the container keeps its own reference.
     UIMoleculeContainer(FeatureServices& featureServices, const ProductStringLoader& strings,
-                        UIServices& services);
+                        UIServices& services, const ListOfFeaturesRef& features);
     UIMoleculeContainer(const UIMoleculeContainer&) = delete;
     UIMoleculeContainer& operator=(const UIMoleculeContainer&) = delete;
     virtual ~UIMoleculeContainer();
 
-    /// Takes the window over, creates the controls, connects them and brings them up to date.
+    /// Takes the window over, creates the controls, connects them, and calls the refresh hook of
+    /// every molecule.
     /// @return false when the container refuses the window.
     virtual bool initialize(HWND window);
     virtual void connectAll();
@@ -60,30 +64,34 @@ protected:
     virtual bool createOn(HWND window);
 
     /// Builds columns and molecules from a description; no window is touched.
-    void buildFrom(const UIContainerData& data);
+    /// @param extraHeight  dialog units at the lower edge that are not the content's
+    void buildFrom(const UIContainerData& data, long extraHeight = 0);
     /// Disconnects and destroys the molecules' controls; the window may be gone already.
     void releaseMolecules();
 
-    const UIContainer* getContainer() const { return m_container.get(); }
+    /// Places what buildFrom has built.
+    const UILayoutManager& getLayout() const { return *m_layout; }
     UIPageWindow& getPage() { return m_page; }
     UIServices& getServices() const { return m_site.services; }
     FeatureServices& getFeatureServices() const { return m_site.featureServices; }
+    const ListOfFeaturesRef& getFeatures() const { return m_site.features; }
     const ProductStringLoader& getStrings() const { return m_site.strings; }
     UIToolTips* getToolTips() const { return m_toolTips.get(); }
-    bool isThemed() const { return m_themed; }
 
 private:
+    bool fitTexts() const;
     void createControls();
     void makeBoldFont();
 
     UIValueWriter m_valueWriter;
     UIMoleculeSite m_site;
     std::unique_ptr<UIContainer> m_container;
+    std::unique_ptr<UILayoutManager> m_layout;
     std::vector<UIMolecule*> m_molecules;
+    UIPageLook m_look;
     UIPageWindow m_page;
     o7::UniqueFont m_boldFont;
     std::unique_ptr<UIToolTips> m_toolTips;
-    bool m_themed = false;
     bool m_connected = false;
     IUIContainerCompanion* m_companion = nullptr;
     UIMessageMask m_wanted;
