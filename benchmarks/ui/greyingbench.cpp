@@ -17,7 +17,7 @@ namespace o7::bench {
 
 namespace {
 
-constexpr int kClicks = 20;           // on and off in turns
+constexpr int kClicks = 20; // on and off in turns
 constexpr double kTwoFrames = 1000.0 / 30;
 
 /// One window of the page, and how often it painted.
@@ -79,8 +79,7 @@ public:
 private:
     bool begin(HWND sheet)
     {
-        const auto page =
-            reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETCURRENTPAGEHWND, 0, 0));
+        const auto page = reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETCURRENTPAGEHWND, 0, 0));
         m_watched.clear();
         for (const HWND child : childrenOf(page))
             m_watched.emplace_back(child);

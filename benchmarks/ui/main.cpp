@@ -23,10 +23,8 @@ constexpr struct
     const wchar_t* name;
     void (*measure)(o7::bench::Report&, const std::wstring&);
 } kMeasurements[] = {
-    {L"raw-sheet", &o7::bench::benchRawSheet},
-    {L"pages", &o7::bench::benchPages},
-    {L"greying", &o7::bench::benchGreying},
-    {L"controls", &o7::bench::benchControls},
+    {L"raw-sheet", &o7::bench::benchRawSheet}, {L"pages", &o7::bench::benchPages},
+    {L"greying", &o7::bench::benchGreying},    {L"controls", &o7::bench::benchControls},
     {L"routing", &o7::bench::benchRouting},
 };
 

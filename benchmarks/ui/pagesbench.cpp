@@ -102,12 +102,13 @@ void reportSlope(Report& report, int pages, const Size& small, const Size& large
             value = (value - base) * 1000 / (large.controls - small.controls);
         return values;
     };
-    report.add({"pages",
-                std::to_string(pages) + " pages, " + kMeasureNames[index] + ", each further control",
-                "us",
-                slopes(0),
-                slopes(1),
-                {Goal::RatioAtMost, 1.10}});
+    report.add(
+        {"pages",
+         std::to_string(pages) + " pages, " + kMeasureNames[index] + ", each further control",
+         "us",
+         slopes(0),
+         slopes(1),
+         {Goal::RatioAtMost, 1.10}});
 }
 
 } // namespace

@@ -72,8 +72,7 @@ void recordButton(HWND window, RawWindow& raw)
 
 void recordEdit(HWND window, RawWindow& raw)
 {
-    raw.messages.push_back(
-        {EM_LIMITTEXT, static_cast<WPARAM>(ask(window, EM_GETLIMITTEXT)), 0});
+    raw.messages.push_back({EM_LIMITTEXT, static_cast<WPARAM>(ask(window, EM_GETLIMITTEXT)), 0});
 }
 
 void recordSlider(HWND window, RawWindow& raw)
@@ -101,9 +100,12 @@ constexpr struct
     void (*record)(HWND, RawWindow&);
     UINT add; ///< what an entry is added with
 } kClasses[] = {
-    {L"ComboBox", &recordCombo, CB_ADDSTRING},    {L"ListBox", &recordList, LB_ADDSTRING},
-    {L"Button", &recordButton, 0},                {L"Edit", &recordEdit, 0},
-    {TRACKBAR_CLASSW, &recordSlider, 0},          {UPDOWN_CLASSW, &recordSpin, 0},
+    {L"ComboBox", &recordCombo, CB_ADDSTRING},
+    {L"ListBox", &recordList, LB_ADDSTRING},
+    {L"Button", &recordButton, 0},
+    {L"Edit", &recordEdit, 0},
+    {TRACKBAR_CLASSW, &recordSlider, 0},
+    {UPDOWN_CLASSW, &recordSpin, 0},
 };
 
 UINT addMessageOf(const RawWindow& raw)
@@ -131,10 +133,10 @@ HFONT boldOf(HFONT font)
 
 void tell(HWND page, HWND window, const RawMessage& message)
 {
-    const WPARAM wParam = message.message == UDM_SETBUDDY
-                              ? reinterpret_cast<WPARAM>(
-                                    GetDlgItem(page, static_cast<int>(message.wParam)))
-                              : message.wParam;
+    const WPARAM wParam =
+        message.message == UDM_SETBUDDY
+            ? reinterpret_cast<WPARAM>(GetDlgItem(page, static_cast<int>(message.wParam)))
+            : message.wParam;
     SendMessageW(window, message.message, wParam, message.lParam);
 }
 

@@ -32,8 +32,8 @@ constexpr std::int32_t kColumnStep = 105;
 constexpr std::int32_t kPageWidth = 540;
 constexpr std::int32_t kPageHeight = 620;
 
-constexpr std::uint32_t kLabels[] = {O7STR_L_SIDES,        O7STR_L_PAPER_SIZE, O7STR_L_STAPLE,
-                                     O7STR_L_PUNCH,        O7STR_L_COLLATE,    O7STR_L_TONER_SAVING,
+constexpr std::uint32_t kLabels[] = {O7STR_L_SIDES,      O7STR_L_PAPER_SIZE,  O7STR_L_STAPLE,
+                                     O7STR_L_PUNCH,      O7STR_L_COLLATE,     O7STR_L_TONER_SAVING,
                                      O7STR_L_PAPER_TRAY, O7STR_L_PAGE_BORDERS};
 
 std::uint32_t labelOf(int number)
@@ -56,8 +56,8 @@ std::string nameOf(int feature)
 
 std::string feature(int number, std::string_view rest)
 {
-    return joined(
-        {R"({"enum":)", std::to_string(number), R"(,"name":")", nameOf(number), R"(",)", rest, "}"});
+    return joined({R"({"enum":)", std::to_string(number), R"(,"name":")", nameOf(number), R"(",)",
+                   rest, "}"});
 }
 
 std::string checkFeature(int number)
@@ -69,9 +69,9 @@ std::string listFeature(int number)
 {
     std::string options;
     for (int option = 0; option < kOptions; ++option)
-        options += joined({option == 0 ? "" : ",", R"({"enum":)",
-                           std::to_string(kFirstOption + option), R"(,"name":"v)",
-                           std::to_string(option), R"("})"});
+        options +=
+            joined({option == 0 ? "" : ",", R"({"enum":)", std::to_string(kFirstOption + option),
+                    R"(,"name":"v)", std::to_string(option), R"("})"});
     return feature(number, joined({R"("kind":"option","default":"v1","options":[)", options, "]"}));
 }
 
@@ -89,8 +89,8 @@ std::string package()
         "uniqueId":"BNCH","controllerFamily":8430,"languages":["en"]},"features":[)";
     text += checkFeature(kMaster);
     for (int index = 0; index < kOfEachKind; ++index)
-        text += joined({",", checkFeature(kFirstCheck + index), ",",
-                        listFeature(kFirstList + index)});
+        text +=
+            joined({",", checkFeature(kFirstCheck + index), ",", listFeature(kFirstList + index)});
     text += R"(],"constraints":[)";
     for (int index = 0; index < SyntheticPages::kGreyed / 2; ++index)
         text += joined({index == 0 ? "" : ",", constraint(kFirstCheck + index), ",",
@@ -140,21 +140,22 @@ std::unique_ptr<SyntheticPages> SyntheticPages::greying(const std::wstring& text
 
 void SyntheticPages::run() const
 {
-    test::SheetRig rig(m_session->productData(), m_session->model(), m_session->strings(),
-                       *m_data);
+    test::SheetRig rig(m_session->productData(), m_session->model(), m_session->strings(), *m_data);
     rig.run(PSH_NOAPPLYNOW);
 }
 
 template <class Record> UIRecords<Record> SyntheticPages::keep(std::vector<Record> records)
 {
-    auto& store = [this]() -> auto& {
+    auto& store = [this]() -> auto&
+    {
         if constexpr (std::is_same_v<Record, UIControlRecord>)
             return m_controls;
         else if constexpr (std::is_same_v<Record, UIMoleculeRecord>)
             return m_molecules;
         else
             return m_columns;
-    }();
+    }
+    ();
     const std::vector<Record>& kept = store.emplace_back(std::move(records));
     UIRecords<Record> view;
     view.first = kept.data();
@@ -204,8 +205,7 @@ std::vector<UIMoleculeRecord> SyntheticPages::block(int number)
             check(kFirstCheck + feature)};
 }
 
-void SyntheticPages::describe(int pages,
-                              const std::vector<std::vector<UIMoleculeRecord>>& columns)
+void SyntheticPages::describe(int pages, const std::vector<std::vector<UIMoleculeRecord>>& columns)
 {
     std::vector<UIColumnRecord> records;
     for (std::size_t index = 0; index < columns.size(); ++index)

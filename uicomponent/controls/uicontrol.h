@@ -78,8 +78,8 @@ public:
     void repaint(bool erase, const RECT* area = nullptr) const noexcept;
 
     /// While it lives, controls of that parent leave their windows to it when they are destroyed:
-    /// for the time of its WM_DESTROY, after which it takes them all along. Destroying each by itself
-    /// would cost as much again.
+    /// for the time of its WM_DESTROY, after which it takes them all along. Destroying each by
+    /// itself would cost as much again.
     class O7UI_API ParentGoes
     {
     public:

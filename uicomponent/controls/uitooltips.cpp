@@ -16,8 +16,8 @@ static_assert(kStyle == 0x80000003);
 constexpr int kMaximumWidth = 800; ///< pixels; longer texts go on in the next line
 constexpr int kTrackingOffset = 16;
 
-/// A tool without its text. A page laid out from right to left is read that way. The size is the one
-/// that every version of the library knows.
+/// A tool without its text. A page laid out from right to left is read that way. The size is the
+/// one that every version of the library knows.
 TTTOOLINFOW toolInfo(HWND owner, HWND tool, UINT flags)
 {
     TTTOOLINFOW info{};

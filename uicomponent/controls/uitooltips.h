@@ -58,16 +58,16 @@ public:
 
     /// A control's tip that costs nothing until the mouse is on the control, of which relayMouse
     /// hears. What setAreaTip is given for the same control then stands behind it. A static control
-    /// has to have SS_NOTIFY. An empty text takes the tip away, as has to be done before the control
-    /// goes.
+    /// has to have SS_NOTIFY. An empty text takes the tip away, as has to be done before the
+    /// control goes.
     void setTip(HWND control, const CXString& text);
 
     /// The tip of a control that may be disabled. A disabled window lets the mouse through to the
     /// page, so the tip belongs to the control's area of the page, and works as long as the page's
     /// mouse messages are handed to relayMouse. An empty text takes the tip away.
     void setAreaTip(HWND control, const CXString& text);
-    /// Hands a mouse message of the owner window to the tip window; other messages are ignored. With
-    /// WM_SETCURSOR the owner hears which of its controls the mouse is on.
+    /// Hands a mouse message of the owner window to the tip window; other messages are ignored.
+    /// With WM_SETCURSOR the owner hears which of its controls the mouse is on.
     void relayMouse(const _UIWindowsMessage& message);
 
     /// Shows the tip of a part of a window, such as an entry of a list, until hidePlaced. It is a
