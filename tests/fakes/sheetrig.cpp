@@ -65,6 +65,8 @@ INT_PTR SheetRig::run(DWORD flags)
     header.nPages = static_cast<UINT>(
         m_tabs->createPagesForPropertySheet(descriptions, pages.data(), pages.size(), nullptr));
     header.phpage = pages.data();
+    if (header.nPages == 0)
+        return -1; // an empty sheet would wait for ever
     m_messages->append(UIMessageKind::TabPage, *m_tabs);
     m_featureServices.SettleBeforeDisplay();
     m_tabs->buildTabs(descriptions);

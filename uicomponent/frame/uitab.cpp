@@ -6,6 +6,7 @@
 #include "setofsettingids.h"
 #include "uicontainerdata.h"
 #include "uicontext.h"
+#include "uicontrol.h"
 #include "uidump.h"
 #include "uieventprocessor.h"
 #include "uilayoutmanager.h"
@@ -111,9 +112,11 @@ bool UITab::handleMessage(const _UIWindowsMessage& message)
     switch (message.message) {
     case WM_NOTIFY:
         return handleNotification(message);
-    case WM_DESTROY: // the controls go while their windows still exist
+    case WM_DESTROY: { // the controls go while their windows still exist
+        const UIControl::ParentGoes going(message.window);
         releaseMolecules();
         return false;
+    }
     default:
         return offerToMolecules(message);
     }
