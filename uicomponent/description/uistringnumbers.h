@@ -285,6 +285,10 @@
 // What is said about typed values (34000 to 34099)
 #define O7STR_M_NUMBER_RANGE 34000 // "Enter a whole number from %s to %s."
 
+// What the molecules say of themselves (34100 to 34199)
+#define O7STR_M_READ_ONLY 34100 // "This is for information only and cannot be changed here."
+#define O7STR_M_NOT_HERE 34101 // "This setting cannot be changed in this window."
+
 // The sheet around the pages (34200 to 34299)
 #define O7STR_L_PAGE_DEFAULTS 34200 // "Page &Defaults"
 #define O7STR_S_IN_CONFLICT 34201 // "In conflict (F8 shows the next): %s"
