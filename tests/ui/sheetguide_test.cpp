@@ -140,15 +140,14 @@ protected:
     {
         SheetRig rig(session().productData(), session().featureServices(), session().strings(),
                      m_data);
-        if (m_personalKey)
-            rig.tabs().rememberLastPage(m_personalKey);
+        rig.tabs().rememberLastPage(m_personalKey, L"Printer\\One");
         const IdleDriver driver(std::move(steps));
         rig.run(PSH_NOAPPLYNOW);
         EXPECT_EQ(driver.failure(), "");
     }
 
     UIData m_data;
-    const wchar_t* m_personalKey = nullptr;
+    const wchar_t* m_personalKey = L"";
 };
 
 TEST_F(SheetGuideTest, TabsAreMarkedAsLongAsTheirPageHasAConflict)
@@ -297,7 +296,7 @@ TEST_F(SheetGuideTest, TheLastPageIsKeptForPrinterAndModeAndByNumber)
     m_personalKey = kKey;
     opensOn(0, {selectPage(2)});
     opensOn(2);
-    RegistryKey printer(HKEY_CURRENT_USER, kKey + CXString(L"\\") + L"Orvik Office C430");
+    RegistryKey printer(HKEY_CURRENT_USER, kKey + CXString(L"\\Printer%5COne"));
     EXPECT_EQ(printer.GetLongValue(L"LastPage1", 0), 13);
     printer.SetLongValue(L"LastPage1", 12);
     opensOn(1);

@@ -108,13 +108,15 @@ void UIManager::initializePartI(FeatureServices& featureServices, ProductStringL
     m_tabManager = std::make_unique<UITabManager>(*m_services, *m_messageManager, m_moduleInstance,
                                                   featureServices, *m_context, m_productData,
                                                   *m_eventProcessor, m_mode, m_option);
-    if (!m_personalSettings.IsEmpty())
-        m_tabManager->rememberLastPage(m_personalSettings);
+    m_tabManager->rememberLastPage(m_personalSettings, m_printer);
 }
 
-void UIManager::setPersonalSettings(const CXString& registryPath)
+void UIManager::setPersonalSettings(const CXString& registryPath, const CXString& printer)
 {
     m_personalSettings = registryPath;
+    m_printer = printer;
+    if (m_tabManager)
+        m_tabManager->rememberLastPage(registryPath, printer);
 }
 
 void UIManager::initializePartII(FeatureServices& featureServices)
