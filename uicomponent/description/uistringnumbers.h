@@ -297,4 +297,7 @@
 #define O7STR_S_SEPARATOR 34204 // ", "
 #define O7STR_S_CONFLICTS_TITLE 34205 // "Settings in Conflict"
 #define O7STR_S_HIDDEN_TITLE 34206 // "Not Shown on This Page"
+
+// Messages of the sheet when it is applied
+#define O7STR_M_VALUE_MISSING 34250 // "“%s” needs a value..."
 // clang-format on

@@ -276,6 +276,18 @@ void UISheetGuide::goToConflict(bool backwards)
         walk.moleculeAt(*next).Focus();
 }
 
+void UISheetGuide::goTo(const FeatureIdWithContext& feature)
+{
+    for (std::size_t page = 0; page < m_tabs.size(); ++page) {
+        for (UIMolecule* molecule : m_tabs[page]->getMolecules()) {
+            if (!(molecule->GetBoundFeature() == feature) || !selectPage(page))
+                continue;
+            molecule->Focus();
+            return;
+        }
+    }
+}
+
 void UISheetGuide::restorePageDefaults()
 {
     if (m_active < m_tabs.size())

@@ -54,6 +54,10 @@ public:
     /// Gives every setting of the page that is shown its default value.
     void restorePageDefaults();
 
+    /// Brings the page that shows the setting to the front and the keyboard to its control; nothing
+    /// when no page shows it.
+    void goTo(const FeatureIdWithContext& feature);
+
     void ProcessNotification(const INotification& notification, unsigned int kind) override;
     CXString GetObserverClassNameHeirarchy() const override;
 

@@ -7,10 +7,13 @@
 #include <memory>
 #include <vector>
 
+#include "uiapplybutton.h"
 #include "uidatalist.h"
 #include "uimessagehandler.h"
 #include "uimessagemask.h"
 #include "uimode.h"
+#include "uisheetapply.h"
+#include "uisheetareas.h"
 
 class CXString;
 class FeatureServices;
@@ -42,7 +45,7 @@ public:
     ~UITabManager() override;
 
     bool handleMessage(const _UIWindowsMessage& message) override;
-    /// Dumps every tab, in creation order.
+    /// Dumps every tab, in creation order, and then the areas under them.
     void dump() const override;
 
     /// Pages for PropertySheetW. @return how many; their handles are written to `pages`, and belong
@@ -63,6 +66,10 @@ public:
     /// Called when the data model has settled: what is on screen already is brought up to date.
     virtual void buildTabs(const Descriptions& descriptions);
 
+    /// Makes the areas that stand in the sheet's own window, under the pages. They get their
+    /// windows with the first page. To be called before pages are created, once.
+    void buildOffTabs(const Descriptions& descriptions);
+
     /// See UIManager::setPersonalSettings. For before the first page has its window.
     void rememberLastPage(const CXString& path, const CXString& printer);
 
@@ -73,8 +80,8 @@ public:
 protected:
     /// Messages of the pages.
     virtual bool handlePageMessage(const _UIWindowsMessage& message);
-    /// Messages of the sheet window. Without off-tab areas the sheet is not subclassed and none
-    /// arrive.
+    /// Messages of the sheet window and of the areas in it, and each page's WM_INITDIALOG: with the
+    /// first one the areas are opened. Without areas the sheet is not subclassed and none arrive.
     virtual bool handleOffTabMessage(const _UIWindowsMessage& message);
 
     /// Offers a message to the tabs in creation order, up to the first that claims it.
@@ -88,16 +95,13 @@ private:
     bool initializePage(const _UIWindowsMessage& message);
     void postFirstPaint(const _UIWindowsMessage& message);
     bool applyPage(const _UIWindowsMessage& message);
-    void rejectApply();
-    void completeApply(const _UIWindowsMessage& message);
-    bool showApplyWarning(HWND page) const;
-    void updateApplyButton(HWND page);
+    bool hasPendingInput() const;
+    void areasOpened(HWND page);
 
     std::vector<HPROPSHEETPAGE> m_pages;
     HANDLE m_cpsuiSheet = nullptr;
     UIComPropSheetCallback m_cpsuiCallback = nullptr;
     std::vector<std::unique_ptr<UITab>> m_tabs;
-    std::unique_ptr<UISheetGuide> m_guide; ///< goes before the tabs
     HINSTANCE m_moduleInstance;
     UIMessageManager& m_messageManager;
     FeatureServices& m_featureServices;
@@ -110,7 +114,10 @@ private:
     HANDLE m_activationContext = nullptr; ///< the caller's, for what the pages create
     bool m_tabFlag = false;
     bool m_firstPaintPending = true;
-    bool m_modifiedShown = false;
+    UISheetAreas m_areas;
+    std::unique_ptr<UISheetGuide> m_guide; ///< goes before the tabs and the areas
+    UIApplyButton m_applyButton;
+    UISheetApply m_apply;
     long m_largestWidth = 0;
     long m_largestHeight = 0;
     UIMessageMask m_wanted;
