@@ -120,13 +120,15 @@ void UIManager::initializePartI(FeatureServices& featureServices, ProductStringL
                                                   featureServices, *m_context, m_productData,
                                                   *m_eventProcessor, m_mode, m_option);
     m_tabManager->buildOffTabs(listed(m_uiData->getOffTabs()));
-    if (!m_personalSettings.IsEmpty())
-        m_tabManager->rememberLastPage(m_personalSettings);
+    m_tabManager->rememberLastPage(m_personalSettings, m_printer);
 }
 
-void UIManager::setPersonalSettings(const CXString& registryPath)
+void UIManager::setPersonalSettings(const CXString& registryPath, const CXString& printer)
 {
     m_personalSettings = registryPath;
+    m_printer = printer;
+    if (m_tabManager)
+        m_tabManager->rememberLastPage(registryPath, printer);
 }
 
 void UIManager::initializePartII(FeatureServices& featureServices)

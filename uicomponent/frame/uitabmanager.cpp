@@ -7,7 +7,6 @@
 #include "featureservices.h"
 #include "isolationaware.h"
 #include "optionfeatureref.h"
-#include "productdata.h"
 #include "productstringloader.h"
 #include "throworvik.h"
 #include "trace.h"
@@ -193,13 +192,12 @@ void UITabManager::createPagesForCPSUI(const Descriptions& descriptions, HANDLE 
     }
 }
 
-void UITabManager::rememberLastPage(const CXString& path)
+void UITabManager::rememberLastPage(const CXString& path, const CXString& printer)
 {
-    const CXString printer = m_featureServices.GetFullListOfFeatures()
-                                 .GetOptionFeature(FeatureId(DataModelIds::kFeaturePrinterName))
-                                 .GetValue()
-                                 .GetDisplayString();
-    m_guide->rememberPage(path, printer.IsEmpty() ? m_productData.GetModelName() : printer, m_mode);
+    const auto name = m_featureServices.GetFullListOfFeatures().GetOptionFeature(
+        FeatureId(DataModelIds::kFeaturePrinterName));
+    m_guide->rememberPage(path, printer.IsEmpty() ? name.GetValue().GetDisplayString() : printer,
+                          m_mode);
 }
 
 void UITabManager::buildTabs(const Descriptions&)

@@ -71,9 +71,8 @@ public:
     /// windows with the first page. To be called before pages are created, once.
     void buildOffTabs(const Descriptions& descriptions);
 
-    /// From now on the sheet opens on the page that the person left it on: per printer and mode, in
-    /// the current user's hive. For before the first page. @param path  the key above the printers'
-    void rememberLastPage(const CXString& path);
+    /// See UIManager::setPersonalSettings. For before the first page has its window.
+    void rememberLastPage(const CXString& path, const CXString& printer);
 
     long getLargestWidth() const { return m_largestWidth; }   ///< dialog units
     long getLargestHeight() const { return m_largestHeight; } ///< dialog units
