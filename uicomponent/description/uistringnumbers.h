@@ -382,7 +382,25 @@
 #define O7STR_U_STRONG 33123 // "Strong"
 
 // What is said about typed values (34000 to 34099)
-#define O7STR_M_NUMBER_RANGE 34000 // "Enter a whole number from %s to %s."
+#define O7STR_M_ALLOWED 34000 // "Allowed: %s."
+#define O7STR_M_RANGE_PART 34001 // "%s to %s"
+#define O7STR_M_MISSING 34002 // "The value is missing."
+#define O7STR_M_NOT_A_NUMBER 34003 // "“%s” is not a number."
+#define O7STR_M_NOT_WHOLE 34004 // "“%s” is not a whole number."
+#define O7STR_M_UNKNOWN_UNIT 34005 // "The unit in “%s” is not known."
+#define O7STR_M_OUT_OF_RANGE 34006 // "“%s” is out of range."
+#define O7STR_M_FROM_ABOVE_TO 34007 // "The range begins after its end."
+#define O7STR_M_DIGITS_ONLY 34008 // "Only digits can be entered here."
+#define O7STR_M_TOO_LONG 34009 // "No more than %s characters fit here."
+#define O7STR_M_REFUSED 34010 // "This value cannot be set at present."
+#define O7STR_M_CHANGED_TO 34011 // "Changed to %s."
+#define O7STR_M_VALUE_STAYS 34012 // "The value stays %s."
+#define O7STR_U_MILLIMETRE 34020 // "mm"
+#define O7STR_U_INCH 34021 // "in"
+#define O7STR_U_MILLIMETRE_WORDS 34022 // "millimetre;millimetres;millimeter;millimeters"
+#define O7STR_U_CENTIMETRE_WORDS 34023 // "centimetre;centimetres;centimeter;centimeters"
+#define O7STR_U_INCH_WORDS 34024 // "inch;inches"
+#define O7STR_U_POINT_WORDS 34025 // "point;points"
 
 // What the molecules say of themselves (34100 to 34199)
 #define O7STR_M_READ_ONLY 34100 // "This is for information only and cannot be changed here."

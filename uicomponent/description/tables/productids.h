@@ -252,6 +252,8 @@ inline constexpr tagValueEnum kPaperLegal          {5114};
 inline constexpr tagValueEnum kPaperTabloid        {5115};
 inline constexpr tagValueEnum kPaperEnvelopeDL     {5116};
 inline constexpr tagValueEnum kPaperEnvelopeC5     {5117};
+inline constexpr tagValueEnum kUnitsMillimetres    {5230};
+inline constexpr tagValueEnum kUnitsInches         {5231};
 inline constexpr tagValueEnum kFaxNow              {5640};
 inline constexpr tagValueEnum kFaxOffPeak          {5641};
 inline constexpr tagValueEnum kRegionMetric        {5780};
