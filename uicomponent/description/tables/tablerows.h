@@ -20,7 +20,7 @@ inline constexpr std::int32_t kWideColumnWidth = 316;
 
 // Room for the label beside a narrow box (spin, length, number, PIN) and beside a slider. The boxes
 // of lists and texts need all of the width, so their labels stand above.
-inline constexpr std::int32_t kNarrowBoxLabel = 68;
+inline constexpr std::int32_t kNarrowBoxLabel = 62;
 inline constexpr std::int32_t kSliderLabel = 50;
 
 namespace rows {
