@@ -61,8 +61,15 @@ void UIMoleculeSwitch::Show(bool shown)
 
 void UIMoleculeSwitch::Enable(bool enabled)
 {
-    if (m_check)
-        m_check->setEnable(enabled);
+    if (!m_check)
+        return;
+    // What the switch stands before may be disabled because it is off.
+    if (m_ownFeature)
+        enabled = !m_site.featureServices.GetFeatureRef(m_feature)
+                       ->GetCapabilities()
+                       ->GetInterpretedState()
+                       .IsDisabled();
+    m_check->setEnable(enabled);
 }
 
 bool UIMoleculeSwitch::Read() const
