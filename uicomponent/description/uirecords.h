@@ -41,6 +41,7 @@ struct UIMoleculeRecord
     const UIContainerRecord* nested = nullptr; ///< Kind Container only.
     std::uint32_t title = 0;                   ///< Caption of a group box; plain text.
     std::int8_t featureState = 0; ///< Positive: the molecule counts as having a feature's state.
+    std::int32_t labelWidth = 0;  ///< Room for its label beside the box; 0: as its column says.
     std::uint8_t indent = 0;      ///< Levels of indentation under the molecule above.
     bool raisedHeight = false;    ///< Leaves room for a button beside the control.
     bool ownFeatureList = false;  ///< Works on the list of features being edited, not the job's.
@@ -88,7 +89,8 @@ struct UIFeatureObserverRecord
 /// One page: a tab, a dialog or the inside of a Container molecule.
 struct UIContainerRecord
 {
-    std::uint32_t id = 0; ///< Tab number, unique in its root; for a dialog its DialogId.
+    std::uint32_t id = 0; ///< Tab number, unique in its root; a dialog's DialogId,
+                          ///< which the pages of a popup tab set share.
     std::uint32_t title = 0;
     std::int32_t width = 0;
     std::int32_t height = 0;

@@ -137,8 +137,7 @@ bool UIMolecule::ColourControl(const _UIWindowsMessage& message) const
 {
     const auto control = reinterpret_cast<HWND>(message.lParam);
     if (message.kind != UIMessageKind::TabPage || !m_look || !m_look->isThemed() ||
-        !OwnsControl(control) ||
-        (SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL))
+        !OwnsControl(control) || (SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL))
         return false;
     const auto dc = reinterpret_cast<HDC>(message.wParam);
     SetTextColor(dc, GetSysColor(COLOR_WINDOWTEXT));
@@ -192,9 +191,8 @@ void UIMolecule::UpdateInfoButton(const FeatureIdWithContext& feature,
     if (!m_infoButton)
         CreateInfoButton();
     if (m_infoButton)
-        m_infoButton->setMessage(
-            static_cast<std::uint32_t>(m_infoStyle), m_infoText,
-            m_site.strings.GetStringForFeature(feature.GetFeatureEnum()));
+        m_infoButton->setMessage(static_cast<std::uint32_t>(m_infoStyle), m_infoText,
+                                 GetInfoTitle(feature));
 }
 
 void UIMolecule::CreateInfoButton()
@@ -275,7 +273,12 @@ std::optional<InterpretedState> UIMolecule::ReadState() const
     const bool readOnly = capabilities->IsReadOnly();
     if (!state.IsDisabled() && (readOnly || m_forceDisabled))
         state.Disable(LoadText(readOnly ? O7STR_M_READ_ONLY : O7STR_M_NOT_HERE));
+    CompleteState(*capabilities, state);
     return state;
+}
+
+void UIMolecule::CompleteState(const CapabilitiesNode&, InterpretedState&) const
+{
 }
 
 ListOfFeaturesRef UIMolecule::GetMoleculeFeatures()
@@ -335,6 +338,11 @@ void UIMolecule::Show(bool shown)
     ShowInfoButton(shown);
 }
 
+CXString UIMolecule::GetInfoTitle(const FeatureIdWithContext& feature) const
+{
+    return m_site.strings.GetStringForFeature(feature.GetFeatureEnum());
+}
+
 HWND UIMolecule::InfoAnchor() const
 {
     return nullptr;
@@ -349,8 +357,7 @@ bool UIMolecule::Focus()
 {
     HWND target = InfoAnchor();
     // Not IsWindowVisible: the page itself may be about to be shown.
-    if (!target || !IsWindowEnabled(target) ||
-        !(GetWindowLongPtrW(target, GWL_STYLE) & WS_VISIBLE))
+    if (!target || !IsWindowEnabled(target) || !(GetWindowLongPtrW(target, GWL_STYLE) & WS_VISIBLE))
         target = m_infoButton ? m_infoButton->getHwnd() : nullptr;
     if (!m_page || !target)
         return false;
@@ -361,6 +368,12 @@ bool UIMolecule::Focus()
 
 void UIMolecule::FitTexts(const UITextRuler&, long)
 {
+}
+
+void UIMolecule::SetLabelWidth(long width)
+{
+    const long own = GetData().getLabelWidth();
+    m_labelWidth = own > 0 ? own : width;
 }
 
 long UIMolecule::GetWantedLabelWidth(const UITextRuler&) const

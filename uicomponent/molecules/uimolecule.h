@@ -18,6 +18,7 @@
 #include "uipagewindow.h"
 #include "uiwindowsmessage.h"
 
+class CapabilitiesNode;
 class SetOfSettingIds;
 class UIInfoButtonControl;
 class UIMoleculeData;
@@ -126,6 +127,9 @@ public:
     /// The room that the label wants beside its box; 0 without a label.
     virtual long GetWantedLabelWidth(const UITextRuler& ruler) const;
 
+    /// What the messages of the info button are about; the name of the setting.
+    virtual CXString GetInfoTitle(const FeatureIdWithContext& feature) const;
+
     /// The child-window ids that CreateControls took: from the first up to, not including, the end.
     void SetControlIds(int first, int end);
     /// Whether a window is one of the molecule's own controls, or stands inside one.
@@ -134,8 +138,8 @@ public:
     bool LacksControl() const;
 
     /// Room in dialog units for a label beside its box; 0 puts labels above. Set by the column
-    /// before InitializeFromDescription.
-    void SetLabelWidth(long width) { m_labelWidth = width; }
+    /// before InitializeFromDescription. A molecule whose description says a width keeps that one.
+    void SetLabelWidth(long width);
     long GetLabelWidth() const { return m_labelWidth; }
 
     // IObserver
@@ -160,6 +164,8 @@ protected:
     /// The state of the bound feature now, disabled also where the feature is only for reading or
     /// the molecule forced to be so, with a reason for that. None without a feature.
     std::optional<InterpretedState> ReadState() const;
+    /// Lets a subclass add what its controls show of the capabilities beside the state itself.
+    virtual void CompleteState(const CapabilitiesNode& capabilities, InterpretedState& state) const;
     /// Where the molecule finds a feature that its description names: inside the page's list when
     /// it works on that. For a feature beside the bound one; SetBoundFeature does it by itself.
     FeatureIdWithContext InFeatureList(const FeatureIdWithContext& feature) const;
