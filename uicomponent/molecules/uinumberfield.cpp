@@ -7,6 +7,7 @@
 
 #include "uidump.h"
 #include "uieditcontrol.h"
+#include "uiservices.h"
 #include "uispincontrol.h"
 #include "uistringnumbers.h"
 #include "uitextcontrol.h"
@@ -72,8 +73,10 @@ void UINumberField::Create(UIPageWindow& page, const Surroundings& surroundings,
 {
     const long boxWidth = std::min(width, GetWantedWidth(hasArrows));
     const long editWidth = hasArrows ? boxWidth - kArrowsWidth : boxWidth;
-    CreateBox(page, surroundings, {location, {editWidth, kHeight}, 0, kTextLimit});
     UIServices& services = surroundings.site.services;
+    const DWORD alignment = services.isRightToLeft() ? ES_RIGHT : ES_LEFT;
+    CreateBox(page, surroundings, {location, {editWidth, kHeight}, alignment, kTextLimit});
+    GetEdit()->keepUnmirrored();
     if (hasArrows) {
         m_arrows = std::make_unique<UISpinControl>(
             page.window, page.takeId(), services, page.font,
