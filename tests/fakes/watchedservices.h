@@ -1,0 +1,205 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <set>
+#include <string>
+#include <tuple>
+
+#include "featureservices.h"
+
+namespace o7::test {
+
+/// A feature of a real model that writes down what is written to it, and lets a test refuse a write
+/// or change what the feature can do.
+class WatchedNode : public IFeatureNode
+{
+public:
+    WatchedNode(Ptr node, std::string& log) : m_node(std::move(node)), m_log(log) {}
+
+    std::function<bool(const FeatureValue&)> refuses;
+    std::function<std::unique_ptr<CapabilitiesNode>(std::unique_ptr<CapabilitiesNode>)> changes;
+
+    bool SetValue(const FeatureValue& value) override
+    {
+        const auto* option = std::get_if<ValueId>(&value);
+        m_log += option ? "write " + option->GetAsCpssString().ToUtf8() + " " : "write ";
+        return !(refuses && refuses(value)) && m_node->SetValue(value);
+    }
+    bool SetIsSpecified(bool specified) override
+    {
+        m_log += specified ? "specify " : "unspecify ";
+        return m_node->SetIsSpecified(specified);
+    }
+    std::unique_ptr<CapabilitiesNode> GetCapabilities() const override
+    {
+        auto capabilities = m_node->GetCapabilities();
+        return changes ? changes(std::move(capabilities)) : std::move(capabilities);
+    }
+
+    FeatureKind GetKind() const override { return m_node->GetKind(); }
+    const FeatureIdWithContext& GetId() const override { return m_node->GetId(); }
+    bool IsSpecified() const override { return m_node->IsSpecified(); }
+    bool GetValue(FeatureValue& value) const override { return m_node->GetValue(value); }
+    bool GetDefaultValue(FeatureValue& value) const override
+    {
+        return m_node->GetDefaultValue(value);
+    }
+    Ptr FindFeature(const FeatureId& id) const override { return m_node->FindFeature(id); }
+    Ptr FindFromTop(const FeatureIdWithContext& id) const override
+    {
+        return m_node->FindFromTop(id);
+    }
+    std::size_t GetNumChildren() const override { return m_node->GetNumChildren(); }
+    Ptr GetChild(std::size_t index) const override { return m_node->GetChild(index); }
+    FeatureKind GetItemKind() const override { return m_node->GetItemKind(); }
+    Ptr CreateItem() override { return m_node->CreateItem(); }
+    bool DeleteItems(const std::vector<std::size_t>& items) override
+    {
+        return m_node->DeleteItems(items);
+    }
+    bool CopyFrom(const IFeatureNode& source) override { return m_node->CopyFrom(source); }
+    bool RestoreToDefaultValue() override { return m_node->RestoreToDefaultValue(); }
+    void ReportUnsupported() const override { m_node->ReportUnsupported(); }
+
+private:
+    Ptr m_node;
+    std::string& m_log;
+};
+
+/// A real model that counts its observers, writes down its transactions, and shows one option
+/// feature as a WatchedNode. Everything else is the model's.
+class WatchedServices : public FeatureServices
+{
+public:
+    WatchedServices(FeatureServices& model, const FeatureId& watched)
+        : m_model(model),
+          m_watched(watched),
+          m_node(std::make_shared<WatchedNode>(
+              model.GetOptionFeatureRef(FeatureIdWithContext(watched)).GetNode(), log))
+    {
+    }
+
+    /// "open write odrv-choice=b commit ", and so on, since it was emptied.
+    std::string log;
+    std::size_t observers() const { return m_observers.size(); }
+    WatchedNode& node() { return *m_node; }
+
+    void RegisterObserver(IObserver& observer, SettingsInstanceId instance,
+                          const FeatureIdWithContext& feature, unsigned int kind) override
+    {
+        m_observers.insert(keyOf(observer, instance, feature, kind));
+        m_model.RegisterObserver(observer, instance, feature, kind);
+    }
+    void UnregisterObserver(IObserver& observer, SettingsInstanceId instance,
+                            const FeatureIdWithContext& feature, unsigned int kind) override
+    {
+        const auto found = m_observers.find(keyOf(observer, instance, feature, kind));
+        if (found != m_observers.end())
+            m_observers.erase(found);
+        m_model.UnregisterObserver(observer, instance, feature, kind);
+    }
+    std::unique_ptr<FeatureRef> GetFeatureRef(const FeatureIdWithContext& feature) override
+    {
+        if (isWatched(feature))
+            return std::make_unique<OptionFeatureRef>(m_node);
+        return m_model.GetFeatureRef(feature);
+    }
+    OptionFeatureRef GetOptionFeatureRef(const FeatureIdWithContext& feature) override
+    {
+        return isWatched(feature) ? OptionFeatureRef(m_node) : m_model.GetOptionFeatureRef(feature);
+    }
+    std::unique_ptr<TransactionRef> OpenTransaction(const CXString& purpose) override
+    {
+        log += "open ";
+        return std::make_unique<Transaction>(m_model.OpenTransaction(purpose), log);
+    }
+
+    bool TestFeature(const FeatureIdWithContext& id) override { return m_model.TestFeature(id); }
+    ListOfFeaturesRef GetListOfFeaturesFor(const FeatureIdWithContext& context) override
+    {
+        return m_model.GetListOfFeaturesFor(context);
+    }
+    void SettleBeforeDisplay() override { m_model.SettleBeforeDisplay(); }
+    ListOfFeaturesRef GetFullListOfFeatures() override { return m_model.GetFullListOfFeatures(); }
+    ListOfFeaturesRef GetListOfFeaturesByGroup(DataModelIds::tagFeatureEnum group) override
+    {
+        return m_model.GetListOfFeaturesByGroup(group);
+    }
+    INotificationSink& GetNotificationSink() override { return m_model.GetNotificationSink(); }
+    bool IsModified() const override { return m_model.IsModified(); }
+    void CommitAccepted() override { m_model.CommitAccepted(); }
+    void RevertToAccepted() override { m_model.RevertToAccepted(); }
+    void RegisterForEvent(IObserver& observer, EventId event, unsigned int kind) override
+    {
+        m_model.RegisterForEvent(observer, event, kind);
+    }
+    void UnregisterForEvent(IObserver& observer, EventId event, unsigned int kind) override
+    {
+        m_model.UnregisterForEvent(observer, event, kind);
+    }
+    IConstraintsIntegrator& GetConstraintsIntegrator() override
+    {
+        return m_model.GetConstraintsIntegrator();
+    }
+    std::vector<StateReason> GetStateReasons(const FeatureIdWithContext& feature,
+                                             const ValueId& option) override
+    {
+        return m_model.GetStateReasons(feature, option);
+    }
+    std::vector<FeatureIdWithContext> GetFeaturesInConflict() override
+    {
+        return m_model.GetFeaturesInConflict();
+    }
+    ChangeProposal ProposeChange(const FeatureIdWithContext& feature,
+                                 const FeatureValue& value) override
+    {
+        return m_model.ProposeChange(feature, value);
+    }
+    std::vector<Consequence> PreviewAlternative(const Alternative& alternative) override
+    {
+        return m_model.PreviewAlternative(alternative);
+    }
+    bool ApplyAlternative(const Alternative& alternative) override
+    {
+        return m_model.ApplyAlternative(alternative);
+    }
+
+private:
+    class Transaction : public TransactionRef
+    {
+    public:
+        Transaction(std::unique_ptr<TransactionRef> inner, std::string& log)
+            : m_inner(std::move(inner)), m_log(log)
+        {
+        }
+        bool Close(bool commit) override
+        {
+            m_log += commit ? "commit " : "roll back ";
+            return m_inner->Close(commit);
+        }
+        bool IsOpen() const override { return m_inner->IsOpen(); }
+
+    private:
+        std::unique_ptr<TransactionRef> m_inner;
+        std::string& m_log;
+    };
+
+    using Key = std::tuple<const IObserver*, int, std::string, unsigned int>;
+    static Key keyOf(const IObserver& observer, SettingsInstanceId instance,
+                     const FeatureIdWithContext& feature, unsigned int kind)
+    {
+        return {&observer, instance.GetSettingsEnum(), feature.Dump(false).ToUtf8(), kind};
+    }
+    bool isWatched(const FeatureIdWithContext& feature) const
+    {
+        return feature.GetFeatureId().GetFeatureEnum() == m_watched.GetFeatureEnum();
+    }
+
+    FeatureServices& m_model;
+    FeatureId m_watched;
+    std::shared_ptr<WatchedNode> m_node;
+    std::multiset<Key> m_observers;
+};
+
+} // namespace o7::test
