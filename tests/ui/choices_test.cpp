@@ -66,9 +66,10 @@ public:
     CXString LoadStringW(unsigned id) const override
     {
         constexpr unsigned kValues = 40000;
-        constexpr std::pair<unsigned, const wchar_t*> kNames[] = {
-            {kValues + 5001, L"U"}, {kValues + 6010, L"A"}, {kValues + 6011, L"B"},
-            {kValues + 6012, L"C"}};
+        constexpr std::pair<unsigned, const wchar_t*> kNames[] = {{kValues + 5001, L"U"},
+                                                                  {kValues + 6010, L"A"},
+                                                                  {kValues + 6011, L"B"},
+                                                                  {kValues + 6012, L"C"}};
         for (const auto& [number, name] : kNames)
             if (number == id)
                 return CXString(name);
@@ -351,9 +352,9 @@ TEST_F(ChoicesTest, TheEntryForNoValueWritesNothing)
         std::vector<OptionWithState> options;
         for (std::size_t index = 0; index < known.GetNumberOfValues(); ++index)
             options.push_back(known.GetOptionWithState(index));
-        options.emplace_back(ValueId(DataModelIds::kNoValue, FeatureId(kChoice), CXString(L"n"),
-                                     CXString(L"N")),
-                             InterpretedState());
+        options.emplace_back(
+            ValueId(DataModelIds::kNoValue, FeatureId(kChoice), CXString(L"n"), CXString(L"N")),
+            InterpretedState());
         return std::make_unique<OptionCapability>(known, std::move(options), false);
     };
     onPage([&](HWND page, SheetRig&) {

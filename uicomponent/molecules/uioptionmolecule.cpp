@@ -40,9 +40,7 @@ bool UIOptionMolecule::Write(const ValueId& value) const
 
 std::unique_ptr<OptionCapability> UIOptionMolecule::ReadCapability() const
 {
-    return GetSite()
-        .featureServices.GetOptionFeatureRef(GetBoundFeature())
-        .GetOptionCapabilities();
+    return GetSite().featureServices.GetOptionFeatureRef(GetBoundFeature()).GetOptionCapabilities();
 }
 
 std::vector<UIOptionMolecule::Option>

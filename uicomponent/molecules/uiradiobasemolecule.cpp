@@ -95,7 +95,7 @@ long UIRadioBaseMolecule::ButtonWidth(long room) const
     const long columns = static_cast<long>(m_columns);
     const long share = (room - (columns - 1) * ColumnGap()) / columns;
     return m_kind == UIControlKind::RadioPush && m_widest ? std::min(share, m_widest + kPushMargin)
-                                                         : share;
+                                                          : share;
 }
 
 /// How many buttons of that width stand side by side.
@@ -150,8 +150,8 @@ void UIRadioBaseMolecule::FitTexts(const UITextRuler& ruler, long width)
         m_columns = m_choices.size() > kFewChoices
                         ? std::min<std::size_t>(2, ColumnsFor(room, m_widest + kCircle))
                         : 1;
-    const long textWidth = ButtonWidth(room) -
-                           (m_kind == UIControlKind::RadioPush ? kPushMargin : kCircle);
+    const long textWidth =
+        ButtonWidth(room) - (m_kind == UIControlKind::RadioPush ? kPushMargin : kCircle);
     for (Choice& choice : m_choices) {
         const long lines = ruler.LinesOf(choice.text, textWidth);
         choice.lines = m_kind == UIControlKind::Radio ? std::min(kMostLines, lines) : 1;
@@ -188,10 +188,9 @@ void UIRadioBaseMolecule::CreateControls(UIPageWindow& page)
             SIZE{width, HeightOf(choice)}, group | look);
         ShowText(choice);
     });
-    m_area = std::make_unique<UITextControl>(page.window, page.takeId(), services, page.font,
-                                             POINT{GetPosition().x, GetPosition().y},
-                                             SIZE{GetContentWidth(), kButtonHeight},
-                                             WS_GROUP | WS_DISABLED, false, nullptr);
+    m_area = std::make_unique<UITextControl>(
+        page.window, page.takeId(), services, page.font, POINT{GetPosition().x, GetPosition().y},
+        SIZE{GetContentWidth(), kButtonHeight}, WS_GROUP | WS_DISABLED, false, nullptr);
 }
 
 void UIRadioBaseMolecule::ShowText(Choice& choice)
