@@ -3,6 +3,7 @@
 #include "listoffeaturescapability.h"
 #include "rangecapability.h"
 #include "rangeofdimensioncapability.h"
+#include "stringcapability.h"
 
 #include <algorithm>
 #include <array>
@@ -245,6 +246,7 @@ std::unique_ptr<CapabilitiesNode> StateInterpreter::Capabilities(const FeatureNo
         return std::make_unique<ListOfFeaturesCapability>(*base, std::move(travel));
     }
     case FeatureKind::String:
+        return std::make_unique<StringCapability>(*base, description.maxLength);
     case FeatureKind::Boolean:
     case FeatureKind::Resolution:
     case FeatureKind::ListOfValues:

@@ -103,10 +103,18 @@ void UIManager::initializePartI(FeatureServices& featureServices, ProductStringL
     m_popupLauncher->setEventProcessor(m_eventProcessor.get());
     m_dataSource->setEventProcessor(m_eventProcessor.get());
     m_specialFeatureHandler->setEventProcessor(m_eventProcessor.get());
-    if (wantsPages)
-        m_tabManager = std::make_unique<UITabManager>(
-            *m_services, *m_messageManager, m_moduleInstance, featureServices, *m_context,
-            m_productData, *m_eventProcessor, m_mode, m_option);
+    if (!wantsPages)
+        return;
+    m_tabManager = std::make_unique<UITabManager>(*m_services, *m_messageManager, m_moduleInstance,
+                                                  featureServices, *m_context, m_productData,
+                                                  *m_eventProcessor, m_mode, m_option);
+    if (!m_personalSettings.IsEmpty())
+        m_tabManager->rememberLastPage(m_personalSettings);
+}
+
+void UIManager::setPersonalSettings(const CXString& registryPath)
+{
+    m_personalSettings = registryPath;
 }
 
 void UIManager::initializePartII(FeatureServices& featureServices)

@@ -8,6 +8,7 @@
 #include "featureservices.h"
 #include "isolationaware.h"
 #include "optionfeatureref.h"
+#include "productdata.h"
 #include "productstringloader.h"
 #include "throworvik.h"
 #include "trace.h"
@@ -19,6 +20,7 @@
 #include "uieventprocessor.h"
 #include "uimessagemanager.h"
 #include "uiservices.h"
+#include "uisheetguide.h"
 #include "uitab.h"
 
 namespace {
@@ -32,8 +34,13 @@ constexpr unsigned kWarningText = 35001;
 constexpr unsigned kWarningAdvice = 35002;
 
 // What the manager and the tabs handle themselves, besides what molecules want.
-constexpr UINT kOwnMessages[] = {WM_INITDIALOG, WM_PAINT, WM_NOTIFY, WM_DESTROY,
-                                 kFirstPaintMessage};
+constexpr UINT kOwnMessages[] = {WM_INITDIALOG,
+                                 WM_PAINT,
+                                 WM_NOTIFY,
+                                 WM_DESTROY,
+                                 kFirstPaintMessage,
+                                 UISheetGuide::kUpdateMessage,
+                                 UIConflictWalk::kMessage};
 
 [[noreturn]] void throwPageFailure(const UITab& tab)
 {
@@ -68,6 +75,7 @@ UITabManager::UITabManager(UIServices& services, UIMessageManager& messageManage
 {
     for (const UINT message : kOwnMessages)
         m_wanted.add(message);
+    m_guide = std::make_unique<UISheetGuide>(featureServices, context.strings, m_tabs);
 }
 
 UITabManager::~UITabManager()
@@ -183,6 +191,15 @@ void UITabManager::createPagesForCPSUI(const Descriptions& descriptions, HANDLE 
     }
 }
 
+void UITabManager::rememberLastPage(const CXString& path)
+{
+    const CXString printer = m_featureServices.GetFullListOfFeatures()
+                                 .GetOptionFeature(FeatureId(DataModelIds::kFeaturePrinterName))
+                                 .GetValue()
+                                 .GetDisplayString();
+    m_guide->rememberPage(path, printer.IsEmpty() ? m_productData.GetModelName() : printer, m_mode);
+}
+
 void UITabManager::buildTabs(const Descriptions&)
 {
     for (const auto& tab : m_tabs)
@@ -210,6 +227,8 @@ bool UITabManager::handlePageMessage(const _UIWindowsMessage& message)
 {
     // Controls are created while the page initialises, and marks at any time later.
     const IsolationAware::CallerContext callerContext(m_activationContext);
+    if (m_guide->handleMessage(message))
+        return true;
     switch (message.message) {
     case WM_INITDIALOG:
         return initializePage(message);

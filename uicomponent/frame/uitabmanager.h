@@ -12,12 +12,14 @@
 #include "uimessagemask.h"
 #include "uimode.h"
 
+class CXString;
 class FeatureServices;
 class ProductData;
 class UIContainerData;
 class UIEventProcessor;
 class UIMessageManager;
 class UIServices;
+class UISheetGuide;
 class UITab;
 struct UIContext;
 
@@ -61,6 +63,10 @@ public:
     /// Called when the data model has settled: what is on screen already is brought up to date.
     virtual void buildTabs(const Descriptions& descriptions);
 
+    /// From now on the sheet opens on the page that the person left it on: per printer and mode, in
+    /// the current user's hive. For before the first page. @param path  the key above the printers'
+    void rememberLastPage(const CXString& path);
+
     long getLargestWidth() const { return m_largestWidth; }   ///< dialog units
     long getLargestHeight() const { return m_largestHeight; } ///< dialog units
     const std::vector<std::unique_ptr<UITab>>& getTabs() const { return m_tabs; }
@@ -92,6 +98,7 @@ private:
     HANDLE m_cpsuiSheet = nullptr;
     UIComPropSheetCallback m_cpsuiCallback = nullptr;
     std::vector<std::unique_ptr<UITab>> m_tabs;
+    std::unique_ptr<UISheetGuide> m_guide; ///< goes before the tabs
     HINSTANCE m_moduleInstance;
     UIMessageManager& m_messageManager;
     FeatureServices& m_featureServices;

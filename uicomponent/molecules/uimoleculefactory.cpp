@@ -5,11 +5,16 @@
 #include "uicheckboxmolecule.h"
 #include "uicomboboxmolecule.h"
 #include "uicontainermolecule.h"
+#include "uidimensionspinmolecule.h"
+#include "uieditmolecule.h"
 #include "uigroupboxmolecule.h"
 #include "uimoleculedata.h"
 #include "uipickonemolecule.h"
 #include "uipickoneradiomolecule.h"
 #include "uiradiobuttonmolecule.h"
+#include "uirangeofintegermolecule.h"
+#include "uislidermolecule.h"
+#include "uispinmolecule.h"
 #include "uitextmolecule.h"
 
 namespace {
@@ -26,15 +31,20 @@ constexpr struct
     UIMoleculeKind kind;
     std::unique_ptr<UIMolecule> (*create)(const UIMoleculeData&, const UIMoleculeSite&);
 } kClasses[] = {
-    // kind                        class
-    { UIMoleculeKind::CheckBox,     make<UICheckBoxMolecule> },
-    { UIMoleculeKind::ComboBox,     make<UIComboBoxMolecule> },
-    { UIMoleculeKind::GroupBox,     make<UIGroupBoxMolecule> },
-    { UIMoleculeKind::Container,    make<UIContainerMolecule> },
-    { UIMoleculeKind::PickOne,      make<UIPickOneMolecule> },
-    { UIMoleculeKind::PickOneRadio, make<UIPickOneRadioMolecule> },
-    { UIMoleculeKind::RadioButtons, make<UIRadioButtonMolecule> },
-    { UIMoleculeKind::Text,         make<UITextMolecule> },
+    // kind                          class
+    { UIMoleculeKind::CheckBox,       make<UICheckBoxMolecule> },
+    { UIMoleculeKind::ComboBox,       make<UIComboBoxMolecule> },
+    { UIMoleculeKind::GroupBox,       make<UIGroupBoxMolecule> },
+    { UIMoleculeKind::Container,      make<UIContainerMolecule> },
+    { UIMoleculeKind::PickOne,        make<UIPickOneMolecule> },
+    { UIMoleculeKind::PickOneRadio,   make<UIPickOneRadioMolecule> },
+    { UIMoleculeKind::RadioButtons,   make<UIRadioButtonMolecule> },
+    { UIMoleculeKind::Spin,           make<UISpinMolecule> },
+    { UIMoleculeKind::Slider,         make<UISliderMolecule> },
+    { UIMoleculeKind::Edit,           make<UIEditMolecule> },
+    { UIMoleculeKind::RangeOfInteger, make<UIRangeOfIntegerMolecule> },
+    { UIMoleculeKind::Text,           make<UITextMolecule> },
+    { UIMoleculeKind::DimensionSpin,  make<UIDimensionSpinMolecule> },
 };
 // clang-format on
 

@@ -1,0 +1,137 @@
+#include "uidimensionspinmolecule.h"
+
+#include "dimensionfeatureref.h"
+#include "featureservices.h"
+#include "integerfeatureref.h"
+#include "numberranges.h"
+#include "optionfeatureref.h"
+#include "tables/productids.h"
+#include "uiservices.h"
+#include "uispincontroldata.h"
+#include "uistringnumbers.h"
+#include "uivaluewriter.h"
+
+namespace {
+
+std::int64_t countOf(int value, Dimension::UnitsEnum units)
+{
+    return Dimension(value, units).GetCount();
+}
+
+} // namespace
+
+UIDimensionSpinMolecule::~UIDimensionSpinMolecule() = default;
+
+void UIDimensionSpinMolecule::InitializeFromDescription()
+{
+    UISpinMolecule::InitializeFromDescription();
+    AddFurtherFeature(FeatureIdWithContext{FeatureId(o7::kMeasurementUnits)});
+}
+
+bool UIDimensionSpinMolecule::IsMetric() const
+{
+    ValueId units;
+    GetSite()
+        .featureServices.GetOptionFeatureRef(FeatureIdWithContext{FeatureId(o7::kMeasurementUnits)})
+        .GetValue(units, FeatureRef::kDoNotAssertIfUnsupported);
+    const auto value = units.GetValueEnum();
+    if (value == o7::kUnitsMillimetres || value == o7::kUnitsInches)
+        return value == o7::kUnitsMillimetres;
+    return GetSite().services.getRegionalSettings().metric;
+}
+
+std::optional<Dimension::UnitsEnum> UIDimensionSpinMolecule::StoredUnits() const
+{
+    const auto features = GetSite().featureServices.GetListOfFeaturesFor(GetBoundFeature());
+    return features.GetIntegerFeature(GetBoundFeature()).GetRangeCapabilities()->GetUnits();
+}
+
+UINumberRules UIDimensionSpinMolecule::MakeRules()
+{
+    const bool metric = IsMetric();
+    m_shownFor = {GetSite().services.getRegionalSettings().decimalSeparator, metric};
+    UINumberRules rules;
+    rules.isLength = true;
+    rules.units = metric ? Dimension::UnitsEnum::Millimetre : Dimension::UnitsEnum::Inch;
+    rules.decimalSeparator = m_shownFor.decimalSeparator;
+    unsigned unitLabel = 0;
+    if (const UISpinControlData* data = GetSpinData()) {
+        rules.digits = data->getDigits(metric);
+        rules.increment = data->getIncrement(metric);
+        unitLabel = data->getUnitLabel(metric);
+    }
+    rules.unitText =
+        LoadText(unitLabel ? unitLabel : metric ? O7STR_U_MILLIMETRE : O7STR_U_INCH);
+
+    const auto features = GetSite().featureServices.GetListOfFeaturesFor(GetBoundFeature());
+    if (const auto stored = StoredUnits()) {
+        rules.grid = countOf(1, *stored);
+        rules.ranges = o7::numberRanges(
+            *features.GetIntegerFeature(GetBoundFeature()).GetRangeCapabilities(), rules.grid);
+        return rules;
+    }
+    Dimension low;
+    Dimension high;
+    if (features.GetDimensionFeature(GetBoundFeature())
+            .GetRangeOfDimensionCapabilities()
+            ->GetRangeValues(low, high))
+        rules.ranges = {{low.GetCount(), high.GetCount()}};
+    return rules;
+}
+
+std::optional<std::int64_t> UIDimensionSpinMolecule::ReadNumber() const
+{
+    const auto features = GetSite().featureServices.GetListOfFeaturesFor(GetBoundFeature());
+    Dimension length;
+    if (features.GetDimensionFeature(GetBoundFeature())
+            .GetValue(length, FeatureRef::kDoNotAssertIfUnsupported) ||
+        features.GetIntegerFeature(GetBoundFeature())
+            .GetDimensionValue(length, FeatureRef::kDoNotAssertIfUnsupported))
+        return length.GetCount();
+    return std::nullopt;
+}
+
+bool UIDimensionSpinMolecule::WriteNumber(std::int64_t value)
+{
+    if (const auto stored = StoredUnits())
+        return UISpinMolecule::WriteNumber(value / countOf(1, *stored));
+    const auto units =
+        m_shownFor.metric ? Dimension::UnitsEnum::Millimetre : Dimension::UnitsEnum::Inch;
+    return GetSite().valueWriter.SetDimension(GetBoundFeature(),
+                                              Dimension::FromCount(value, units));
+}
+
+void UIDimensionSpinMolecule::FollowUnits()
+{
+    const UIRegionalSettings wanted{GetSite().services.getRegionalSettings().decimalSeparator,
+                                    IsMetric()};
+    if (!(wanted == m_shownFor))
+        RenewRules();
+}
+
+void UIDimensionSpinMolecule::LoadValue()
+{
+    FollowUnits();
+    UISpinMolecule::LoadValue();
+}
+
+bool UIDimensionSpinMolecule::HandleMessage(const _UIWindowsMessage& message)
+{
+    if (message.message == WM_SETTINGCHANGE) {
+        GetSite().services.setRegionalSettings(UIRegionalSettings::current());
+        FollowUnits();
+        return false; // the other lengths have to know as well
+    }
+    return UISpinMolecule::HandleMessage(message);
+}
+
+void UIDimensionSpinMolecule::CollectWantedMessages(UIMessageMask& mask) const
+{
+    UISpinMolecule::CollectWantedMessages(mask);
+    mask.add(WM_SETTINGCHANGE);
+}
+
+CXString UIDimensionSpinMolecule::GetObserverClassNameHeirarchy() const
+{
+    return CXString(L"UIDimensionSpinMolecule:UISpinMolecule:UIFeatureMolecule:UIMolecule");
+}

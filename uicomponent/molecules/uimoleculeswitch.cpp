@@ -1,0 +1,118 @@
+#include "uimoleculeswitch.h"
+
+#include "capabilitiesnode.h"
+#include "featureref.h"
+#include "featureservices.h"
+#include "transactionref.h"
+#include "uicheckboxcontrol.h"
+#include "uimoleculedump.h"
+#include "uitextruler.h"
+#include "uivaluewriter.h"
+
+namespace {
+
+constexpr long kMarkWidth = 12; // dialog units; the check mark and its gap
+
+} // namespace
+
+UIMoleculeSwitch::UIMoleculeSwitch(const UIMoleculeSite& site) : m_site(site)
+{
+}
+
+UIMoleculeSwitch::~UIMoleculeSwitch() = default;
+
+void UIMoleculeSwitch::Set(const FeatureIdWithContext& feature, const CXString& text)
+{
+    m_feature = feature;
+    m_text = text;
+    m_exists = true;
+}
+
+void UIMoleculeSwitch::SetMoleculeFeature(const FeatureIdWithContext& feature)
+{
+    m_ownFeature = !(m_feature == feature);
+}
+
+long UIMoleculeSwitch::GetWantedWidth(const UITextRuler& ruler) const
+{
+    return m_exists ? ruler.WidthOf(m_text) + kMarkWidth : 0;
+}
+
+void UIMoleculeSwitch::Create(UIPageWindow& page, POINT place, long width)
+{
+    if (!m_exists)
+        return;
+    m_check = std::make_unique<UICheckBoxControl>(page.window, page.takeId(), m_site.services,
+                                                  page.font, place, SIZE{width, kHeight}, false);
+    SetWindowTextW(m_check->getHwnd(), m_text.c_str());
+}
+
+void UIMoleculeSwitch::Move(POINT delta)
+{
+    if (m_check)
+        m_check->move(delta, false);
+}
+
+void UIMoleculeSwitch::Show(bool shown)
+{
+    if (m_check)
+        m_check->setShow(shown);
+}
+
+void UIMoleculeSwitch::Enable(bool enabled)
+{
+    if (m_check)
+        m_check->setEnable(enabled);
+}
+
+bool UIMoleculeSwitch::Read() const
+{
+    if (!m_ownFeature)
+        return m_site.featureServices.GetFeatureRef(m_feature)->IsSpecified();
+    bool on = false;
+    m_site.featureServices.GetListOfFeaturesFor(m_feature)
+        .GetBooleanFeature(m_feature)
+        .GetValue(on, FeatureRef::kDoNotAssertIfUnsupported);
+    return on;
+}
+
+void UIMoleculeSwitch::Load()
+{
+    if (!m_exists)
+        return;
+    m_on = Read();
+    if (m_check)
+        m_check->setCheck(m_on ? BST_CHECKED : BST_UNCHECKED);
+}
+
+bool UIMoleculeSwitch::HandleMessage(const _UIWindowsMessage& message)
+{
+    if (!m_check || message.message != WM_COMMAND || HIWORD(message.wParam) != BN_CLICKED ||
+        reinterpret_cast<HWND>(message.lParam) != m_check->getHwnd())
+        return false;
+    const bool on = m_check->getCheck() == BST_CHECKED;
+    const auto transaction = m_site.featureServices.OpenTransaction();
+    if (m_ownFeature)
+        m_site.valueWriter.SetBoolean(m_feature, on);
+    else
+        m_site.valueWriter.SetIsSpecified(m_feature, on);
+    Load(); // the model may have refused the write
+    transaction->Close(true);
+    return true;
+}
+
+bool UIMoleculeSwitch::Focus() const
+{
+    const HWND check = m_check ? m_check->getHwnd() : nullptr;
+    if (!check || !IsWindowEnabled(check))
+        return false;
+    SendMessageW(GetParent(check), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(check), TRUE);
+    return GetFocus() == check;
+}
+
+void UIMoleculeSwitch::Dump() const
+{
+    if (m_exists)
+        o7::dumpControl(L"check", m_text, CXString(m_on ? L"checked" : L"unchecked"), CXString(),
+                        CXString());
+}

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+#include "uinumberrules.h"
+#include "uitypedfield.h"
+#include "uiunitnames.h"
+
+class UISpinControl;
+class UITextControl;
+
+/// A box for a number or a length, with or without arrows, and the text of its unit behind it. The
+/// value is a whole number or, for a length, a count of Dimension; see UINumberRules.
+class UINumberField : public UITypedField
+{
+public:
+    UINumberField();
+    ~UINumberField() override;
+
+    /// Writes a value into the model and shows what was read back.
+    /// @return false when the model did not take it.
+    using Writer = std::function<bool(std::int64_t)>;
+    void SetWriter(Writer writer) { m_write = std::move(writer); }
+    /// New rules show the value anew; before the box exists they decide on its width.
+    void SetRules(const UINumberRules& rules);
+    const UINumberRules& GetRules() const { return m_rules; }
+
+    /// @param width  room in dialog units; the box takes what its values need of it
+    void Create(UIPageWindow& page, const Surroundings& surroundings, POINT location, long width,
+                bool hasArrows);
+    /// The room that box and arrows want, in dialog units.
+    long GetWantedWidth(bool hasArrows) const;
+    void Move(POINT delta) override;
+    void Enable(bool enabled) override;
+    void Show(bool shown) override;
+    bool HandleMessage(const _UIWindowsMessage& message) override;
+
+    /// Shows the model's value; nothing shows an empty box. A text that was typed for the same
+    /// value stays as it is.
+    void ShowValue(std::optional<std::int64_t> value);
+    std::optional<std::int64_t> GetValue() const { return m_value; }
+    /// What the typed text comes to, whether the model has it or not; nothing when it is no allowed
+    /// value.
+    std::optional<std::int64_t> GetTypedValue() const;
+    /// A line with the allowed values.
+    void DumpRange() const;
+
+    static constexpr long kHeight = 14; ///< dialog units
+
+protected:
+    Verdict Take(const CXString& text) override;
+    CXString PresentText() const override;
+    CXString PresentTextInSentence() const override;
+    /// The allowed value that the text stands for, if it does.
+    std::optional<std::int64_t> ValueOf(const CXString& text) const;
+
+private:
+    UINumberRules::Reading Read(const CXString& text) const;
+    CXString FaultSentence(UINumberRules::Fault fault, const CXString& text) const;
+    CXString RangeText() const;
+    void StepBy(int steps);
+    void PlaceArrows();
+    const UIUnitNames& Names() const;
+
+    UINumberRules m_rules;
+    Writer m_write;
+    std::unique_ptr<UISpinControl> m_arrows;
+    std::unique_ptr<UITextControl> m_unit;
+    std::optional<std::int64_t> m_value;
+    std::optional<std::int64_t> m_origin; ///< what the box showed before the person typed
+    mutable std::optional<UIUnitNames> m_names;
+};

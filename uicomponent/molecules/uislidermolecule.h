@@ -1,0 +1,69 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+#include "uifeaturemolecule.h"
+#include "uimoleculelabel.h"
+#include "uimoleculeswitch.h"
+#include "uinumberrules.h"
+
+class UISliderControl;
+class UISliderControlData;
+class UITextControl;
+
+/// A slider over a whole number, with its present value behind it, texts under its ends, and a
+/// label or a check box in its place. While the thumb is dragged the value is shown; it is written
+/// when the thumb is let go.
+class UISliderMolecule : public UIFeatureMolecule
+{
+public:
+    UISliderMolecule(const UIMoleculeData& data, const UIMoleculeSite& site);
+    ~UISliderMolecule() override;
+
+    bool HandleMessage(const _UIWindowsMessage& message) override;
+    void SetPosition(POINT position) override;
+    void CreateControls(UIPageWindow& page) override;
+    void InitializeFromDescription() override;
+    void CollectWantedMessages(UIMessageMask& mask) const override;
+    void DumpControls() const override;
+    void Show(bool shown) override;
+    HWND InfoAnchor() const override;
+    bool Focus() override;
+    void FitTexts(const UITextRuler& ruler, long width) override;
+    long GetWantedLabelWidth(const UITextRuler& ruler) const override;
+    CXString GetObserverClassNameHeirarchy() const override;
+
+protected:
+    void LoadValue() override;
+    void ShowState(const InterpretedState& state, bool enabled) override;
+
+private:
+    long BesideWidth() const;
+    long HeightAbove() const;
+    long EndsHeight() const;
+    void UpdateMinimumHeight();
+    void CreateSlider(UIPageWindow& page, POINT place, long width);
+    void CreateEnds(UIPageWindow& page, POINT place, long width);
+    std::unique_ptr<UITextControl> CreateText(UIPageWindow& page, POINT place, long width,
+                                              DWORD style) const;
+    std::optional<int> ReadNumber() const;
+    void ReadRules();
+    void Slid(int code);
+    void ShowNumber(std::optional<int> value);
+    void ShowNumberText(const CXString& text);
+    void EnableSlider(bool enabled);
+    template <class Do> void ForTexts(Do&& act) const;
+
+    UIMoleculeLabel m_label;
+    UIMoleculeSwitch m_switch;
+    UINumberRules m_rules;
+    const UISliderControlData* m_sliderData = nullptr;
+    std::unique_ptr<UISliderControl> m_slider;
+    std::unique_ptr<UITextControl> m_number;
+    std::unique_ptr<UITextControl> m_lowEnd;
+    std::unique_ptr<UITextControl> m_highEnd;
+    std::optional<int> m_value;
+    bool m_cleared = false;
+};

@@ -1,0 +1,227 @@
+#include "uispinmolecule.h"
+
+#include "featureservices.h"
+#include "integerfeatureref.h"
+#include "numberranges.h"
+#include "transactionref.h"
+#include "uicheckcontroldata.h"
+#include "uidump.h"
+#include "uimoleculedata.h"
+#include "uimoleculedump.h"
+#include "uiservices.h"
+#include "uispincontroldata.h"
+#include "uivaluewriter.h"
+
+namespace {
+
+constexpr long kSwitchGap = 3;  // dialog units; between the check box and the field under it
+constexpr long kSwitchDrop = 2; // of the check box beside a field
+
+} // namespace
+
+UISpinMolecule::UISpinMolecule(const UIMoleculeData& data, const UIMoleculeSite& site)
+    : UIFeatureMolecule(data, site), m_switch(GetSite())
+{
+    m_field.SetWriter([this](std::int64_t value) { return WriteAndReadBack(value); });
+}
+
+UISpinMolecule::~UISpinMolecule() = default;
+
+void UISpinMolecule::InitializeFromDescription()
+{
+    for (const auto& control : GetData().getControls()) {
+        const FeatureIdWithContext feature{FeatureId(control->getFeature())};
+        switch (control->getKind()) {
+        case UIControlKind::Spin:
+        case UIControlKind::DimensionSpin:
+            m_spinData = static_cast<const UISpinControlData*>(control.get());
+            SetBoundFeature(feature);
+            break;
+        case UIControlKind::Check:
+            m_switch.Set(feature, LoadText(control->getLabel()));
+            break;
+        case UIControlKind::Text:
+            m_label.Set(LoadText(control->getLabel()), GetLabelWidth());
+            break;
+        default:
+            break;
+        }
+    }
+    m_switch.SetMoleculeFeature(GetBoundFeature());
+    if (m_switch.HasOwnFeature())
+        AddFurtherFeature(m_switch.GetFeature());
+    UpdateMinimumHeight();
+}
+
+// The check box takes the place of a label; beside a label it has a line of its own.
+long UISpinMolecule::BesideWidth() const
+{
+    return m_label.IsEmpty() && m_switch.Exists() ? GetLabelWidth() : m_label.GetBesideWidth();
+}
+
+long UISpinMolecule::HeightAbove() const
+{
+    const bool ownLine = m_switch.Exists() && (!m_label.IsEmpty() || GetLabelWidth() == 0);
+    return m_label.GetHeightAbove() + (ownLine ? UIMoleculeSwitch::kHeight + kSwitchGap : 0);
+}
+
+void UISpinMolecule::UpdateMinimumHeight()
+{
+    SetMinimumExtent({0, HeightAbove() + UINumberField::kHeight});
+}
+
+void UISpinMolecule::FitTexts(const UITextRuler& ruler, long width)
+{
+    m_label.Fit(ruler, width - kInfoLane);
+    UpdateMinimumHeight();
+}
+
+long UISpinMolecule::GetWantedLabelWidth(const UITextRuler& ruler) const
+{
+    return m_label.IsEmpty() ? m_switch.GetWantedWidth(ruler) : m_label.GetWantedWidth(ruler);
+}
+
+void UISpinMolecule::CreateControls(UIPageWindow& page)
+{
+    SetPage(page);
+    const POINT place = GetPosition();
+    const long beside = BesideWidth();
+    const bool switchBeside = beside != 0 && m_label.IsEmpty();
+    const long top = place.y + GetMinimumHeight() - UINumberField::kHeight;
+    m_switch.Create(page, {place.x, place.y + (switchBeside ? kSwitchDrop : 0)},
+                    switchBeside ? beside : GetContentWidth());
+    m_label.Create(page, GetSite().services, {place.x, top - m_label.GetHeightAbove()},
+                   GetContentWidth());
+    m_field.SetRules(MakeRules());
+    const CXString& name = m_label.IsEmpty() ? m_switch.GetText() : m_label.GetText();
+    m_field.Create(page, {GetSite(), GetToolTips(), GetBoundFeature(), name},
+                   {place.x + beside, top}, GetContentWidth() - beside, true);
+}
+
+void UISpinMolecule::SetPosition(POINT position)
+{
+    const POINT delta{position.x - GetPosition().x, position.y - GetPosition().y};
+    UIFeatureMolecule::SetPosition(position);
+    m_label.Move(delta);
+    m_switch.Move(delta);
+    m_field.Move(delta);
+}
+
+UINumberRules UISpinMolecule::MakeRules()
+{
+    UINumberRules rules;
+    rules.decimalSeparator = GetSite().services.getRegionalSettings().decimalSeparator;
+    const auto feature = GetSite()
+                             .featureServices.GetListOfFeaturesFor(GetBoundFeature())
+                             .GetIntegerFeature(GetBoundFeature());
+    rules.ranges = o7::numberRanges(*feature.GetRangeCapabilities());
+    if (m_spinData) {
+        rules.increment = m_spinData->getIncrement(true);
+        rules.unitText = LoadText(m_spinData->getUnitLabel(true));
+    }
+    return rules;
+}
+
+void UISpinMolecule::RenewRules()
+{
+    m_field.SetRules(MakeRules());
+}
+
+std::optional<std::int64_t> UISpinMolecule::ReadNumber() const
+{
+    int value = 0;
+    const auto feature = GetSite()
+                             .featureServices.GetListOfFeaturesFor(GetBoundFeature())
+                             .GetIntegerFeature(GetBoundFeature());
+    if (!feature.GetValue(value, FeatureRef::kDoNotAssertIfUnsupported))
+        return std::nullopt;
+    return value;
+}
+
+bool UISpinMolecule::WriteNumber(std::int64_t value)
+{
+    return GetSite().valueWriter.SetInteger(GetBoundFeature(), static_cast<int>(value));
+}
+
+bool UISpinMolecule::WriteAndReadBack(std::int64_t value)
+{
+    const auto transaction = GetSite().featureServices.OpenTransaction();
+    const bool taken = WriteNumber(value);
+    if (taken)
+        LoadValue();
+    transaction->Close(true);
+    return taken;
+}
+
+void UISpinMolecule::LoadValue()
+{
+    m_switch.Load();
+    m_field.ShowValue(m_cleared ? std::nullopt : ReadNumber());
+}
+
+void UISpinMolecule::ShowState(const InterpretedState& state, bool enabled)
+{
+    m_cleared = !enabled && state.IsCleared();
+    m_label.Enable(enabled);
+    m_switch.Enable(enabled);
+    LoadValue();
+    m_field.Enable(enabled && m_switch.IsOn());
+}
+
+bool UISpinMolecule::HandleMessage(const _UIWindowsMessage& message)
+{
+    if (m_switch.HandleMessage(message)) {
+        LoadValue();
+        m_field.Enable(IsEnabled() && m_switch.IsOn());
+        return true;
+    }
+    return m_field.HandleMessage(message) || ProcessCommonMessage(message);
+}
+
+void UISpinMolecule::CollectWantedMessages(UIMessageMask& mask) const
+{
+    UIFeatureMolecule::CollectWantedMessages(mask);
+    UITypedField::CollectWantedMessages(mask);
+}
+
+bool UISpinMolecule::Validate()
+{
+    return m_field.Refuse();
+}
+
+bool UISpinMolecule::HasPendingInput() const
+{
+    return m_field.IsPending();
+}
+
+bool UISpinMolecule::Focus()
+{
+    return UIFeatureMolecule::Focus() || m_switch.Focus();
+}
+
+void UISpinMolecule::Show(bool shown)
+{
+    UIFeatureMolecule::Show(shown);
+    m_label.Show(shown);
+    m_switch.Show(shown);
+    m_field.Show(shown);
+}
+
+HWND UISpinMolecule::InfoAnchor() const
+{
+    return m_field.GetHwnd();
+}
+
+void UISpinMolecule::DumpControls() const
+{
+    m_switch.Dump();
+    o7::dumpControl(L"spin", m_label.IsEmpty() ? m_switch.GetText() : m_label.GetText(),
+                    m_field.GetText(), StateText(), GetInfoText());
+    const UIDump::Level inner;
+    m_field.DumpRange();
+}
+
+CXString UISpinMolecule::GetObserverClassNameHeirarchy() const
+{
+    return CXString(L"UISpinMolecule:UIFeatureMolecule:UIMolecule");
+}

@@ -1,0 +1,221 @@
+#include "uitypedfield.h"
+
+#include <prsht.h>
+
+#include <utility>
+
+#include "productstringloader.h"
+#include "uieditcontrol.h"
+#include "uistringnumbers.h"
+#include "uitooltips.h"
+#include "windowtext.h"
+
+namespace {
+
+constexpr UINT kTipMilliseconds = 8000;
+
+// Controls of the page itself. What stands below these numbers (OK, Cancel and Help of a dialog)
+// judges the page as a whole.
+bool isControlOf(HWND page, HWND window)
+{
+    return window && GetParent(window) == page &&
+           GetDlgCtrlID(window) >= UIPageWindow::kFirstId;
+}
+
+} // namespace
+
+UITypedField::UITypedField() = default;
+
+UITypedField::~UITypedField()
+{
+    HideTip();
+}
+
+void UITypedField::CreateBox(UIPageWindow& page, const Surroundings& surroundings, const Box& box)
+{
+    m_page = page.window;
+    m_site = &surroundings.site;
+    m_toolTips = surroundings.toolTips;
+    m_feature = surroundings.feature;
+    m_edit = std::make_unique<UIEditControl>(page.window, page.takeId(), m_site->services,
+                                             page.font, box.location, box.size,
+                                             box.style | ES_AUTOHSCROLL, true, box.textLimit);
+    m_edit->setAccessibleName(o7::spokenName(surroundings.label));
+}
+
+void UITypedField::Move(POINT delta)
+{
+    if (m_edit)
+        m_edit->move(delta, false);
+}
+
+void UITypedField::Enable(bool enabled)
+{
+    if (!m_edit)
+        return;
+    if (!enabled)
+        DropPending();
+    m_edit->setEnable(enabled);
+}
+
+void UITypedField::SetReadOnly(bool readOnly)
+{
+    const bool is = m_edit && GetWindowLongPtrW(m_edit->getHwnd(), GWL_STYLE) & ES_READONLY;
+    if (m_edit && is != readOnly)
+        SendMessageW(m_edit->getHwnd(), EM_SETREADONLY, readOnly, 0);
+}
+
+void UITypedField::Show(bool shown)
+{
+    if (!shown)
+        HideTip();
+    if (m_edit)
+        m_edit->setShow(shown);
+}
+
+HWND UITypedField::GetHwnd() const
+{
+    return m_edit ? m_edit->getHwnd() : nullptr;
+}
+
+CXString UITypedField::GetText() const
+{
+    return m_edit ? m_edit->getText() : CXString();
+}
+
+CXString UITypedField::String(unsigned number) const
+{
+    return m_site->strings.LoadStringW(number);
+}
+
+void UITypedField::CollectWantedMessages(UIMessageMask& mask)
+{
+    mask.add(WM_TIMER); // for the tips
+}
+
+bool UITypedField::HandleMessage(const _UIWindowsMessage& message)
+{
+    if (!m_edit)
+        return false;
+    if (message.message == WM_TIMER && m_tipShown &&
+        message.wParam == static_cast<WPARAM>(m_edit->getId())) {
+        HideTip();
+        return true;
+    }
+    if (message.message != WM_COMMAND || reinterpret_cast<HWND>(message.lParam) != GetHwnd())
+        return false;
+    switch (HIWORD(message.wParam)) {
+    case EN_CHANGE:
+        if (!m_filling)
+            Typed();
+        return true;
+    case EN_KILLFOCUS:
+        Left(GetFocus());
+        return true;
+    default:
+        return false;
+    }
+}
+
+void UITypedField::Typed()
+{
+    HideTip();
+    Retake();
+}
+
+void UITypedField::Retake()
+{
+    m_verdict = Take(GetText());
+    m_pending = !m_verdict.taken;
+}
+
+void UITypedField::Left(HWND next)
+{
+    if (!isControlOf(m_page, next) || (m_pending && m_verdict.waits && IsSibling(next)))
+        return;
+    Settle();
+}
+
+void UITypedField::Settle()
+{
+    if (!m_pending) {
+        ShowText(PresentText());
+        return;
+    }
+    CXString said = m_verdict.fault;
+    const bool corrected = !m_verdict.correction.IsEmpty() && Take(m_verdict.correction).taken;
+    DropPending();
+    said += Consequence(corrected ? O7STR_M_CHANGED_TO : O7STR_M_VALUE_STAYS,
+                        PresentTextInSentence());
+    ShowTip(said);
+}
+
+void UITypedField::DropPending()
+{
+    HideTip();
+    m_pending = false;
+    ShowText(PresentText());
+}
+
+CXString UITypedField::Consequence(unsigned number, const CXString& value) const
+{
+    return value.IsEmpty() ? CXString() : L"\n" + CXString::Formatted(String(number).c_str(),
+                                                                      value.c_str());
+}
+
+bool UITypedField::Refuse()
+{
+    if (!m_pending || !m_edit)
+        return true;
+    BringPageToFront();
+    const CXString text =
+        m_verdict.fault + Consequence(O7STR_M_VALUE_STAYS, PresentTextInSentence());
+    MessageBoxW(
+        GetAncestor(m_page, GA_ROOT), text.c_str(),
+        m_site->strings.GetStringForFeature(m_feature.GetFeatureId().GetFeatureEnum()).c_str(),
+        MB_OK | MB_ICONWARNING);
+    SendMessageW(m_page, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(GetHwnd()), TRUE);
+    m_edit->selectAll();
+    return false;
+}
+
+// Every page of a sheet is asked on Apply, whichever is in front. A dialog's one always is.
+void UITypedField::BringPageToFront() const
+{
+    if (IsWindowVisible(m_page))
+        return;
+    const HWND sheet = GetParent(m_page);
+    const LRESULT index =
+        SendMessageW(sheet, PSM_HWNDTOINDEX, reinterpret_cast<WPARAM>(m_page), 0);
+    if (index >= 0)
+        SendMessageW(sheet, PSM_SETCURSEL, static_cast<WPARAM>(index), 0);
+}
+
+void UITypedField::ShowText(const CXString& text)
+{
+    if (!m_edit)
+        return;
+    const bool wasFilling = std::exchange(m_filling, true);
+    m_edit->setText(text);
+    m_filling = wasFilling;
+}
+
+void UITypedField::ShowTip(const CXString& text)
+{
+    if (!m_toolTips || !m_edit || !IsWindowVisible(GetHwnd()))
+        return;
+    RECT place{};
+    GetWindowRect(GetHwnd(), &place);
+    m_toolTips->showBeside(GetHwnd(), place, text);
+    NotifyWinEvent(EVENT_SYSTEM_ALERT, m_toolTips->getHwnd(), OBJID_CLIENT, CHILDID_SELF);
+    m_tipShown = SetTimer(m_page, static_cast<UINT_PTR>(m_edit->getId()), kTipMilliseconds,
+                          nullptr) != 0;
+}
+
+void UITypedField::HideTip()
+{
+    if (!std::exchange(m_tipShown, false))
+        return;
+    KillTimer(m_page, static_cast<UINT_PTR>(m_edit->getId()));
+    m_toolTips->hidePlaced(GetHwnd());
+}
