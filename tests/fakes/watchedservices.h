@@ -82,20 +82,22 @@ public:
 
     /// "open write odrv-choice=b commit ", and so on, since it was emptied.
     std::string log;
+    /// Registrations for the watched feature that have not been taken back.
     std::size_t observers() const { return m_observers.size(); }
     WatchedNode& node() { return *m_node; }
 
     void RegisterObserver(IObserver& observer, SettingsInstanceId instance,
                           const FeatureIdWithContext& feature, unsigned int kind) override
     {
-        m_observers.insert(keyOf(observer, instance, feature, kind));
+        if (isWatched(feature))
+            m_observers.insert({&observer, instance.GetSettingsEnum(), kind});
         m_model.RegisterObserver(observer, instance, feature, kind);
     }
     void UnregisterObserver(IObserver& observer, SettingsInstanceId instance,
                             const FeatureIdWithContext& feature, unsigned int kind) override
     {
-        const auto found = m_observers.find(keyOf(observer, instance, feature, kind));
-        if (found != m_observers.end())
+        const auto found = m_observers.find({&observer, instance.GetSettingsEnum(), kind});
+        if (isWatched(feature) && found != m_observers.end())
             m_observers.erase(found);
         m_model.UnregisterObserver(observer, instance, feature, kind);
     }
@@ -185,12 +187,7 @@ private:
         std::string& m_log;
     };
 
-    using Key = std::tuple<const IObserver*, int, std::string, unsigned int>;
-    static Key keyOf(const IObserver& observer, SettingsInstanceId instance,
-                     const FeatureIdWithContext& feature, unsigned int kind)
-    {
-        return {&observer, instance.GetSettingsEnum(), feature.Dump(false).ToUtf8(), kind};
-    }
+    using Key = std::tuple<const IObserver*, int, unsigned int>;
     bool isWatched(const FeatureIdWithContext& feature) const
     {
         return feature.GetFeatureId().GetFeatureEnum() == m_watched.GetFeatureEnum();

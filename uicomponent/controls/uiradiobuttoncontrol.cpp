@@ -1,16 +1,21 @@
 #include "uiradiobuttoncontrol.h"
 
+#include "buttonpicture.h"
 #include "checkstate.h"
 #include "cxstring.h"
+#include "dialogconversion.h"
+#include "isolationaware.h"
 #include "windowtext.h"
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace {
 
 constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | BS_RADIOBUTTON;
 static_assert(kStyle == 0x50000004);
+constexpr SIZE kPictureMargin{4, 4}; // dialog units that a picture is smaller by, each way
 
 bool hasStyle(HWND window, LONG_PTR bit)
 {
@@ -87,12 +92,44 @@ void UIRadioButtonControl::setCheck(int state)
     }
     const bool wasTabStop = hasStyle(getHwnd(), WS_TABSTOP);
     o7::setCheckState(getHwnd(), state);
+    if (m_checkedPicture) {
+        showPicture();
+    }
     if (state == BST_CHECKED) {
         claimTabStop(getHwnd());
     } else {
         // Windows takes the stop away with the check; a group without any could not be reached.
         giveTabStop(getHwnd(), wasTabStop);
     }
+}
+
+void UIRadioButtonControl::setPictures(int picture, int checkedPicture)
+{
+    const SIZE margin = getConversion().dialogUnitsToPixels(kPictureMargin);
+    const SIZE whole = getDimensionInPixels();
+    const SIZE area{whole.cx - margin.cx, whole.cy - margin.cy};
+    const HINSTANCE module = IsolationAware::moduleInstance();
+    auto loaded = o7::loadButtonPicture(module, picture, area);
+    if (!loaded) {
+        return;
+    }
+    auto checked = o7::loadButtonPicture(module, checkedPicture, area);
+    ::SetWindowLongPtrW(getHwnd(), GWL_STYLE,
+                        ::GetWindowLongPtrW(getHwnd(), GWL_STYLE) | LONG_PTR{BS_ICON});
+    // The window shows the new ones before the old ones go.
+    std::swap(m_picture, loaded);
+    std::swap(m_checkedPicture, checked);
+    showPicture();
+}
+
+void UIRadioButtonControl::showPicture() const
+{
+    if (!m_picture) {
+        return;
+    }
+    const bool isChecked = getCheck() == BST_CHECKED && m_checkedPicture;
+    ::SendMessageW(getHwnd(), BM_SETIMAGE, IMAGE_ICON,
+                   reinterpret_cast<LPARAM>((isChecked ? m_checkedPicture : m_picture).get()));
 }
 
 void UIRadioButtonControl::setTabStop(bool stops)
