@@ -4,6 +4,8 @@
 
 #include <windows.h>
 
+#include <commctrl.h>
+
 #include <array>
 #include <string>
 
@@ -12,11 +14,13 @@
 #include "input.h"
 #include "itemrecord.h"
 #include "productstringloader.h"
+#include "resourceguard.h"
 #include "sheetrig.h"
 #include "uidata.h"
 #include "uidump.h"
 #include "uifixture.h"
 #include "uirecords.h"
+#include "uiresourceids.h"
 #include "uitab.h"
 #include "uitabmanager.h"
 #include "watchedservices.h"
@@ -69,7 +73,8 @@ public:
         constexpr std::pair<unsigned, const wchar_t*> kNames[] = {{kValues + 5001, L"U"},
                                                                   {kValues + 6010, L"A"},
                                                                   {kValues + 6011, L"B"},
-                                                                  {kValues + 6012, L"C"}};
+                                                                  {kValues + 6012, L"C"},
+                                                                  {31000, L"&Heading:"}};
         for (const auto& [number, name] : kNames)
             if (number == id)
                 return CXString(name);
@@ -92,13 +97,24 @@ constexpr UIControlRecord kRadio = {
 // The product does not have 6019.
 constexpr UIControlRecord kRadios[] = {kRadio<5001>, kRadio<6010>, kRadio<6011>, kRadio<6019>,
                                        kRadio<6012>};
+template <int Value, int Picture>
+constexpr UIRadioRecord kPictureOf{.value = static_cast<DataModelIds::tagValueEnum>(Value),
+                                   .image = Picture,
+                                   .selectedImage = Picture + 1};
+template <int Value, int Picture>
+constexpr UIControlRecord kPicture = {
+    .kind = UIControlKind::RadioImage, .feature = kChoice, .extra = &kPictureOf<Value, Picture>};
+constexpr UIControlRecord kPictures[] = {
+    kPicture<5001, O7_BITMAP_ADD>, kPicture<6010, O7_BITMAP_REMOVE>,
+    kPicture<6011, O7_BITMAP_MOVE_UP>, kPicture<6012, O7_BITMAP_MOVE_DOWN>};
 constexpr UIMoleculeRecord kLeft[] = {{UIMoleculeKind::ComboBox, kCombo},
                                       {UIMoleculeKind::ComboBox, kShortCombo},
                                       {UIMoleculeKind::PickOne, kList}};
 constexpr UIMoleculeRecord kRight[] = {{UIMoleculeKind::PickOneRadio, kPickRadio},
-                                       {UIMoleculeKind::RadioButtons, kRadios}};
+                                       {UIMoleculeKind::RadioButtons, kRadios},
+                                       {UIMoleculeKind::RadioButtons, kPictures}};
 constexpr UIColumnRecord kColumns[] = {{7, 140, 0, kLeft}, {155, 140, 0, kRight}};
-constexpr UIContainerRecord kPages[] = {{1, 31001, 302, 180, kColumns}};
+constexpr UIContainerRecord kPages[] = {{1, 31001, 302, 200, kColumns}};
 constexpr UIRootRecord kRoot = {DataModelIds::kValueFamily8430, UIMode::PrintingPreferences, 0,
                                 kPages};
 
@@ -109,6 +125,7 @@ enum Kind
     List,
     PickRadio,
     Radio,
+    Picture,
     kKinds
 };
 
@@ -201,6 +218,33 @@ void choose(HWND page, int kind, char letter)
     }
 }
 
+/// What the page's tool tip says over the area of a control; empty for nothing.
+std::wstring areaTipOf(HWND page, HWND control)
+{
+    struct Search
+    {
+        TTTOOLINFOW tool;
+        std::array<wchar_t, 256> text;
+    } search{};
+    search.tool.cbSize = sizeof search.tool;
+    search.tool.hwnd = page;
+    search.tool.uId = reinterpret_cast<UINT_PTR>(control) | 1; // not the tip of the window itself
+    search.tool.lpszText = search.text.data();
+    EnumThreadWindows(
+        GetCurrentThreadId(),
+        [](HWND window, LPARAM parameter) -> BOOL {
+            wchar_t name[32]{};
+            GetClassNameW(window, name, 32);
+            if (std::wstring_view(name) == TOOLTIPS_CLASSW &&
+                !reinterpret_cast<Search*>(parameter)->text[0])
+                SendMessageW(window, TTM_GETTEXTW, 256,
+                             reinterpret_cast<LPARAM>(&reinterpret_cast<Search*>(parameter)->tool));
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    return search.text.data();
+}
+
 class ChoicesTest : public ::testing::Test
 {
 protected:
@@ -228,6 +272,19 @@ protected:
     {
         for (int kind = Combo; kind < kKinds; ++kind)
             EXPECT_EQ(seen(page, kind), wanted) << when << ", kind " << kind;
+    }
+    /// A button that cannot be pressed says why to the mouse. Pictures say what they mean, too.
+    static void expectTips(HWND page)
+    {
+        for (int kind = PickRadio; kind < kKinds; ++kind)
+            for (const HWND button : windowsOf(page, kind)) {
+                if (!IsWindowVisible(button))
+                    continue;
+                const std::wstring tip = areaTipOf(page, button);
+                EXPECT_EQ(tip.empty(), IsWindowEnabled(button) != FALSE) << kind;
+                EXPECT_TRUE(tip.empty() || kind != Picture ||
+                            tip.starts_with(windowText(button).c_str()));
+            }
     }
     std::string dumped(SheetRig& rig) const
     {
@@ -333,6 +390,7 @@ TEST_F(ChoicesTest, EveryStateIsShownAndToldAndGoesAwayAgain)
             const std::string snapshot = dumped(rig);
             EXPECT_NE(snapshot.find(row.dump), std::string::npos) << snapshot;
             EXPECT_EQ(m_services->log, "") << "showing a state wrote";
+            expectTips(page);
             // Not even the choice of another option brings back what was removed or hidden.
             if (row.choice != 6010) {
                 set(kChoice, 6010);
@@ -367,6 +425,25 @@ TEST_F(ChoicesTest, TheEntryForNoValueWritesNothing)
     });
 }
 
+TEST_F(ChoicesTest, APictureChangesWithTheChoiceAndNothingIsLeftBehind)
+{
+    const auto pictureOf = [](HWND button) {
+        return SendMessageW(button, BM_GETIMAGE, IMAGE_ICON, 0);
+    };
+    onPage([&](HWND page, SheetRig&) {
+        const HWND button = windowsOf(page, Picture)[2];
+        const LRESULT before = pictureOf(button);
+        EXPECT_NE(before, 0);
+        sendClick(button);
+        const LRESULT chosen = pictureOf(button);
+        EXPECT_NE(chosen, before);
+        set(kChoice, 6010);
+        EXPECT_NE(pictureOf(button), chosen);
+    });
+    const ResourceGuard guard(ResourceGuard::Windows | ResourceGuard::GdiObjects);
+    onPage([](HWND, SheetRig&) {});
+}
+
 TEST_F(ChoicesTest, AValueThatExistsByItsNameIsShownAndKept)
 {
     choice().SetValue(CXString(L"Mine"));
@@ -391,6 +468,11 @@ TEST_F(ChoicesTest, RadioButtonsAreOneStopOfTabAndArrowsPassOverWhatIsGrey)
             const std::vector<HWND> buttons = windowsOf(page, kind);
             set(kChoice, 6010);
             SetFocus(buttons[1]);
+            if (kind == PickRadio) { // the letter of the heading leads to what is chosen
+                SetFocus(windowsOf(page, Combo).front());
+                sendKey('H', {VK_MENU});
+                EXPECT_EQ(GetFocus(), buttons[1]);
+            }
             sendKey(VK_DOWN);
             EXPECT_EQ(value(), 6012) << kind;
             EXPECT_EQ(GetFocus(), buttons[3]) << kind;

@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <utility>
 
 namespace {
 
@@ -88,13 +87,12 @@ int UIRadioButtonControl::getCheck() const
 void UIRadioButtonControl::setCheck(int state)
 {
     if (getCheck() == state) {
+        showPicture();
         return;
     }
     const bool wasTabStop = hasStyle(getHwnd(), WS_TABSTOP);
     o7::setCheckState(getHwnd(), state);
-    if (m_checkedPicture) {
-        showPicture();
-    }
+    showPicture();
     if (state == BST_CHECKED) {
         claimTabStop(getHwnd());
     } else {
@@ -109,27 +107,26 @@ void UIRadioButtonControl::setPictures(int picture, int checkedPicture)
     const SIZE whole = getDimensionInPixels();
     const SIZE area{whole.cx - margin.cx, whole.cy - margin.cy};
     const HINSTANCE module = IsolationAware::moduleInstance();
-    auto loaded = o7::loadButtonPicture(module, picture, area);
-    if (!loaded) {
-        return;
-    }
-    auto checked = o7::loadButtonPicture(module, checkedPicture, area);
-    ::SetWindowLongPtrW(getHwnd(), GWL_STYLE,
-                        ::GetWindowLongPtrW(getHwnd(), GWL_STYLE) | LONG_PTR{BS_ICON});
-    // The window shows the new ones before the old ones go.
-    std::swap(m_picture, loaded);
-    std::swap(m_checkedPicture, checked);
-    showPicture();
-}
-
-void UIRadioButtonControl::showPicture() const
-{
+    m_picture = o7::loadButtonPicture(module, picture, area);
     if (!m_picture) {
         return;
     }
+    if (checkedPicture != picture) {
+        m_checkedPicture = o7::loadButtonPicture(module, checkedPicture, area);
+    }
+    ::SetWindowLongPtrW(getHwnd(), GWL_STYLE,
+                        ::GetWindowLongPtrW(getHwnd(), GWL_STYLE) | LONG_PTR{BS_ICON});
+}
+
+/// Not before the check is known: some systems do not give back what an exchanged picture took.
+void UIRadioButtonControl::showPicture()
+{
     const bool isChecked = getCheck() == BST_CHECKED && m_checkedPicture;
-    ::SendMessageW(getHwnd(), BM_SETIMAGE, IMAGE_ICON,
-                   reinterpret_cast<LPARAM>((isChecked ? m_checkedPicture : m_picture).get()));
+    const HICON wanted = (isChecked ? m_checkedPicture : m_picture).get();
+    if (wanted != m_shownPicture) {
+        m_shownPicture = wanted;
+        ::SendMessageW(getHwnd(), BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(wanted));
+    }
 }
 
 void UIRadioButtonControl::setTabStop(bool stops)

@@ -27,7 +27,7 @@ public:
     void setText(const CXString& text);
 
     /// Shows pictures of the module's resources in place of the text, which screen readers go on
-    /// saying. Without the first nothing changes: the text stays.
+    /// saying. They are shown with the next setCheck. Once only; without the first the text stays.
     /// @param picture,checkedPicture  resource numbers; 0 for the second: the same picture
     void setPictures(int picture, int checkedPicture);
 
@@ -46,8 +46,9 @@ private:
     static constexpr const wchar_t* kSource = L"uiradiobuttoncontrol";
 
     LRESULT subclassWindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    void showPicture() const;
+    void showPicture();
 
     o7::UniqueIcon m_picture;
     o7::UniqueIcon m_checkedPicture;
+    HICON m_shownPicture = nullptr;
 };

@@ -298,7 +298,7 @@ void UIRadioBaseMolecule::EnableControls(bool enabled)
         ShowTip(choice, canTake ? CXString() : ReasonOf(choice, enabled));
     }
     ChooseTabStop(enabled);
-    if (focusLost)
+    if (focusLost && enabled)
         Focus();
 }
 
