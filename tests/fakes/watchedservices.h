@@ -6,7 +6,7 @@
 #include <string>
 #include <tuple>
 
-#include "featureservices.h"
+#include "observercount.h"
 
 namespace o7::test {
 
@@ -67,13 +67,13 @@ private:
     std::string& m_log;
 };
 
-/// A real model that counts its observers, writes down its transactions, and shows one option
-/// feature as a WatchedNode. Everything else is the model's.
-class WatchedServices : public FeatureServices
+/// A model that writes down its transactions, counts the observers of one option feature alone, and
+/// shows that as a WatchedNode.
+class WatchedServices : public ObserverCount
 {
 public:
     WatchedServices(FeatureServices& model, const FeatureId& watched)
-        : m_model(model),
+        : ObserverCount(model),
           m_watched(watched),
           m_node(std::make_shared<WatchedNode>(
               model.GetOptionFeatureRef(FeatureIdWithContext(watched)).GetNode(), log))
@@ -91,7 +91,7 @@ public:
     {
         if (isWatched(feature))
             m_observers.insert({&observer, instance.GetSettingsEnum(), kind});
-        m_model.RegisterObserver(observer, instance, feature, kind);
+        ObserverCount::RegisterObserver(observer, instance, feature, kind);
     }
     void UnregisterObserver(IObserver& observer, SettingsInstanceId instance,
                             const FeatureIdWithContext& feature, unsigned int kind) override
@@ -99,72 +99,23 @@ public:
         const auto found = m_observers.find({&observer, instance.GetSettingsEnum(), kind});
         if (isWatched(feature) && found != m_observers.end())
             m_observers.erase(found);
-        m_model.UnregisterObserver(observer, instance, feature, kind);
+        ObserverCount::UnregisterObserver(observer, instance, feature, kind);
     }
     std::unique_ptr<FeatureRef> GetFeatureRef(const FeatureIdWithContext& feature) override
     {
         if (isWatched(feature))
             return std::make_unique<OptionFeatureRef>(m_node);
-        return m_model.GetFeatureRef(feature);
+        return ObserverCount::GetFeatureRef(feature);
     }
     OptionFeatureRef GetOptionFeatureRef(const FeatureIdWithContext& feature) override
     {
-        return isWatched(feature) ? OptionFeatureRef(m_node) : m_model.GetOptionFeatureRef(feature);
+        return isWatched(feature) ? OptionFeatureRef(m_node)
+                                  : ObserverCount::GetOptionFeatureRef(feature);
     }
     std::unique_ptr<TransactionRef> OpenTransaction(const CXString& purpose) override
     {
         log += "open ";
-        return std::make_unique<Transaction>(m_model.OpenTransaction(purpose), log);
-    }
-
-    bool TestFeature(const FeatureIdWithContext& id) override { return m_model.TestFeature(id); }
-    ListOfFeaturesRef GetListOfFeaturesFor(const FeatureIdWithContext& context) override
-    {
-        return m_model.GetListOfFeaturesFor(context);
-    }
-    void SettleBeforeDisplay() override { m_model.SettleBeforeDisplay(); }
-    ListOfFeaturesRef GetFullListOfFeatures() override { return m_model.GetFullListOfFeatures(); }
-    ListOfFeaturesRef GetListOfFeaturesByGroup(DataModelIds::tagFeatureEnum group) override
-    {
-        return m_model.GetListOfFeaturesByGroup(group);
-    }
-    INotificationSink& GetNotificationSink() override { return m_model.GetNotificationSink(); }
-    bool IsModified() const override { return m_model.IsModified(); }
-    void CommitAccepted() override { m_model.CommitAccepted(); }
-    void RevertToAccepted() override { m_model.RevertToAccepted(); }
-    void RegisterForEvent(IObserver& observer, EventId event, unsigned int kind) override
-    {
-        m_model.RegisterForEvent(observer, event, kind);
-    }
-    void UnregisterForEvent(IObserver& observer, EventId event, unsigned int kind) override
-    {
-        m_model.UnregisterForEvent(observer, event, kind);
-    }
-    IConstraintsIntegrator& GetConstraintsIntegrator() override
-    {
-        return m_model.GetConstraintsIntegrator();
-    }
-    std::vector<StateReason> GetStateReasons(const FeatureIdWithContext& feature,
-                                             const ValueId& option) override
-    {
-        return m_model.GetStateReasons(feature, option);
-    }
-    std::vector<FeatureIdWithContext> GetFeaturesInConflict() override
-    {
-        return m_model.GetFeaturesInConflict();
-    }
-    ChangeProposal ProposeChange(const FeatureIdWithContext& feature,
-                                 const FeatureValue& value) override
-    {
-        return m_model.ProposeChange(feature, value);
-    }
-    std::vector<Consequence> PreviewAlternative(const Alternative& alternative) override
-    {
-        return m_model.PreviewAlternative(alternative);
-    }
-    bool ApplyAlternative(const Alternative& alternative) override
-    {
-        return m_model.ApplyAlternative(alternative);
+        return std::make_unique<Transaction>(ObserverCount::OpenTransaction(purpose), log);
     }
 
 private:
@@ -193,7 +144,6 @@ private:
         return feature.GetFeatureId().GetFeatureEnum() == m_watched.GetFeatureEnum();
     }
 
-    FeatureServices& m_model;
     FeatureId m_watched;
     std::shared_ptr<WatchedNode> m_node;
     std::multiset<Key> m_observers;

@@ -40,7 +40,7 @@ void UIPickOneRadioMolecule::MatchChoices()
     ShowText(spare);
     // Its length was not known when the texts were fitted.
     if (GetToolTips())
-        GetToolTips()->setWholeText(spare.button->getHwnd(), named->text);
+        GetToolTips()->setTip(spare.button->getHwnd(), named->text);
 }
 
 CXString UIPickOneRadioMolecule::GetObserverClassNameHeirarchy() const

@@ -36,7 +36,12 @@ UIRadioBaseMolecule::UIRadioBaseMolecule(const UIMoleculeData& data, const UIMol
 {
 }
 
-UIRadioBaseMolecule::~UIRadioBaseMolecule() = default;
+UIRadioBaseMolecule::~UIRadioBaseMolecule()
+{
+    for (const Choice& choice : m_choices)
+        if (choice.button && GetToolTips())
+            GetToolTips()->setTip(choice.button->getHwnd(), CXString());
+}
 
 void UIRadioBaseMolecule::InitializeFromDescription()
 {
@@ -207,7 +212,7 @@ void UIRadioBaseMolecule::ShowText(Choice& choice)
     const CXString heading = o7::spokenName(m_label.GetText());
     choice.button->setAccessibleName(heading.IsEmpty() ? text : heading + L": " + text);
     if (choice.picture && GetToolTips())
-        GetToolTips()->setWholeText(choice.button->getHwnd(), text);
+        GetToolTips()->setTip(choice.button->getHwnd(), text);
 }
 
 bool UIRadioBaseMolecule::HandleMessage(const _UIWindowsMessage& message)
