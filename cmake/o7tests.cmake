@@ -45,6 +45,11 @@ function(o7_add_test)
     COMMAND ${ARG_NAME} --gtest_output=xml:test-results/${ARG_NAME}.xml
     WORKING_DIRECTORY ${CMAKE_BINARY_DIR})
   set_tests_properties(${ARG_NAME} PROPERTIES TIMEOUT ${ARG_TIMEOUT})
+  if(WIN32)
+    # With a list of displays (tools/common.sh, o7_wine_lanes) one for each test, and the long tests
+    # first; without, it says nothing.
+    set_tests_properties(${ARG_NAME} PROPERTIES RESOURCE_GROUPS "displays:1" COST ${ARG_TIMEOUT})
+  endif()
   if(ARG_SLOW)
     set_tests_properties(${ARG_NAME} PROPERTIES LABELS slow)
   endif()

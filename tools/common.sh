@@ -71,6 +71,8 @@ o7_build() {
 
 # --- Wine -----------------------------------------------------------------------------------
 
+O7_PREFIXES=() # those whose servers run
+
 # The 64-bit programs themselves: the distribution's wrapper complains about a missing 32-bit one.
 o7_wine_find() {
     local folder
@@ -129,7 +131,7 @@ o7_wine_prefix() {
     # A crash ends the program instead of waiting for someone to close a dialog.
     o7_reg 'HKCU\Software\Wine\WineDbg' ShowCrashDialog REG_DWORD 0
     # A stopped server has written the registry to disk.
-    o7_wine_stop
+    o7_wine_stop "$WINEPREFIX"
     : >"$mark"
 }
 
@@ -166,13 +168,38 @@ o7_wine_begin() {
     trap o7_wine_end EXIT
     trap 'exit 130' INT
     trap 'exit 143' TERM HUP
+    o7_wine_start "$@"
+}
+
+# o7_wine_start virtual|real [LANGUAGE]: display, prefix and server of o7_wine_begin.
+o7_wine_start() {
     [ "$1" = real ] || o7_display_start
     o7_wine_prefix
+    O7_PREFIXES+=("$WINEPREFIX")
     # Wine's services start with the first program and keep its output open: let that be nobody's.
     "$O7_WINESERVER" -p60 >/dev/null 2>&1
     o7_wine cmd /c exit >/dev/null 2>&1 </dev/null
     if [ "$1" = real ]; then o7_wine_managed Y; else o7_wine_managed N; fi
     o7_wine_letters "${2:-}"
+}
+
+# o7_wine_lanes COUNT FILE: after o7_wine_begin virtual, COUNT displays in all, each with a prefix of
+# its own, so that programs which need pointer and focus for themselves can run side by side. FILE
+# gets what CTest has to know to give a test one of them (tools/wine-run takes it from there).
+o7_wine_lanes() {
+    local lane
+    local -a rows=()
+    for ((lane = 1; lane <= $1; lane++)); do
+        if [ "$lane" -gt 1 ]; then
+            O7_WINEPREFIX=$O7_ROOT/build/wineprefix-$lane
+            o7_wine_start virtual
+        fi
+        printf 'export WINEPREFIX=%q DISPLAY=%q\n' "$WINEPREFIX" "$DISPLAY" \
+            >"$O7_ROOT/build/lane$lane.env"
+        rows+=("{\"id\": \"lane$lane\"}")
+    done
+    printf '{"version": {"major": 1, "minor": 0}, "local": [{"displays": [%s]}]}\n' \
+        "$(IFS=,; printf '%s' "${rows[*]}")" >"$2"
 }
 
 # What is left behind: nothing.
@@ -181,11 +208,17 @@ o7_wine_end() {
     o7_display_stop
 }
 
-# o7_wine_stop: asks the prefix's server to end every program that is left, and waits for it.
+# o7_wine_stop [PREFIX...]: asks the servers of these prefixes, or of all that were started, to end
+# every program that is left, and waits.
 o7_wine_stop() {
-    [ -n "${O7_WINESERVER:-}" ] && [ -d "${WINEPREFIX:-/nowhere}" ] || return 0
-    "$O7_WINESERVER" -k >/dev/null 2>&1
-    "$O7_WINESERVER" -w >/dev/null 2>&1
+    local prefix
+    [ -n "${O7_WINESERVER:-}" ] || return 0
+    [ $# -gt 0 ] || set -- "${O7_PREFIXES[@]}" "${WINEPREFIX:-}"
+    for prefix in "$@"; do
+        [ -d "$prefix" ] || continue
+        WINEPREFIX=$prefix "$O7_WINESERVER" -k >/dev/null 2>&1
+        WINEPREFIX=$prefix "$O7_WINESERVER" -w >/dev/null 2>&1
+    done
     return 0
 }
 
@@ -198,7 +231,7 @@ o7_winpath() {
 
 # --- display --------------------------------------------------------------------------------
 
-O7_XVFB_PID=
+O7_XVFB_PIDS=()
 
 # o7_display_start: a virtual display of our own, on the first free number.
 o7_display_start() {
@@ -208,15 +241,15 @@ o7_display_start() {
         [ -z "${O7_LOCK_FD:-}" ] || exec {O7_LOCK_FD}>&-
         exec Xvfb -displayfd 1 -screen 0 1600x1200x24 -nolisten tcp 2>/dev/null
     )
-    O7_XVFB_PID=$!
+    O7_XVFB_PIDS+=($!)
     read -r -t 30 -u "$O7_XVFB_FD" number || o7_die "the virtual display did not start"
     export DISPLAY=:$number
     unset XAUTHORITY WAYLAND_DISPLAY
 }
 
 o7_display_stop() {
-    [ -n "$O7_XVFB_PID" ] || return 0
-    kill "$O7_XVFB_PID" 2>/dev/null
-    wait "$O7_XVFB_PID" 2>/dev/null
-    O7_XVFB_PID=
+    [ ${#O7_XVFB_PIDS[@]} -gt 0 ] || return 0
+    kill "${O7_XVFB_PIDS[@]}" 2>/dev/null
+    wait "${O7_XVFB_PIDS[@]}" 2>/dev/null
+    O7_XVFB_PIDS=()
 }

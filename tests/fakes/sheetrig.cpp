@@ -20,7 +20,7 @@ SheetRig::SheetRig(ProductData& productData, FeatureServices& featureServices,
                    ProductStringLoader& strings, const UIData& description, UIMode mode)
     : m_description(description),
       m_featureServices(featureServices),
-      m_services(std::make_unique<UIServices>()),
+      m_services(std::make_unique<UIServices>(strings.GetLanguage())),
       m_messages(std::make_unique<UIMessageManager>()),
       m_context(new UIContext{featureServices, strings, productData})
 {

@@ -42,9 +42,7 @@ SIZE UIButtonControl::getTextAreaInPixels()
 
 void UIButtonControl::setButtonDisplayName(const CXString& name) const
 {
-    CXString shown = name;
-    shown.Replace(CXString(L"&"), CXString(L"&&"));
-    o7::setWindowTextIfDifferent(getHwnd(), shown);
+    o7::setWindowTextIfDifferent(getHwnd(), o7::withMarkedAmpersands(name));
 }
 
 void UIButtonControl::dump() const

@@ -26,6 +26,12 @@ void UICheckBoxControl::dump() const
     dumpWindow(L"check", o7::checkStateName(getCheck()));
 }
 
+void UICheckBoxControl::setMultiline()
+{
+    const LONG_PTR style = ::GetWindowLongPtrW(getHwnd(), GWL_STYLE);
+    ::SetWindowLongPtrW(getHwnd(), GWL_STYLE, style | BS_MULTILINE | BS_TOP);
+}
+
 int UICheckBoxControl::getCheck() const
 {
     return o7::checkState(getHwnd());

@@ -13,6 +13,9 @@ public:
 
     void dump() const override;
 
+    /// Lets the text take as many lines as the control is high, beginning beside the mark.
+    void setMultiline();
+
     /// BST_UNCHECKED, BST_CHECKED or BST_INDETERMINATE.
     int getCheck() const;
     /// Shows the state without a notification; nothing happens when it is shown already.

@@ -5,12 +5,15 @@
 #include "paintbuffer.h"
 #include "parentbackground.h"
 #include "uidump.h"
+#include "uiservices.h"
 #include "uitooltips.h"
 #include "uiwindowsmessage.h"
 #include "unmirroreddc.h"
 
 namespace {
 
+// In place of a notification code of the button: show the reason now.
+constexpr WORD kShowMessage = 0x7001;
 constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW;
 
 /// In the middle of the area; the right way round in right-to-left layouts too.
@@ -32,16 +35,20 @@ void drawIcon(HDC dc, const RECT& area, const wchar_t* name)
 
 UIInfoButtonControl::UIInfoButtonControl(HWND parent, int id, UIServices& services, POINT location,
                                          SIZE size, UIToolTips* toolTips)
-    : UIControl(parent, id, services, nullptr, location, size, true), m_toolTips(toolTips)
+    : UIControl(parent, id, services, nullptr, location, size, true),
+      m_services(services),
+      m_toolTips(toolTips)
 {
     setVisibleFlag(true);
     createControlWindow(L"BUTTON", kStyle);
+    subclassWindow(getHwnd());
 }
 
 UIInfoButtonControl::~UIInfoButtonControl()
 {
     if (m_toolTips && !m_text.IsEmpty())
         m_toolTips->DeleteToolFromToolTip(getHwnd());
+    restoreProcedure();
 }
 
 void UIInfoButtonControl::setMessage(std::uint32_t style, const CXString& text,
@@ -73,10 +80,32 @@ bool UIInfoButtonControl::handleMessage(const _UIWindowsMessage& message)
     }
     if (message.message == WM_COMMAND && reinterpret_cast<HWND>(message.lParam) == getHwnd()) {
         if (HIWORD(message.wParam) == BN_CLICKED)
+            postShowMessage();
+        if (HIWORD(message.wParam) == kShowMessage)
             showMessage();
         return true;
     }
     return false;
+}
+
+// A dialog gives Enter to its default button, unless the one with the focus asks for it.
+LRESULT UIInfoButtonControl::subclassWindowProcedure(HWND window, UINT message, WPARAM wParam,
+                                                     LPARAM lParam)
+{
+    const auto* key = reinterpret_cast<const MSG*>(lParam);
+    if (message == WM_GETDLGCODE && key && key->message == WM_KEYDOWN && key->wParam == VK_RETURN)
+        return callSavedProcedure(window, message, wParam, lParam) | DLGC_WANTMESSAGE;
+    if (message == WM_KEYDOWN && wParam == VK_RETURN) {
+        postShowMessage();
+        return 0;
+    }
+    return callSavedProcedure(window, message, wParam, lParam);
+}
+
+void UIInfoButtonControl::postShowMessage() const
+{
+    PostMessageW(getParentHwnd(), WM_COMMAND, MAKEWPARAM(getId(), kShowMessage),
+                 reinterpret_cast<LPARAM>(getHwnd()));
 }
 
 void UIInfoButtonControl::showMessage() const
@@ -84,8 +113,9 @@ void UIInfoButtonControl::showMessage() const
     // The reason may change, and this button go, while the box is open: work on copies.
     const CXString text = m_text;
     const CXString title = m_title;
+    const UIServices& services = m_services;
     const UINT icon = m_style == kConflict ? MB_ICONWARNING : MB_ICONINFORMATION;
-    MessageBoxW(GetAncestor(getParentHwnd(), GA_ROOT), text.c_str(), title.c_str(), MB_OK | icon);
+    services.showMessage(GetAncestor(getParentHwnd(), GA_ROOT), text, title, MB_OK | icon);
 }
 
 void UIInfoButtonControl::draw(const DRAWITEMSTRUCT& item) const

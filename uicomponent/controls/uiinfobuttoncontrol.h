@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "cxstring.h"
+#include "subclassedwindow.h"
 #include "uicontrol.h"
 
 class UIToolTips;
@@ -10,7 +11,8 @@ class UIToolTips;
 /// The small button beside a control that is limited: an information mark, or a warning mark when
 /// two of the user's own choices clash. The reason is its tip, and its press shows it in a message
 /// box, so that the keyboard reaches it too.
-class O7UI_API UIInfoButtonControl : public UIControl
+class O7UI_API UIInfoButtonControl : public UIControl,
+                                     private o7::SubclassedWindow<UIInfoButtonControl>
 {
 public:
     static constexpr std::uint32_t kInformation = 1;
@@ -22,7 +24,8 @@ public:
                         UIToolTips* toolTips);
     ~UIInfoButtonControl() override;
 
-    /// Claims WM_DRAWITEM and the press of its own window.
+    /// Claims WM_DRAWITEM and the press of its own window. A press is answered by a message that
+    /// the button posts to itself, so it may be destroyed at any time, its own press included.
     bool handleMessage(const _UIWindowsMessage& message) override;
     void dump() const override;
 
@@ -31,9 +34,17 @@ public:
     void setMessage(std::uint32_t style, const CXString& text, const CXString& title);
 
 private:
+    friend o7::SubclassedWindow<UIInfoButtonControl>;
+    static constexpr const wchar_t* kProcedureName = L"UIInfoButtonControl::subclassWindowProcedure";
+    static constexpr const wchar_t* kSource = L"uiinfobuttoncontrol";
+
+    using UIControl::forgetWindow;
+    LRESULT subclassWindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void draw(const DRAWITEMSTRUCT& item) const;
+    void postShowMessage() const;
     void showMessage() const;
 
+    const UIServices& m_services;
     UIToolTips* m_toolTips;
     std::uint32_t m_style = 0;
     CXString m_text;

@@ -17,7 +17,7 @@ bool hasStyle(HWND window, LONG_PTR bit)
     return (::GetWindowLongPtrW(window, GWL_STYLE) & bit) != 0;
 }
 
-void setTabStop(HWND window, bool stops)
+void giveTabStop(HWND window, bool stops)
 {
     const LONG_PTR style = ::GetWindowLongPtrW(window, GWL_STYLE);
     const LONG_PTR wanted = stops ? style | WS_TABSTOP : style & ~LONG_PTR{WS_TABSTOP};
@@ -38,7 +38,7 @@ void claimTabStop(HWND button)
         if (other != first && hasStyle(other, WS_GROUP)) {
             break; // the next group
         }
-        setTabStop(other, other == button);
+        giveTabStop(other, other == button);
     }
 }
 
@@ -91,8 +91,13 @@ void UIRadioButtonControl::setCheck(int state)
         claimTabStop(getHwnd());
     } else {
         // Windows takes the stop away with the check; a group without any could not be reached.
-        setTabStop(getHwnd(), wasTabStop);
+        giveTabStop(getHwnd(), wasTabStop);
     }
+}
+
+void UIRadioButtonControl::setTabStop(bool stops)
+{
+    giveTabStop(getHwnd(), stops);
 }
 
 LRESULT UIRadioButtonControl::subclassWindowProcedure(HWND window, UINT message, WPARAM wParam,

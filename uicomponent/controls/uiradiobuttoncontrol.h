@@ -29,6 +29,9 @@ public:
     int getCheck() const;
     /// Shows the state without a notification; nothing happens when it is shown already.
     void setCheck(int state);
+    /// Whether Tab stops here. Of a group that is one button: the checked one, or another while
+    /// that cannot be reached.
+    void setTabStop(bool stops);
 
 private:
     friend o7::SubclassedWindow<UIRadioButtonControl>;

@@ -38,6 +38,13 @@ CXString withoutMnemonics(const CXString& text)
     return CXString(std::wstring_view(shown));
 }
 
+CXString withMarkedAmpersands(const CXString& text)
+{
+    CXString marked = text;
+    marked.Replace(L"&", L"&&");
+    return marked;
+}
+
 CXString spokenName(const CXString& label)
 {
     std::wstring name(label.View());

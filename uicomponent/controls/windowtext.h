@@ -17,6 +17,9 @@ bool setWindowTextIfDifferent(HWND window, const CXString& text);
 /// mnemonic and is not shown.
 CXString withoutMnemonics(const CXString& text);
 
+/// The other way: a text that is to be displayed as it is, with every ampersand doubled.
+CXString withMarkedAmpersands(const CXString& text);
+
 /// A label as a screen reader should say it for the control behind it: without its mnemonic, also
 /// when that stands in parentheses at the end, and without the colon.
 CXString spokenName(const CXString& label);

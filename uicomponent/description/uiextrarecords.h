@@ -18,6 +18,12 @@ struct UIOptionRecord
     DataModelIds::tagValueEnum value = DataModelIds::kNoValue;
     std::uint32_t label = 0; ///< String number; 0: the model's display string.
     std::uint32_t image = 0; ///< Picture resource number; 0: none.
+
+    /// What stands for the values of a boolean feature, which have no numbers.
+    static constexpr DataModelIds::tagValueEnum valueOf(bool value)
+    {
+        return static_cast<DataModelIds::tagValueEnum>(value);
+    }
 };
 
 struct UITextRecord

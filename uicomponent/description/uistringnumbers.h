@@ -303,6 +303,10 @@
 #define O7STR_U_INCH_WORDS 34024 // "inch;inches"
 #define O7STR_U_POINT_WORDS 34025 // "point;points"
 
+// What the molecules say of themselves (34100 to 34199)
+#define O7STR_M_READ_ONLY 34100 // "This is for information only and cannot be changed here."
+#define O7STR_M_NOT_HERE 34101 // "This setting cannot be changed in this window."
+
 // The sheet around the pages (34200 to 34299)
 #define O7STR_L_PAGE_DEFAULTS 34200 // "Page &Defaults"
 // clang-format on

@@ -32,9 +32,8 @@ RECT workAreaOf(HWND window)
 UIPopupDialog::UIPopupDialog(FeatureServices& featureServices, UIContext& context,
                              UIServices& services, const ListOfFeaturesRef& features,
                              const UIContainerData& data, bool wholeUi, void* param)
-    : UIMoleculeContainer(featureServices, context.strings, services),
+    : UIMoleculeContainer(featureServices, context.strings, services, features),
       m_data(data),
-      m_features(features),
       m_wholeUi(wholeUi),
       m_param(param)
 {

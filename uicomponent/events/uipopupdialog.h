@@ -26,7 +26,6 @@ public:
     bool handleMessage(const _UIWindowsMessage& message) override;
     void dump() const override;
 
-    const ListOfFeaturesRef& getFeatures() const { return m_features; }
     void* getParam() const { return m_param; }
 
 protected:
@@ -40,7 +39,6 @@ private:
     bool processCommand(const _UIWindowsMessage& message) const;
 
     const UIContainerData& m_data;
-    ListOfFeaturesRef m_features;
     bool m_wholeUi;
     void* m_param;
     std::vector<std::unique_ptr<UIButtonControl>> m_buttons;

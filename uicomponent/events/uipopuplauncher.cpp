@@ -9,6 +9,7 @@
 #include "uidialogtemplate.h"
 #include "uimessagemanager.h"
 #include "uipopupdialog.h"
+#include "uiservices.h"
 
 namespace {
 
@@ -80,6 +81,8 @@ bool UIPopupLauncher::launch(DialogId id, const ListOfFeaturesRef& features, HWN
         return false;
     dialogTemplate.setSize(data->getWidth(), data->getHeight());
     dialogTemplate.makePopup(parent != nullptr);
+    if (m_services.isRightToLeft())
+        dialogTemplate.mirror();
 
     const IsolationAware::CallerContext callerContext(m_activationContext);
     UIPopupDialog dialog(m_featureServices, m_context, m_services, features, *data, m_wholeUi,

@@ -92,7 +92,7 @@ void UIManager::initializePartI(FeatureServices& featureServices, ProductStringL
                             .GetValue()
                             .GetValueEnum();
     m_uiData = m_dataSource->createDescription(m_mode, family, m_workflow);
-    m_services = std::make_unique<UIServices>();
+    m_services = std::make_unique<UIServices>(strings.GetLanguage());
     m_messageManager = std::make_unique<UIMessageManager>();
     m_context.reset(new UIContext{featureServices, strings, m_productData});
     m_popupLauncher = std::make_unique<UIPopupLauncher>(

@@ -23,9 +23,8 @@ constexpr DataModelIds::EventEnum kRefreshEvents[] = {
 UITab::UITab(FeatureServices& featureServices, UIContext& context, UIEventProcessor& eventProcessor,
              UIServices& services, const ListOfFeaturesRef& features, ProductData& productData,
              bool notifySuppressed)
-    : UIMoleculeContainer(featureServices, context.strings, services),
+    : UIMoleculeContainer(featureServices, context.strings, services, features),
       m_eventProcessor(eventProcessor),
-      m_features(features),
       m_productData(productData),
       m_notifySuppressed(notifySuppressed)
 {

@@ -20,7 +20,7 @@ struct UIContext;
 class UITab : public UIMoleculeContainer, public UIMessageHandler, public IObserver
 {
 public:
-    /// @param features           the full feature list; the tab keeps its own reference.
+    /// @param features           what the page works on: the full feature list, or one within it.
     /// @param notifySuppressed   the tab sends no event when Cancel is queried.
     UITab(FeatureServices& featureServices, UIContext& context, UIEventProcessor& eventProcessor,
           UIServices& services, const ListOfFeaturesRef& features, ProductData& productData,
@@ -62,7 +62,6 @@ private:
     void letWindowGo() const;
 
     UIEventProcessor& m_eventProcessor;
-    ListOfFeaturesRef m_features;
     ProductData& m_productData;
     const UIContainerData* m_data = nullptr;
     CXString m_title;

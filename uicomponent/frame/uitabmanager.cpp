@@ -92,6 +92,8 @@ UITab* UITabManager::buildTab(const UIContainerData& description, HANDLE activat
 
     UIDialogTemplate dialogTemplate(m_moduleInstance);
     dialogTemplate.setSize(description.getWidth(), description.getHeight());
+    if (m_services.isRightToLeft())
+        dialogTemplate.mirror();
     m_largestWidth = std::max<long>(m_largestWidth, description.getWidth());
     m_largestHeight = std::max<long>(m_largestHeight, description.getHeight());
 
@@ -297,7 +299,7 @@ bool UITabManager::showApplyWarning(HWND page) const
     const auto& strings = m_context.strings;
     const CXString text =
         strings.LoadStringW(kWarningText) + L"\n\n" + strings.LoadStringW(kWarningAdvice);
-    MessageBoxW(page, text.c_str(), strings.LoadStringW(kWarningCaption).c_str(), MB_ICONWARNING);
+    m_services.showMessage(page, text, strings.LoadStringW(kWarningCaption), MB_ICONWARNING);
     return true;
 }
 

@@ -1,17 +1,21 @@
 #include "uicheckboxmolecule.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "booleanfeatureref.h"
 #include "featureservices.h"
+#include "isolationaware.h"
 #include "optionfeatureref.h"
 #include "uicheckboxcontrol.h"
 #include "uicheckcontroldata.h"
 #include "uicontroldata.h"
+#include "uiimagecontrol.h"
 #include "uiimagecontroldata.h"
 #include "uimoleculedata.h"
 #include "uimoleculedump.h"
 #include "uitextcontrol.h"
+#include "uitextruler.h"
 #include "uivaluewriter.h"
 
 namespace {
@@ -19,8 +23,10 @@ namespace {
 // Dialog units.
 constexpr long kHeight = 10;
 constexpr long kRaisedHeight = 19; // room for a button beside the box
-constexpr long kTextHeight = 8;
-constexpr long kIndentStep = 10; // the width of the check mark and its gap
+constexpr long kAroundLines = 2;   // what a box is higher than its lines of text
+constexpr long kMark = 12;         // the check mark and its gap
+constexpr long kIndentStep = 10;
+constexpr long kImageGap = 4;
 
 } // namespace
 
@@ -33,8 +39,7 @@ UICheckBoxMolecule::~UICheckBoxMolecule() = default;
 
 void UICheckBoxMolecule::InitializeFromDescription()
 {
-    long least = 0;
-    bool raised = false;
+    bool raised = GetData().hasRaisedHeight();
     for (const auto& control : GetData().getControls()) {
         switch (control->getKind()) {
         case UIControlKind::Check: {
@@ -51,57 +56,111 @@ void UICheckBoxMolecule::InitializeFromDescription()
             raised = true;
             break;
         case UIControlKind::Image:
-            least = static_cast<long>(
-                static_cast<const UIImageControlData&>(*control).getMinimumHeight());
+            m_imageData = static_cast<const UIImageControlData*>(control.get());
             break;
         case UIControlKind::Text:
-            (m_checkText ? m_secondTextNumber : m_labelText) = control->getLabel();
+            if (m_checkText)
+                m_secondTextNumber = control->getLabel();
+            else
+                m_label.Set(LoadText(control->getLabel()), GetLabelWidth());
             break;
         default:
             break;
         }
     }
-    SetMinimumExtent({0, std::max(raised ? kRaisedHeight : kHeight, least)});
+    const long least = m_imageData ? static_cast<long>(m_imageData->getMinimumHeight()) : 0;
+    m_boxHeight = std::max(raised ? kRaisedHeight : kHeight, least);
+    UpdateMinimumHeight();
+}
+
+void UICheckBoxMolecule::UpdateMinimumHeight()
+{
+    const long lines = std::max(m_checkLines, m_secondLines);
+    const long texts = lines * UITextRuler::kLineHeight + kAroundLines;
+    SetMinimumExtent({0, m_label.GetHeightAbove() + std::max(m_boxHeight, texts)});
+}
+
+long UICheckBoxMolecule::GetCheckX() const
+{
+    return m_label.GetBesideWidth() + kIndentStep * static_cast<long>(GetData().getIndent());
+}
+
+long UICheckBoxMolecule::GetTextWidth(long width) const
+{
+    const long image = m_imageData ? m_boxHeight + kImageGap : 0; // a square
+    return width - kInfoLane - GetCheckX() - image;
+}
+
+void UICheckBoxMolecule::FitTexts(const UITextRuler& ruler, long width)
+{
+    m_label.Fit(ruler, width - kInfoLane);
+    const CXString text = LoadText(m_checkText);
+    const CXString second = LoadText(m_secondTextNumber);
+    const long room = GetTextWidth(width);
+    const long wanted = kMark + ruler.WidthOf(text);
+    // Side by side where they have room for one line each, in equal halves where not.
+    m_checkWidth = second.IsEmpty() ? room : wanted;
+    if (!second.IsEmpty() && wanted + ruler.WidthOf(second) > room)
+        m_checkWidth = room / 2;
+    m_checkLines = ruler.LinesOf(text, m_checkWidth - kMark);
+    m_secondLines = second.IsEmpty() ? 1 : ruler.LinesOf(second, room - m_checkWidth);
+    UpdateMinimumHeight();
+}
+
+long UICheckBoxMolecule::GetWantedLabelWidth(const UITextRuler& ruler) const
+{
+    return m_label.GetWantedWidth(ruler);
 }
 
 void UICheckBoxMolecule::CreateControls(UIPageWindow& page)
 {
     SetPage(page);
     const POINT place = GetPosition();
-    const long indent = kIndentStep * static_cast<long>(GetData().getIndent());
-    long x = place.x + indent;
-    long width = GetContentWidth() - indent;
-    const auto createText = [&](unsigned number, long textX, long textWidth) {
-        auto text = std::make_unique<UITextControl>(
-            page.window, page.takeId(), GetSite().services, page.font, POINT{textX, place.y + 1},
-            SIZE{textWidth, kTextHeight}, SS_NOTIFY, true, page.boldFont);
-        SetWindowTextW(text->getHwnd(), LoadText(number).c_str());
-        return text;
+    UIServices& services = GetSite().services;
+    m_label.Create(page, services, place, GetContentWidth());
+
+    const long room = GetTextWidth(GetWidth());
+    const long checkWidth = !m_secondTextNumber ? room : m_checkWidth ? m_checkWidth : room / 2;
+    const long top = place.y + m_label.GetHeightAbove();
+    const long height = GetMinimumHeight() - m_label.GetHeightAbove();
+    const long x = place.x + GetCheckX();
+    const auto centred = [=](long lines, long around) {
+        const long needed = lines * UITextRuler::kLineHeight + around;
+        return std::pair(top + (height - needed) / 2, needed);
     };
-    if (m_labelText) {
-        m_label = createText(m_labelText, x, width / 2);
-        x += width / 2;
-        width -= width / 2;
-    }
-    const long checkWidth = m_secondTextNumber ? width / 2 : width;
-    m_check = std::make_unique<UICheckBoxControl>(page.window, page.takeId(), GetSite().services,
-                                                  page.font, POINT{x, place.y},
-                                                  SIZE{checkWidth, kHeight}, m_threeState);
+    const auto [checkY, checkHeight] = centred(m_checkLines, kAroundLines);
+    m_check = std::make_unique<UICheckBoxControl>(page.window, page.takeId(), services, page.font,
+                                                  POINT{x, checkY}, SIZE{checkWidth, checkHeight},
+                                                  m_threeState);
+    if (m_checkLines > 1)
+        m_check->setMultiline();
     SetWindowTextW(m_check->getHwnd(), LoadText(m_checkText).c_str());
-    if (m_secondTextNumber)
-        m_secondText = createText(m_secondTextNumber, x + checkWidth, width - checkWidth);
+    if (m_secondTextNumber) {
+        const auto [textY, textHeight] = centred(m_secondLines, 0);
+        m_secondText = std::make_unique<UITextControl>(
+            page.window, page.takeId(), services, page.font, POINT{x + checkWidth, textY},
+            SIZE{room - checkWidth, textHeight}, SS_NOTIFY, true, page.boldFont);
+        SetWindowTextW(m_secondText->getHwnd(), LoadText(m_secondTextNumber).c_str());
+    }
+    if (m_imageData) {
+        const POINT corner{x + room + kImageGap, top + (height - m_boxHeight) / 2};
+        m_image = std::make_unique<UIImageControl>(page.window, page.takeId(), services, page.font,
+                                                   corner, SIZE{m_boxHeight, m_boxHeight}, 0, true);
+        ShowOnDependants();
+    }
 }
 
 void UICheckBoxMolecule::SetPosition(POINT position)
 {
     const POINT delta{position.x - GetPosition().x, position.y - GetPosition().y};
     UIFeatureMolecule::SetPosition(position);
-    if (m_label)
-        m_label->move(delta, false);
+    m_label.Move(delta);
     if (m_check)
         m_check->move(delta, false);
     if (m_secondText)
         m_secondText->move(delta, false);
+    if (m_image)
+        m_image->move(delta, false);
 }
 
 WPARAM UICheckBoxMolecule::ReadCheck() const
@@ -128,6 +187,20 @@ void UICheckBoxMolecule::ShowCheck(WPARAM check)
         return;
     m_shownCheck = check;
     SendMessageW(m_check->getHwnd(), BM_SETCHECK, check, 0);
+    ShowOnDependants();
+}
+
+void UICheckBoxMolecule::ShowOnDependants()
+{
+    if (!m_image)
+        return;
+    // An indeterminate box has no value, and so the general picture.
+    auto value = DataModelIds::kValueUnspecified;
+    if (m_shownCheck != BST_INDETERMINATE)
+        value = IsBoolean() ? UIOptionRecord::valueOf(m_shownCheck == BST_CHECKED)
+                            : (m_shownCheck == BST_CHECKED ? m_checkedValue : m_uncheckedValue);
+    m_image->setImage(IsolationAware::moduleInstance(), ImageType::Binary,
+                      static_cast<int>(m_imageData->getImage(value)));
 }
 
 void UICheckBoxMolecule::LoadValue()
@@ -135,23 +208,32 @@ void UICheckBoxMolecule::LoadValue()
     ShowCheck(m_cleared ? BST_UNCHECKED : ReadCheck());
 }
 
+void UICheckBoxMolecule::Refresh()
+{
+    UIFeatureMolecule::Refresh();
+    if (m_check)
+        m_check->setCheck(static_cast<int>(m_shownCheck));
+}
+
 void UICheckBoxMolecule::ShowState(const InterpretedState& state, bool enabled)
 {
     m_cleared = !enabled && state.IsCleared();
     LoadValue();
-    for (UITextControl* text : {m_label.get(), m_secondText.get()})
-        if (text)
-            text->setEnable(enabled);
+    m_label.Enable(enabled);
+    if (m_secondText)
+        m_secondText->setEnable(enabled);
     if (m_check)
         m_check->setEnable(enabled);
+    if (m_image)
+        m_image->setEnable(enabled);
 }
 
 bool UICheckBoxMolecule::HandleMessage(const _UIWindowsMessage& message)
 {
-    if (message.message == WM_COMMAND) {
+    if (message.message == WM_COMMAND && m_check) {
         const HWND sender = reinterpret_cast<HWND>(message.lParam);
         const auto code = HIWORD(message.wParam);
-        if (m_check && sender == m_check->getHwnd() && code == BN_CLICKED) {
+        if (sender == m_check->getHwnd() && code == BN_CLICKED) {
             WriteCheck();
             return true;
         }
@@ -164,8 +246,10 @@ bool UICheckBoxMolecule::HandleMessage(const _UIWindowsMessage& message)
     return ProcessCommonMessage(message);
 }
 
+// What a click on the box itself does.
 void UICheckBoxMolecule::Toggle()
 {
+    Focus();
     const HWND check = m_check->getHwnd();
     const bool checked = SendMessageW(check, BM_GETCHECK, 0, 0) == BST_CHECKED;
     SendMessageW(check, BM_SETCHECK, checked ? BST_UNCHECKED : BST_CHECKED, 0);
@@ -174,7 +258,8 @@ void UICheckBoxMolecule::Toggle()
 
 void UICheckBoxMolecule::WriteCheck()
 {
-    m_shownCheck = static_cast<WPARAM>(SendMessageW(m_check->getHwnd(), BM_GETCHECK, 0, 0));
+    m_shownCheck = static_cast<WPARAM>(m_check->getCheck());
+    ShowOnDependants();
     UIValueWriter& writer = GetSite().valueWriter;
     const bool checked = m_shownCheck == BST_CHECKED;
     if (!IsBoolean())
@@ -186,14 +271,23 @@ void UICheckBoxMolecule::WriteCheck()
     LoadValue(); // the model may have refused the write
 }
 
+void UICheckBoxMolecule::SetHiddenBySetting(bool hidden)
+{
+    m_hiddenBySetting = hidden;
+    if (GetPage())
+        LoadState();
+}
+
 void UICheckBoxMolecule::Show(bool shown)
 {
     UIFeatureMolecule::Show(shown);
-    for (UITextControl* text : {m_label.get(), m_secondText.get()})
-        if (text)
-            text->setShow(shown);
+    m_label.Show(shown);
+    if (m_secondText)
+        m_secondText->setShow(shown);
     if (m_check)
         m_check->setShow(shown);
+    if (m_image)
+        m_image->setShow(shown);
 }
 
 HWND UICheckBoxMolecule::InfoAnchor() const
@@ -203,9 +297,15 @@ HWND UICheckBoxMolecule::InfoAnchor() const
 
 void UICheckBoxMolecule::DumpControls() const
 {
+    if (!m_label.IsEmpty())
+        o7::dumpControl(L"text", m_label.GetText(), CXString(), CXString(), CXString());
     const wchar_t* const names[] = {L"unchecked", L"checked", L"indeterminate"};
     o7::dumpControl(L"check", LoadText(m_checkText), CXString(names[m_shownCheck]), StateText(),
                     GetInfoText());
+    if (m_secondTextNumber)
+        o7::dumpControl(L"text", LoadText(m_secondTextNumber), CXString(), CXString(), CXString());
+    if (m_image)
+        m_image->dump();
 }
 
 CXString UICheckBoxMolecule::GetObserverClassNameHeirarchy() const

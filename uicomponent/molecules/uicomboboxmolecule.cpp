@@ -5,10 +5,6 @@
 
 #include "uicomboboxcontrol.h"
 #include "uicombocontroldata.h"
-#include "uicontroldata.h"
-#include "uimoleculedata.h"
-#include "uimoleculedump.h"
-#include "windowtext.h"
 
 namespace {
 
@@ -26,72 +22,28 @@ UIComboBoxMolecule::UIComboBoxMolecule(const UIMoleculeData& data, const UIMolec
 
 UIComboBoxMolecule::~UIComboBoxMolecule() = default;
 
-void UIComboBoxMolecule::InitializeFromDescription()
+long UIComboBoxMolecule::ReadListRecord(const UIControlData& control, bool raised)
 {
-    long least = 0;
-    bool raised = GetData().hasRaisedHeight();
-    for (const auto& control : GetData().getControls()) {
-        switch (control->getKind()) {
-        case UIControlKind::Combo:
-            SetBoundFeature(FeatureIdWithContext(FeatureId(control->getFeature())));
-            least = static_cast<long>(
-                static_cast<const UIComboControlData&>(*control).getMinimumHeight());
-            break;
-        case UIControlKind::BitmapButton:
-            raised = true;
-            break;
-        case UIControlKind::Text:
-            m_label.Set(LoadText(control->getLabel()), GetLabelWidth());
-            break;
-        default:
-            break;
-        }
-    }
-    m_boxHeight = std::max({raised ? kRaisedListHeight : kListHeight, least, kBoxHeight});
-    UpdateMinimumHeight();
-}
-
-void UIComboBoxMolecule::UpdateMinimumHeight()
-{
-    SetMinimumExtent({0, m_boxHeight + m_label.GetHeightAbove()});
-}
-
-void UIComboBoxMolecule::FitTexts(const UITextRuler& ruler, long width)
-{
-    m_label.Fit(ruler, width - kInfoLane);
-    UpdateMinimumHeight();
-}
-
-long UIComboBoxMolecule::GetWantedLabelWidth(const UITextRuler& ruler) const
-{
-    return m_label.GetWantedWidth(ruler);
+    // A List record in a molecule of this kind says only which feature.
+    const auto* combo = dynamic_cast<const UIComboControlData*>(&control);
+    if (!combo)
+        return std::max(raised ? kRaisedListHeight : kListHeight, kBoxHeight);
+    SetDisabledOptions(combo->getDisabledOptions());
+    return std::max({raised ? kRaisedListHeight : kListHeight,
+                     static_cast<long>(combo->getMinimumHeight()), kBoxHeight});
 }
 
 void UIComboBoxMolecule::CreateControls(UIPageWindow& page)
 {
     SetPage(page);
-    const POINT place = GetPosition();
-    m_label.Create(page, GetSite().services, place, GetContentWidth());
-    const long labelWidth = m_label.GetBesideWidth();
-    m_combo = std::make_unique<UIComboBoxControl>(
-        page.window, page.takeId(), GetSite().services, page.font,
-        POINT{place.x + labelWidth, place.y + GetMinimumHeight() - kBoxHeight},
-        SIZE{GetContentWidth() - labelWidth, kBoxHeight});
-    m_combo->setUnavailableReasons(GetToolTips(), [this](int index) { return ReasonOf(index); });
-    // The system's own name for a list is its present text.
-    m_combo->setAccessibleName(o7::spokenName(m_label.GetText()));
+    const RECT box = CreateLabel(page, kBoxHeight);
+    m_combo = std::make_unique<UIComboBoxControl>(page.window, page.takeId(), GetSite().services,
+                                                  page.font, POINT{box.left, box.top},
+                                                  SIZE{box.right - box.left, kBoxHeight});
+    PrepareList();
 }
 
-void UIComboBoxMolecule::SetPosition(POINT position)
-{
-    const POINT delta{position.x - GetPosition().x, position.y - GetPosition().y};
-    UIComboListBaseMolecule::SetPosition(position);
-    m_label.Move(delta);
-    if (m_combo)
-        m_combo->move(delta, false);
-}
-
-IComboListControl* UIComboBoxMolecule::List() const
+UIEntryListControl* UIComboBoxMolecule::List() const
 {
     return m_combo.get();
 }
@@ -100,23 +52,6 @@ void UIComboBoxMolecule::FillTogether(const std::function<void()>& fill)
 {
     const UIComboBoxControl::Fill filling(*m_combo);
     fill();
-}
-
-void UIComboBoxMolecule::EnableControls(bool enabled)
-{
-    m_label.Enable(enabled);
-    if (m_combo)
-        m_combo->setEnable(enabled);
-}
-
-bool UIComboBoxMolecule::HandleMessage(const _UIWindowsMessage& message)
-{
-    if (!m_combo)
-        return false;
-    const HWND combo = m_combo->getHwnd();
-    if (message.message == WM_COMMAND && reinterpret_cast<HWND>(message.lParam) == combo)
-        return HandleNotification(HIWORD(message.wParam));
-    return m_combo->handleMessage(message) || ProcessCommonMessage(message);
 }
 
 bool UIComboBoxMolecule::HandleNotification(int notification)
@@ -132,7 +67,7 @@ bool UIComboBoxMolecule::HandleNotification(int notification)
         // The mouse moves the selection of an open list without a word. Not every system tells when
         // Enter then takes it, or puts it back when Escape does not.
         if (std::exchange(m_choiceCancelled, false))
-            ShowChoice();
+            ShowLastEntry();
         else
             ChooseEntry(m_combo->getSelection(true));
         return true;
@@ -147,26 +82,8 @@ void UIComboBoxMolecule::LookChanged()
         m_combo->repaint(true);
 }
 
-void UIComboBoxMolecule::Show(bool shown)
-{
-    UIComboListBaseMolecule::Show(shown);
-    m_label.Show(shown);
-    if (m_combo)
-        m_combo->setShow(shown);
-}
-
-HWND UIComboBoxMolecule::InfoAnchor() const
-{
-    return m_combo ? m_combo->getHwnd() : nullptr;
-}
-
-void UIComboBoxMolecule::DumpControls() const
-{
-    o7::dumpControl(L"list", m_label.GetText(), ShownText(), StateText(), GetInfoText());
-    DumpOptions();
-}
-
 CXString UIComboBoxMolecule::GetObserverClassNameHeirarchy() const
 {
-    return CXString(L"UIComboBoxMolecule:UIComboListBaseMolecule:UIFeatureMolecule:UIMolecule");
+    return CXString(L"UIComboBoxMolecule:") +
+           UIComboListBaseMolecule::GetObserverClassNameHeirarchy();
 }

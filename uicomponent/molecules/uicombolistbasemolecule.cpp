@@ -1,157 +1,213 @@
 #include "uicombolistbasemolecule.h"
 
-#include "capabilitiesnode.h"
-#include "featureref.h"
-#include "featureservices.h"
-#include "icombolistcontrol.h"
-#include "optionfeatureref.h"
-#include "transactionref.h"
-#include "uidump.h"
+#include <algorithm>
+
+#include "uicontroldata.h"
+#include "uientrylistcontrol.h"
+#include "uimoleculedata.h"
 #include "uimoleculedump.h"
-#include "uivaluewriter.h"
+#include "windowtext.h"
 
 UIComboListBaseMolecule::~UIComboListBaseMolecule() = default;
 
 CXString UIComboListBaseMolecule::GetObserverClassNameHeirarchy() const
 {
-    return CXString(L"UIComboListBaseMolecule:UIFeatureMolecule:UIMolecule");
+    return CXString(L"UIComboListBaseMolecule:UIOptionMolecule:UIFeatureMolecule:UIMolecule");
 }
 
-int UIComboListBaseMolecule::ReadValue() const
+void UIComboListBaseMolecule::InitializeFromDescription()
 {
-    ValueId value;
-    const auto feature = GetSite().featureServices.GetOptionFeatureRef(GetBoundFeature());
-    if (!feature.GetValue(value, FeatureRef::kDoNotAssertIfUnsupported))
-        return DataModelIds::kNoValue;
-    return value.GetValueEnum();
-}
-
-bool UIComboListBaseMolecule::ReadOptions(std::deque<Entry>& entries) const
-{
-    const auto feature = GetSite().featureServices.GetOptionFeatureRef(GetBoundFeature());
-    const auto options = feature.GetOptionCapabilities();
-    if (!options)
-        return false;
-    for (std::size_t index = 0; index < options->GetNumberOfValues(); ++index) {
-        const OptionWithState& option = options->GetOptionWithState(index);
-        const auto value = option.GetValueId().GetValueEnum();
-        // The entry for "unspecified" goes by the state of the feature, not by one of its own.
-        const InterpretedState state = value == DataModelIds::kValueUnspecified
-                                           ? options->GetUnspecifiedInterpretedState()
-                                           : option.GetInterpretedState();
-        if (state.IsHidden())
-            continue;
-        const bool unavailable = state.IsDisabled() || state.IsCleared();
-        entries.push_back({{value, unavailable},
-                           option.GetOptionDisplayString(),
-                           unavailable ? state.GetReason() : CXString()});
+    const auto& controls = GetData().getControls();
+    const bool raised = GetData().hasRaisedHeight() ||
+                        std::any_of(controls.begin(), controls.end(), [](const auto& control) {
+                            return control->getKind() == UIControlKind::BitmapButton;
+                        });
+    for (const auto& control : controls) {
+        switch (control->getKind()) {
+        case UIControlKind::Text:
+            m_label.Set(LoadText(control->getLabel()), GetLabelWidth());
+            break;
+        case UIControlKind::Combo:
+        case UIControlKind::List:
+            SetBoundFeature(FeatureIdWithContext(FeatureId(control->getFeature())));
+            m_listHeight = ReadListRecord(*control, raised);
+            break;
+        default:
+            break;
+        }
     }
-    return true;
+    UpdateMinimumHeight();
 }
 
-bool UIComboListBaseMolecule::HasSameEntries(const std::deque<Entry>& entries) const
+void UIComboListBaseMolecule::UpdateMinimumHeight()
 {
-    if (entries.size() != m_entries.size())
+    SetMinimumExtent({0, m_listHeight + m_label.GetHeightAbove()});
+}
+
+void UIComboListBaseMolecule::FitTexts(const UITextRuler& ruler, long width)
+{
+    m_label.Fit(ruler, width - kInfoLane);
+    UpdateMinimumHeight();
+}
+
+long UIComboListBaseMolecule::GetWantedLabelWidth(const UITextRuler& ruler) const
+{
+    return m_label.GetWantedWidth(ruler);
+}
+
+RECT UIComboListBaseMolecule::CreateLabel(UIPageWindow& page, long height)
+{
+    const POINT place = GetPosition();
+    m_label.Create(page, GetSite().services, place, GetContentWidth());
+    const long bottom = place.y + GetMinimumHeight();
+    return {place.x + m_label.GetBesideWidth(), bottom - height, place.x + GetContentWidth(),
+            bottom};
+}
+
+void UIComboListBaseMolecule::PrepareList()
+{
+    List()->setUnavailableReasons(GetToolTips(), [this](int entry) { return ReasonOf(entry); });
+    // The system's own name for a list is its present text.
+    List()->setAccessibleName(o7::spokenName(m_label.GetText()));
+}
+
+bool UIComboListBaseMolecule::HandleMessage(const _UIWindowsMessage& message)
+{
+    UIEntryListControl* const list = List();
+    if (!list)
         return false;
-    for (std::size_t index = 0; index < entries.size(); ++index)
-        if (entries[index].record.id != m_entries[index].record.id)
-            return false;
-    return true;
+    if (message.message == WM_COMMAND && reinterpret_cast<HWND>(message.lParam) == list->getHwnd())
+        return HandleNotification(HIWORD(message.wParam));
+    return list->handleMessage(message) || ProcessCommonMessage(message);
 }
 
-void UIComboListBaseMolecule::FillList(std::deque<Entry> entries)
+void UIComboListBaseMolecule::SetPosition(POINT position)
 {
-    IComboListControl& list = *List();
-    if (!m_entries.empty())
-        list.removeAllItems();
-    m_entries = std::move(entries);
-    m_shownIndex = -1;
+    const POINT delta{position.x - GetPosition().x, position.y - GetPosition().y};
+    UIOptionMolecule::SetPosition(position);
+    m_label.Move(delta);
+    if (List())
+        List()->move(delta, false);
+}
+
+/// The options that have an entry now.
+std::vector<int> UIComboListBaseMolecule::WantedOptions() const
+{
+    std::vector<int> wanted;
+    const auto& options = GetOptions();
+    wanted.reserve(options.size());
+    for (int index = 0; index < static_cast<int>(options.size()); ++index) {
+        const Option& option = GetOption(index);
+        const bool removed =
+            option.hidden ||
+            (option.unavailable && m_disabledOptions == UIDisabledOptions::Remove);
+        if (!removed || IsPresent(option))
+            wanted.push_back(index);
+    }
+    return wanted;
+}
+
+bool UIComboListBaseMolecule::HasEntriesFor(const std::vector<int>& options) const
+{
+    return std::equal(
+        options.begin(), options.end(), m_entries.begin(), m_entries.end(),
+        [this](int option, const Entry& entry) { return GetOption(option).value == entry.value; });
+}
+
+void UIComboListBaseMolecule::FillList(const std::vector<int>& options)
+{
+    UIEntryListControl& list = *List();
     FillTogether([&] {
-        for (Entry& entry : m_entries)
-            list.setItemData(list.addItem(entry.text), &entry.record);
+        if (!m_entries.empty())
+            list.removeAllItems();
+        m_entries.clear();
+        m_shownEntry = -1;
+        for (const int index : options) {
+            const Option& option = GetOption(index);
+            m_entries.push_back(
+                {{option.value.GetValueEnum(), option.unavailable || option.hidden},
+                 option.value,
+                 index});
+            list.setItemData(list.addItem(option.text), &m_entries.back().record);
+        }
     });
 }
 
-void UIComboListBaseMolecule::MarkUnavailable(const std::deque<Entry>& entries)
+void UIComboListBaseMolecule::MarkEntries(const std::vector<int>& options)
 {
-    for (std::size_t index = 0; index < entries.size(); ++index) {
-        m_entries[index].reason = entries[index].reason;
-        List()->setItemUnavailable(entries[index].record.unavailable, static_cast<int>(index));
+    for (std::size_t entry = 0; entry < options.size(); ++entry) {
+        const Option& option = GetOption(options[entry]);
+        const bool unavailable = option.unavailable || option.hidden;
+        m_entries[entry].option = options[entry];
+        if (m_entries[entry].record.unavailable != unavailable)
+            List()->setItemUnavailable(unavailable, static_cast<int>(entry));
     }
 }
 
-void UIComboListBaseMolecule::SelectValue(int value)
+void UIComboListBaseMolecule::ShowOptions()
 {
-    int index = -1;
-    for (std::size_t entry = 0; entry < m_entries.size() && !m_cleared; ++entry)
-        if (m_entries[entry].record.id == value)
-            index = static_cast<int>(entry);
-    if (index == m_shownIndex)
+    const std::vector<int> wanted = WantedOptions();
+    if (HasEntriesFor(wanted))
+        MarkEntries(wanted);
+    else
+        FillList(wanted);
+}
+
+void UIComboListBaseMolecule::ShowChoice(int option)
+{
+    int shown = -1;
+    for (std::size_t entry = 0; entry < m_entries.size() && shown < 0; ++entry)
+        if (m_entries[entry].option == option)
+            shown = static_cast<int>(entry);
+    if (shown == m_shownEntry)
         return;
-    m_shownIndex = index;
-    List()->setSelection(index);
+    m_shownEntry = shown;
+    List()->setSelection(shown);
 }
 
-void UIComboListBaseMolecule::LoadValue()
+void UIComboListBaseMolecule::EnableControls(bool enabled)
 {
-    // An empty list waits for the state, which fills it: reading the options twice costs.
-    if (List() && !m_entries.empty())
-        SelectValue(ReadValue());
+    m_label.Enable(enabled);
+    List()->setEnable(enabled);
 }
 
-void UIComboListBaseMolecule::ShowState(const InterpretedState& state, bool enabled)
+void UIComboListBaseMolecule::ChooseEntry(int entry)
 {
-    if (!List())
+    if (!List() || entry < 0 || entry >= static_cast<int>(m_entries.size()) ||
+        entry == m_shownEntry)
         return;
-    std::deque<Entry> entries;
-    if (ReadOptions(entries)) {
-        if (HasSameEntries(entries))
-            MarkUnavailable(entries);
-        else
-            FillList(std::move(entries));
-    }
-    m_cleared = !enabled && state.IsCleared();
-    SelectValue(ReadValue());
-    EnableControls(enabled);
+    m_shownEntry = entry; // what the list shows by now
+    Choose(m_entries[static_cast<std::size_t>(entry)].option);
 }
 
-void UIComboListBaseMolecule::ChooseEntry(int index)
-{
-    if (!List() || index < 0 || index >= static_cast<int>(m_entries.size()) ||
-        index == m_shownIndex)
-        return;
-    m_shownIndex = index; // what the list shows by now
-    const auto value = static_cast<DataModelIds::tagValueEnum>(
-        m_entries[static_cast<std::size_t>(index)].record.id);
-    const bool available = List()->isItemAvailable(index);
-    const auto transaction = GetSite().featureServices.OpenTransaction();
-    if (available && value != DataModelIds::kNoValue)
-        GetSite().valueWriter.SetOption(GetBoundFeature(), value);
-    SelectValue(ReadValue());
-    if (transaction)
-        transaction->Close(true);
-}
-
-CXString UIComboListBaseMolecule::ShownText() const
-{
-    return m_shownIndex < 0 ? CXString() : m_entries[static_cast<std::size_t>(m_shownIndex)].text;
-}
-
-void UIComboListBaseMolecule::ShowChoice()
+void UIComboListBaseMolecule::ShowLastEntry()
 {
     if (List())
-        List()->setSelection(m_shownIndex);
+        List()->setSelection(m_shownEntry);
 }
 
-CXString UIComboListBaseMolecule::ReasonOf(int index) const
+CXString UIComboListBaseMolecule::ReasonOf(int entry) const
 {
-    const auto entry = static_cast<std::size_t>(index);
-    return index >= 0 && entry < m_entries.size() ? m_entries[entry].reason : CXString();
+    const auto index = static_cast<std::size_t>(entry);
+    return entry >= 0 && index < m_entries.size() ? GetOption(m_entries[index].option).reason
+                                                  : CXString();
 }
 
-void UIComboListBaseMolecule::DumpOptions() const
+void UIComboListBaseMolecule::Show(bool shown)
 {
-    const UIDump::Level inner;
-    for (const Entry& entry : m_entries)
-        o7::dumpOption(entry.text, entry.reason);
+    UIOptionMolecule::Show(shown);
+    m_label.Show(shown);
+    if (List())
+        List()->setShow(shown);
+}
+
+HWND UIComboListBaseMolecule::InfoAnchor() const
+{
+    return List() ? List()->getHwnd() : nullptr;
+}
+
+void UIComboListBaseMolecule::DumpControls() const
+{
+    o7::dumpControl(L"list", m_label.GetText(), ShownText(), StateText(), GetInfoText());
+    DumpOptions();
 }

@@ -4,62 +4,82 @@
 #include <functional>
 
 #include "itemrecord.h"
-#include "optioncapability.h"
-#include "uifeaturemolecule.h"
+#include "uikinds.h"
+#include "uimoleculelabel.h"
+#include "uioptionmolecule.h"
 
-class IComboListControl;
+class UIControlData;
+class UIEntryListControl;
 
-/// Base of the molecules that show the options of an option feature as entries of a list, in the
-/// order of the capability. Disabled options stay in the list, grey, and cannot be taken; hidden
-/// ones are left out. A choice is written in a transaction, and what is shown afterwards is what
-/// was read back, not what was clicked.
-class UIComboListBaseMolecule : public UIFeatureMolecule
+/// Base of the molecules that show the options of an option feature as entries of a list, open or
+/// closed, with its label: to the left of the list in a column with a label width, otherwise above
+/// it. Disabled options stay in the list, grey with their reason, or leave it, as the description
+/// says; hidden ones are left out. The present value always has its entry.
+class UIComboListBaseMolecule : public UIOptionMolecule
 {
 public:
-    using UIFeatureMolecule::UIFeatureMolecule;
+    using UIOptionMolecule::UIOptionMolecule;
     ~UIComboListBaseMolecule() override;
 
+    bool HandleMessage(const _UIWindowsMessage& message) override;
+    void SetPosition(POINT position) override;
+    void InitializeFromDescription() override;
+    void DumpControls() const override;
+    void Show(bool shown) override;
+    void FitTexts(const UITextRuler& ruler, long width) override;
+    long GetWantedLabelWidth(const UITextRuler& ruler) const override;
+    HWND InfoAnchor() const override;
     CXString GetObserverClassNameHeirarchy() const override;
 
 protected:
-    void LoadValue() override;
-    void ShowState(const InterpretedState& state, bool enabled) override;
-
     /// The list whose entries stand for the options; null before the controls exist.
-    virtual IComboListControl* List() const = 0;
-    virtual void EnableControls(bool enabled) = 0;
+    virtual UIEntryListControl* List() const = 0;
+    /// Reads the record of the list. @return the least height of the list in dialog units
+    virtual long ReadListRecord(const UIControlData& control, bool raised) = 0;
+    /// What a WM_COMMAND of the list says; true when it is dealt with.
+    virtual bool HandleNotification(int notification) = 0;
     /// Runs the filling of the list; a subclass may make it cheaper.
     virtual void FillTogether(const std::function<void()>& fill) { fill(); }
 
-    /// The user chose an entry: writes it in a transaction and shows what was read back. Nothing
-    /// happens when it is the one that is shown.
-    void ChooseEntry(int index);
+    bool HasControls() const override { return List() != nullptr; }
+    void ShowOptions() override;
+    void ShowChoice(int option) override;
+    void EnableControls(bool enabled) override;
+
+    void SetDisabledOptions(UIDisabledOptions disabledOptions)
+    {
+        m_disabledOptions = disabledOptions;
+    }
+    const UIMoleculeLabel& GetLabel() const { return m_label; }
+    /// Creates the label. @return the place of the list, which is `height` high and ends where the
+    /// molecule does
+    RECT CreateLabel(UIPageWindow& page, long height);
+    /// What each list is told once it exists: reasons of grey entries, name for screen readers.
+    void PrepareList();
+
+    /// The user chose an entry. Nothing happens when it is the one that is shown.
+    void ChooseEntry(int entry);
     /// Selects what was chosen last once more, after the user has left the list without a choice.
-    void ShowChoice();
-    /// The text of the option now shown; empty when cleared or without a value.
-    CXString ShownText() const;
-    /// Why the entry cannot be taken; empty when it can.
-    CXString ReasonOf(int index) const;
-    /// One line per option: text and, when it cannot be taken, why.
-    void DumpOptions() const;
+    void ShowLastEntry();
 
 private:
     struct Entry
     {
         ItemRecord record;
-        CXString text;
-        CXString reason;
+        ValueId value;
+        int option; ///< index in GetOptions()
     };
 
-    bool ReadOptions(std::deque<Entry>& entries) const;
-    bool HasSameEntries(const std::deque<Entry>& entries) const;
-    void FillList(std::deque<Entry> entries);
-    void MarkUnavailable(const std::deque<Entry>& entries);
-    void SelectValue(int value);
-    int ReadValue() const;
+    std::vector<int> WantedOptions() const;
+    bool HasEntriesFor(const std::vector<int>& options) const;
+    void FillList(const std::vector<int>& options);
+    void MarkEntries(const std::vector<int>& options);
+    CXString ReasonOf(int entry) const;
+    void UpdateMinimumHeight();
 
-    // Entries keep their address: the list's item data point to their records.
-    std::deque<Entry> m_entries;
-    int m_shownIndex = -1;
-    bool m_cleared = false;
+    UIMoleculeLabel m_label;
+    long m_listHeight = 0;        ///< with the room that a button beside the list wants
+    std::deque<Entry> m_entries;  ///< keep their address: the list's item data are their records
+    int m_shownEntry = -1;
+    UIDisabledOptions m_disabledOptions = UIDisabledOptions::Grey;
 };

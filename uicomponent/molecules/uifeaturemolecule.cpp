@@ -1,13 +1,13 @@
 #include "uifeaturemolecule.h"
 
-#include "capabilitiesnode.h"
 #include "datamodelids.h"
 #include "featurechangenotification.h"
-#include "featureref.h"
 #include "featureservices.h"
 #include "notificationbundle.h"
 #include "setofsettingids.h"
 #include "uitooltips.h"
+
+#include <utility>
 
 UIFeatureMolecule::~UIFeatureMolecule() = default;
 
@@ -23,6 +23,7 @@ void UIFeatureMolecule::ConnectToDataModel()
     m_connected = true;
     LoadValue();
     LoadState();
+    m_fresh = true;
 }
 
 void UIFeatureMolecule::DisconnectFromDataModel()
@@ -39,15 +40,29 @@ void UIFeatureMolecule::DisconnectFromDataModel()
 
 void UIFeatureMolecule::AddFurtherFeature(const FeatureIdWithContext& feature)
 {
-    m_furtherFeatures.push_back(feature);
+    m_furtherFeatures.push_back(InFeatureList(feature));
 }
 
 void UIFeatureMolecule::Refresh()
 {
-    if (!m_connected)
+    if (!m_connected || std::exchange(m_fresh, false))
         return;
     LoadValue();
     LoadState();
+}
+
+void UIFeatureMolecule::SetShownOnPage(bool shown)
+{
+    UIMolecule::SetShownOnPage(shown);
+    if (m_connected)
+        LoadState();
+}
+
+void UIFeatureMolecule::SetForceDisabled(bool disabled)
+{
+    UIMolecule::SetForceDisabled(disabled);
+    if (m_connected)
+        LoadState();
 }
 
 void UIFeatureMolecule::CollectSettings(SetOfSettingIds& settings) const
@@ -88,27 +103,45 @@ CXString UIFeatureMolecule::GetObserverClassNameHeirarchy() const
 
 void UIFeatureMolecule::LoadState()
 {
-    const auto feature = GetSite().featureServices.GetFeatureRef(GetBoundFeature());
-    const auto capabilities = feature ? feature->GetCapabilities() : nullptr;
-    if (!capabilities)
+    auto state = ReadState();
+    if (!state)
         return; // a feature that cannot be read keeps the state it shows
-    m_state = capabilities->GetInterpretedState();
-    m_enabled = !m_state.IsDisabled() && !capabilities->IsReadOnly() && !IsForceDisabled();
+    m_state = *std::move(state);
+    const bool enabled = !m_state.IsDisabled();
+    const bool shown = !m_state.IsHidden() && IsShownOnPage() && !IsHiddenBySetting();
+    // Windows takes the focus from a window that it disables, and then nobody has it.
+    const bool losesFocus = m_enabled && m_shown && !(enabled && shown) && GetPage() && OwnsControl(GetFocus());
+    m_enabled = enabled;
     ShowState(m_state, m_enabled);
     UpdateInfoButton(GetBoundFeature(), m_state);
     ShowReasonTip();
+    ShowOrHide(shown);
+    if (losesFocus)
+        HandOnFocus();
+}
 
-    const bool shown = !m_state.IsHidden() && IsShownOnPage() && !IsHiddenBySetting();
+// Of a control that the model hides its mark stays: a gap in the page without a word about it would
+// leave the person guessing.
+void UIFeatureMolecule::ShowOrHide(bool shown)
+{
     if (shown != m_shown) {
         m_shown = shown;
         Show(shown);
     }
+    if (!shown)
+        ShowInfoButton(IsShownOnPage() && !IsHiddenBySetting());
+}
+
+void UIFeatureMolecule::HandOnFocus()
+{
+    if (!Focus())
+        SendMessageW(GetPage(), WM_NEXTDLGCTL, 0, FALSE);
 }
 
 // A greyed control tells under the pointer why it is grey; an enabled one leaves that to its mark.
 void UIFeatureMolecule::ShowReasonTip()
 {
-    const CXString reason = m_enabled ? CXString() : GetInfoText();
+    const CXString reason = m_enabled ? CXString() : GetShownInfoText();
     if (!GetToolTips() || !InfoAnchor() || reason == m_reasonTip)
         return;
     m_reasonTip = reason;

@@ -14,7 +14,11 @@ public:
 
     void ConnectToDataModel() override;
     void DisconnectFromDataModel() override;
+    /// Reads value and state again; the first time after a connect they are fresh and stay.
     void Refresh() override;
+    // Both take effect at once, also while connected.
+    void SetShownOnPage(bool shown) override;
+    void SetForceDisabled(bool disabled) override;
     void CollectSettings(SetOfSettingIds& settings) const override;
     void ProcessNotification(const INotification& notification, unsigned int kind) override;
     CXString GetObserverClassNameHeirarchy() const override;
@@ -39,11 +43,14 @@ protected:
 private:
     void ProcessChange(const INotification& notification);
     void ShowReasonTip();
+    void ShowOrHide(bool shown);
+    void HandOnFocus();
 
     std::vector<FeatureIdWithContext> m_furtherFeatures;
     InterpretedState m_state;
     CXString m_reasonTip; ///< what the tip of the greyed control says now
     bool m_connected = false;
+    bool m_fresh = false; ///< loaded by the connect and not looked at by a refresh yet
     bool m_enabled = true;
     bool m_shown = true;
 };

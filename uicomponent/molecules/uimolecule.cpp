@@ -1,5 +1,6 @@
 #include "uimolecule.h"
 
+#include "capabilitiesnode.h"
 #include "dialogconversion.h"
 #include "featureservices.h"
 #include "productstringloader.h"
@@ -7,7 +8,9 @@
 #include "uidump.h"
 #include "uiinfobuttoncontrol.h"
 #include "uimoleculedata.h"
+#include "uipagelook.h"
 #include "uiservices.h"
+#include "uistringnumbers.h"
 #include "uitooltips.h"
 
 namespace {
@@ -20,11 +23,29 @@ constexpr UINT kCommonMessages[] = {
     WM_CTLCOLORSTATIC, WM_QUERYNEWPALETTE, WM_PALETTECHANGED, WM_THEMECHANGED,
 };
 
+UIMolecule::InfoStyle infoStyleFor(const InterpretedState& state)
+{
+    if (state.HasCbrBtnMsg())
+        return UIMolecule::InfoStyle::Conflict;
+    return state.HasInfoBtnMsg() || !state.GetReason().IsEmpty()
+               ? UIMolecule::InfoStyle::Information
+               : UIMolecule::InfoStyle::None;
+}
+
+CXString infoTextFor(const InterpretedState& state)
+{
+    if (state.HasCbrBtnMsg())
+        return state.GetCbrBtnMsg();
+    return state.HasInfoBtnMsg() ? state.GetInfoBtnMsg() : state.GetReason();
+}
+
 } // namespace
 
 UIMolecule::UIMolecule(const UIMoleculeData& data, const UIMoleculeSite& site)
     : m_data(data), m_site(site)
 {
+    if (data.hasOwnFeatureList())
+        m_ownFeatures = site.features;
 }
 
 UIMolecule::~UIMolecule() = default;
@@ -81,9 +102,10 @@ bool UIMolecule::ProcessCommonMessage(const _UIWindowsMessage& message)
 {
     switch (message.message) {
     case WM_COMMAND:
-        return m_infoButton && m_infoButton->handleMessage(message);
     case WM_DRAWITEM:
         return m_infoButton && m_infoButton->handleMessage(message);
+    case WM_CTLCOLORSTATIC:
+        return ColourControl(message);
     case WM_QUERYNEWPALETTE:
         InvalidateRect(message.window, nullptr, TRUE);
         message.result = 1;
@@ -95,12 +117,34 @@ bool UIMolecule::ProcessCommonMessage(const _UIWindowsMessage& message)
         return false;
     }
     case WM_SYSCOLORCHANGE:
-    case WM_THEMECHANGED:
+        if (m_look)
+            m_look->coloursChanged();
         LookChanged();
         return false; // the other molecules have to know as well
+    case WM_THEMECHANGED:
+        if (m_look)
+            m_look->themeChanged();
+        LookChanged();
+        return false;
     default:
         return false;
     }
+}
+
+// A themed page is painted in the window colour, so its texts stand on that. A dialog and a page of
+// the classic look are not, and a field that is not for writing shows that by another ground.
+bool UIMolecule::ColourControl(const _UIWindowsMessage& message) const
+{
+    const auto control = reinterpret_cast<HWND>(message.lParam);
+    if (message.kind != UIMessageKind::TabPage || !m_look || !m_look->isThemed() ||
+        !OwnsControl(control) ||
+        (SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL))
+        return false;
+    const auto dc = reinterpret_cast<HDC>(message.wParam);
+    SetTextColor(dc, GetSysColor(COLOR_WINDOWTEXT));
+    SetBkColor(dc, GetSysColor(COLOR_WINDOW));
+    message.result = reinterpret_cast<LRESULT>(m_look->getWindowBrush());
+    return true;
 }
 
 bool UIMolecule::Validate()
@@ -136,23 +180,11 @@ void UIMolecule::CollectSettings(SetOfSettingIds&) const
 {
 }
 
-UIMolecule::InfoStyle UIMolecule::WantedInfoStyle(const InterpretedState& state) const
+void UIMolecule::UpdateInfoButton(const FeatureIdWithContext& feature,
+                                  const InterpretedState& state)
 {
-    if (state.HasCbrBtnMsg())
-        return InfoStyle::Conflict;
-    const bool limited = state.IsDisabled() || state.IsCleared();
-    return state.HasInfoBtnMsg() || limited ? InfoStyle::Information : InfoStyle::None;
-}
-
-void UIMolecule::UpdateInfoButton(const FeatureIdWithContext&, const InterpretedState& state)
-{
-    m_infoStyle = WantedInfoStyle(state);
-    m_infoText = CXString();
-    if (m_infoStyle == InfoStyle::Conflict)
-        m_infoText = state.GetCbrBtnMsg();
-    else if (m_infoStyle == InfoStyle::Information)
-        m_infoText = state.HasInfoBtnMsg() ? state.GetInfoBtnMsg() : state.GetReason();
-
+    m_infoStyle = infoStyleFor(state);
+    m_infoText = infoTextFor(state);
     if (m_infoStyle == InfoStyle::None) {
         m_infoButton.reset(); // takes its tip with it
         return;
@@ -162,7 +194,7 @@ void UIMolecule::UpdateInfoButton(const FeatureIdWithContext&, const Interpreted
     if (m_infoButton)
         m_infoButton->setMessage(
             static_cast<std::uint32_t>(m_infoStyle), m_infoText,
-            m_site.strings.GetStringForFeature(m_feature.GetFeatureId().GetFeatureEnum()));
+            m_site.strings.GetStringForFeature(feature.GetFeatureEnum()));
 }
 
 void UIMolecule::CreateInfoButton()
@@ -189,6 +221,7 @@ void UIMolecule::CreateInfoButton()
 void UIMolecule::SetPage(UIPageWindow& page)
 {
     m_page = page.window;
+    m_look = page.look;
     m_infoButtonId = page.takeId();
 }
 
@@ -197,8 +230,63 @@ CXString UIMolecule::LoadText(unsigned number) const
     return number ? DecorateText(m_site.strings.LoadStringW(number)) : CXString();
 }
 
+void UIMolecule::SetControlIds(int first, int end)
+{
+    m_firstId = first;
+    m_endId = end;
+}
+
+bool UIMolecule::OwnsControl(HWND window) const
+{
+    while (window && GetParent(window) != m_page)
+        window = GetParent(window);
+    const int id = window ? GetDlgCtrlID(window) : 0;
+    return id >= m_firstId && id < m_endId;
+}
+
+bool UIMolecule::LacksControl() const
+{
+    return IsBound() && m_page && !InfoAnchor();
+}
+
+FeatureIdWithContext UIMolecule::InFeatureList(const FeatureIdWithContext& feature) const
+{
+    if (!m_data.hasOwnFeatureList() || feature.GetContextPtr())
+        return feature;
+    if (!m_ownFeatures.IsSupported())
+        return {}; // rather bound to nothing than to the job's setting of the same number
+    const FeatureIdWithContext& list = m_ownFeatures.GetFeatureIdWithContextRef();
+    const bool isJob = list.GetFeatureEnum() == DataModelIds::kNoFeature;
+    return isJob ? feature : FeatureIdWithContext(list, feature.GetFeatureId());
+}
+
+void UIMolecule::SetBoundFeature(const FeatureIdWithContext& feature)
+{
+    m_feature = InFeatureList(feature);
+}
+
+std::optional<InterpretedState> UIMolecule::ReadState() const
+{
+    const auto feature = IsBound() ? m_site.featureServices.GetFeatureRef(m_feature) : nullptr;
+    const auto capabilities = feature ? feature->GetCapabilities() : nullptr;
+    if (!capabilities)
+        return std::nullopt;
+    InterpretedState state = capabilities->GetInterpretedState();
+    const bool readOnly = capabilities->IsReadOnly();
+    if (!state.IsDisabled() && (readOnly || m_forceDisabled))
+        state.Disable(LoadText(readOnly ? O7STR_M_READ_ONLY : O7STR_M_NOT_HERE));
+    CompleteState(*capabilities, state);
+    return state;
+}
+
+void UIMolecule::CompleteState(const CapabilitiesNode&, InterpretedState&) const
+{
+}
+
 ListOfFeaturesRef UIMolecule::GetMoleculeFeatures()
 {
+    if (m_data.hasOwnFeatureList())
+        return m_ownFeatures;
     return m_site.featureServices.GetListOfFeaturesFor(m_feature);
 }
 
@@ -224,7 +312,10 @@ bool UIMolecule::HasConflictMessage() const
 
 CXString UIMolecule::GetInfoText() const
 {
-    return m_infoText;
+    const auto state = ReadState();
+    if (!state)
+        return {};
+    return HasConflictMessage() ? state->GetCbrBtnMsg() : infoTextFor(*state);
 }
 
 CXString UIMolecule::DecorateText(const CXString& text) const
@@ -262,7 +353,9 @@ bool UIMolecule::HasPendingInput() const
 bool UIMolecule::Focus()
 {
     HWND target = InfoAnchor();
-    if (!target || !IsWindowEnabled(target))
+    // Not IsWindowVisible: the page itself may be about to be shown.
+    if (!target || !IsWindowEnabled(target) ||
+        !(GetWindowLongPtrW(target, GWL_STYLE) & WS_VISIBLE))
         target = m_infoButton ? m_infoButton->getHwnd() : nullptr;
     if (!m_page || !target)
         return false;

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "cxstring.h"
@@ -17,9 +18,11 @@
 #include "uipagewindow.h"
 #include "uiwindowsmessage.h"
 
+class CapabilitiesNode;
 class SetOfSettingIds;
 class UIInfoButtonControl;
 class UIMoleculeData;
+class UIPageLook;
 class UITextRuler;
 class UIToolTips;
 
@@ -82,7 +85,8 @@ public:
                                   const InterpretedState& state);
     /// Reads the control records: bound feature, options, heights.
     virtual void InitializeFromDescription() = 0;
-    /// The list in which the molecule resolves its features.
+    /// The list in which the molecule resolves its features: its own copy of the one that the page
+    /// works on when the description says so, otherwise the one that the model has for its feature.
     virtual ListOfFeaturesRef GetMoleculeFeatures();
     /// Distance in dialog units by which the molecule stands in from its column's left edge.
     virtual long GetIndent() const;
@@ -90,8 +94,9 @@ public:
     virtual SIZE GetExtraExtent() const;
     virtual bool HasInfoMessage() const;
     virtual bool HasConflictMessage() const;
-    /// Why the molecule is limited: the conflict text, else the information text, else the reason
-    /// of its state; empty when nothing limits it.
+    /// Why the molecule is limited, asked of the model now: the conflict text when it reports a
+    /// conflict, else the information text, else the reason why it is disabled, cleared or hidden.
+    /// Empty when nothing limits it.
     virtual CXString GetInfoText() const;
     /// Lets a subclass change a text before it is shown.
     virtual CXString DecorateText(const CXString& text) const;
@@ -122,6 +127,13 @@ public:
     /// The room that the label wants beside its box; 0 without a label.
     virtual long GetWantedLabelWidth(const UITextRuler& ruler) const;
 
+    /// The child-window ids that CreateControls took: from the first up to, not including, the end.
+    void SetControlIds(int first, int end);
+    /// Whether a window is one of the molecule's own controls, or stands inside one.
+    bool OwnsControl(HWND window) const;
+    /// Whether the control that stands for the feature could not be created.
+    bool LacksControl() const;
+
     /// Room in dialog units for a label beside its box; 0 puts labels above. Set by the column
     /// before InitializeFromDescription.
     void SetLabelWidth(long width) { m_labelWidth = width; }
@@ -146,6 +158,18 @@ protected:
     const UIMoleculeSite& GetSite() const { return m_site; }
     UIToolTips* GetToolTips() const { return m_toolTips; }
     bool IsForceDisabled() const { return m_forceDisabled; }
+    /// The state of the bound feature now, disabled also where the feature is only for reading or
+    /// the molecule forced to be so, with a reason for that. None without a feature.
+    std::optional<InterpretedState> ReadState() const;
+    /// Lets a subclass add what its controls show of the capabilities beside the state itself.
+    virtual void CompleteState(const CapabilitiesNode& capabilities, InterpretedState& state) const;
+    /// Where the molecule finds a feature that its description names: inside the page's list when
+    /// it works on that. For a feature beside the bound one; SetBoundFeature does it by itself.
+    FeatureIdWithContext InFeatureList(const FeatureIdWithContext& feature) const;
+    /// What the info button says now; empty when there is none.
+    const CXString& GetShownInfoText() const { return m_infoText; }
+    /// Null before the controls are created.
+    UIPageLook* GetLook() const { return m_look; }
     bool IsShownOnPage() const { return m_shownOnPage; }
     bool IsBound() const;
     HWND GetPage() const { return m_page; }
@@ -155,14 +179,15 @@ protected:
     long GetContentWidth() const { return m_width - kInfoLane; }
     /// The text of a string resource, decorated; empty for number 0.
     CXString LoadText(unsigned number) const;
-    void SetBoundFeature(const FeatureIdWithContext& feature) { m_feature = feature; }
+    void SetBoundFeature(const FeatureIdWithContext& feature);
 
 private:
-    InfoStyle WantedInfoStyle(const InterpretedState& state) const;
+    bool ColourControl(const _UIWindowsMessage& message) const;
     void CreateInfoButton();
 
     const UIMoleculeData& m_data;
     UIMoleculeSite m_site;
+    ListOfFeaturesRef m_ownFeatures;
     POINT m_position{};
     long m_width = 0;
     long m_labelWidth = 0;
@@ -173,7 +198,10 @@ private:
     FeatureIdWithContext m_feature;
     UIToolTips* m_toolTips = nullptr;
     HWND m_page = nullptr;
+    UIPageLook* m_look = nullptr;
     int m_infoButtonId = 0;
+    int m_firstId = 0;
+    int m_endId = 0;
     InfoStyle m_infoStyle = InfoStyle::None;
     CXString m_infoText;
 };

@@ -1,14 +1,16 @@
 #include "uimoleculecontainer.h"
 
 #include "iuicontainercompanion.h"
-#include "operatingsystem.h"
+#include "trace.h"
 #include "uicontainer.h"
 #include "uimolecule.h"
 #include "uitooltips.h"
 
 UIMoleculeContainer::UIMoleculeContainer(FeatureServices& featureServices,
-                                         const ProductStringLoader& strings, UIServices& services)
-    : m_valueWriter(featureServices), m_site{services, featureServices, strings, m_valueWriter}
+                                         const ProductStringLoader& strings, UIServices& services,
+                                         const ListOfFeaturesRef& features)
+    : m_valueWriter(featureServices),
+      m_site{services, featureServices, strings, m_valueWriter, features}
 {
 }
 
@@ -46,9 +48,11 @@ bool UIMoleculeContainer::initialize(HWND window)
         return false;
     m_page.window = window;
     m_toolTips = std::make_unique<UIToolTips>(window);
-    m_themed = OperatingSystem::IsUiThemeEnabled();
+    m_look.themeChanged();
+    m_page.look = &m_look;
     createControls();
     connectAll();
+    refreshAll();
     return true;
 }
 
@@ -68,7 +72,12 @@ void UIMoleculeContainer::createControls()
     makeBoldFont();
     for (UIMolecule* molecule : m_molecules) {
         molecule->SetToolTips(m_toolTips.get());
+        const int firstId = m_page.nextId;
         molecule->CreateControls(m_page);
+        molecule->SetControlIds(firstId, m_page.nextId);
+        if (molecule->LacksControl())
+            o7::trace(CXString::Formatted(L"the control of %s could not be created",
+                                          molecule->GetDumpDisplayString(false).c_str()));
     }
 }
 
@@ -127,6 +136,10 @@ bool UIMoleculeContainer::validateAll()
 bool UIMoleculeContainer::offerToMolecules(const _UIWindowsMessage& message) const
 {
     if (!m_wanted.wants(message.message))
+        return false;
+    // Without a window it comes from a menu or an accelerator. A control that could not be created
+    // has no window either, and must not take it for its own.
+    if (message.message == WM_COMMAND && !message.lParam)
         return false;
     if (message.message == WM_MOUSEMOVE &&
         m_toolTips) { // over a disabled control it comes to the page

@@ -8,6 +8,7 @@
 #include "uihandles.h"
 #include "uimessagemask.h"
 #include "uimoleculesite.h"
+#include "uipagelook.h"
 #include "uipagewindow.h"
 #include "uivaluewriter.h"
 #include "uiwindowsmessage.h"
@@ -24,13 +25,15 @@ class UIToolTips;
 class UIMoleculeContainer
 {
 public:
+    /// @param features  the list that the window works on; the container keeps its own reference.
     UIMoleculeContainer(FeatureServices& featureServices, const ProductStringLoader& strings,
-                        UIServices& services);
+                        UIServices& services, const ListOfFeaturesRef& features);
     UIMoleculeContainer(const UIMoleculeContainer&) = delete;
     UIMoleculeContainer& operator=(const UIMoleculeContainer&) = delete;
     virtual ~UIMoleculeContainer();
 
-    /// Takes the window over, creates the controls, connects them and brings them up to date.
+    /// Takes the window over, creates the controls, connects them, and calls the refresh hook of
+    /// every molecule.
     /// @return false when the container refuses the window.
     virtual bool initialize(HWND window);
     virtual void connectAll();
@@ -68,9 +71,9 @@ protected:
     UIPageWindow& getPage() { return m_page; }
     UIServices& getServices() const { return m_site.services; }
     FeatureServices& getFeatureServices() const { return m_site.featureServices; }
+    const ListOfFeaturesRef& getFeatures() const { return m_site.features; }
     const ProductStringLoader& getStrings() const { return m_site.strings; }
     UIToolTips* getToolTips() const { return m_toolTips.get(); }
-    bool isThemed() const { return m_themed; }
 
 private:
     void createControls();
@@ -80,10 +83,10 @@ private:
     UIMoleculeSite m_site;
     std::unique_ptr<UIContainer> m_container;
     std::vector<UIMolecule*> m_molecules;
+    UIPageLook m_look;
     UIPageWindow m_page;
     o7::UniqueFont m_boldFont;
     std::unique_ptr<UIToolTips> m_toolTips;
-    bool m_themed = false;
     bool m_connected = false;
     IUIContainerCompanion* m_companion = nullptr;
     UIMessageMask m_wanted;

@@ -21,6 +21,12 @@ void appendQuoted(std::wstring& line, const CXString& text)
     line += L'"';
 }
 
+void appendState(std::wstring& line, const CXString& state)
+{
+    if (!state.IsEmpty())
+        line.append(L" [").append(state.c_str()).append(L"]");
+}
+
 void appendReason(std::wstring& line, const CXString& reason)
 {
     if (reason.IsEmpty())
@@ -45,20 +51,18 @@ void dumpControl(const wchar_t* kind, const CXString& label, const CXString& val
         line += L" = ";
         appendQuoted(line, value);
     }
-    if (!state.IsEmpty())
-        line.append(L" [").append(state.c_str()).append(L"]");
+    appendState(line, state);
     appendReason(line, reason);
     UIDump::line(line);
 }
 
-void dumpOption(const CXString& text, const CXString& reason)
+void dumpOption(const CXString& text, const CXString& state, const CXString& reason)
 {
     if (!UIDump::isCollecting())
         return;
     std::wstring line(L"- ");
     appendQuoted(line, text);
-    if (!reason.IsEmpty())
-        line += L" [disabled]";
+    appendState(line, state);
     appendReason(line, reason);
     UIDump::line(line);
 }

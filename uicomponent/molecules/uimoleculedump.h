@@ -10,7 +10,7 @@ namespace o7 {
 void dumpControl(const wchar_t* kind, const CXString& label, const CXString& value,
                  const CXString& state, const CXString& reason);
 
-/// `- "Two staples"` with `[disabled] because "..."` when the reason is not empty.
-void dumpOption(const CXString& text, const CXString& reason);
+/// `- "Two staples" [disabled] because "..."`; empty parts are left out.
+void dumpOption(const CXString& text, const CXString& state, const CXString& reason);
 
 } // namespace o7

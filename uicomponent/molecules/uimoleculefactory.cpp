@@ -9,6 +9,9 @@
 #include "uieditmolecule.h"
 #include "uigroupboxmolecule.h"
 #include "uimoleculedata.h"
+#include "uipickonemolecule.h"
+#include "uipickoneradiomolecule.h"
+#include "uiradiobuttonmolecule.h"
 #include "uirangeofintegermolecule.h"
 #include "uislidermolecule.h"
 #include "uispinmolecule.h"
@@ -28,17 +31,20 @@ constexpr struct
     UIMoleculeKind kind;
     std::unique_ptr<UIMolecule> (*create)(const UIMoleculeData&, const UIMoleculeSite&);
 } kClasses[] = {
-    // kind                     class
-    { UIMoleculeKind::CheckBox,  make<UICheckBoxMolecule> },
-    { UIMoleculeKind::ComboBox,  make<UIComboBoxMolecule> },
-    { UIMoleculeKind::GroupBox,  make<UIGroupBoxMolecule> },
-    { UIMoleculeKind::Container, make<UIContainerMolecule> },
-    { UIMoleculeKind::Text,      make<UITextMolecule> },
-    { UIMoleculeKind::Spin,      make<UISpinMolecule> },
-    { UIMoleculeKind::DimensionSpin, make<UIDimensionSpinMolecule> },
-    { UIMoleculeKind::Slider,    make<UISliderMolecule> },
-    { UIMoleculeKind::Edit,      make<UIEditMolecule> },
+    // kind                          class
+    { UIMoleculeKind::CheckBox,       make<UICheckBoxMolecule> },
+    { UIMoleculeKind::ComboBox,       make<UIComboBoxMolecule> },
+    { UIMoleculeKind::GroupBox,       make<UIGroupBoxMolecule> },
+    { UIMoleculeKind::Container,      make<UIContainerMolecule> },
+    { UIMoleculeKind::PickOne,        make<UIPickOneMolecule> },
+    { UIMoleculeKind::PickOneRadio,   make<UIPickOneRadioMolecule> },
+    { UIMoleculeKind::RadioButtons,   make<UIRadioButtonMolecule> },
+    { UIMoleculeKind::Spin,           make<UISpinMolecule> },
+    { UIMoleculeKind::Slider,         make<UISliderMolecule> },
+    { UIMoleculeKind::Edit,           make<UIEditMolecule> },
     { UIMoleculeKind::RangeOfInteger, make<UIRangeOfIntegerMolecule> },
+    { UIMoleculeKind::DimensionSpin,  make<UIDimensionSpinMolecule> },
+    { UIMoleculeKind::Text,           make<UITextMolecule> },
 };
 // clang-format on
 

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include "listoffeaturesref.h"
+
 class FeatureServices;
 class ProductStringLoader;
 class UIServices;
@@ -14,4 +16,7 @@ struct UIMoleculeSite
     FeatureServices& featureServices;
     const ProductStringLoader& strings;
     UIValueWriter& valueWriter;
+    /// The list that the page or dialog works on: the job's, or one special page, one named paper.
+    /// Molecules whose description says so look their features up in it.
+    ListOfFeaturesRef features{};
 };

@@ -77,9 +77,19 @@ void UIDialogTemplate::makePopup(bool owned)
     const Layout& layout = isExtended() ? kExtended : kPlain;
     WORD* const style = words() + layout.style;
     writeLong(style, (readLong(style) & ~kPageStyles) | kPopupStyles);
-    WORD* const exStyle = words() + layout.exStyle;
-    const DWORD extra = WS_EX_CONTROLPARENT | (owned ? 0U : WS_EX_APPWINDOW);
-    writeLong(exStyle, readLong(exStyle) | extra);
+    addExtendedStyle(WS_EX_CONTROLPARENT | (owned ? 0U : WS_EX_APPWINDOW));
+}
+
+void UIDialogTemplate::mirror()
+{
+    if (m_memory)
+        addExtendedStyle(WS_EX_LAYOUTRTL);
+}
+
+void UIDialogTemplate::addExtendedStyle(DWORD style)
+{
+    WORD* const at = words() + (isExtended() ? kExtended : kPlain).exStyle;
+    writeLong(at, readLong(at) | style);
 }
 
 const DLGTEMPLATE* UIDialogTemplate::get() const

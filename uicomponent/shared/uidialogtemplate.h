@@ -15,6 +15,8 @@ public:
 
     /// Width and height in dialog units.
     void setSize(long width, long height);
+    /// Lays the page or dialog out from right to left, with all that is created on it.
+    void mirror();
     /// Makes a captioned popup window of what is a page otherwise.
     /// @param owned  false for a dialog that stands alone and so belongs into the task bar.
     void makePopup(bool owned);
@@ -25,6 +27,7 @@ public:
 private:
     WORD* words() const;
     bool isExtended() const;
+    void addExtendedStyle(DWORD style);
 
     o7::UniqueGlobalMemory m_memory;
 };

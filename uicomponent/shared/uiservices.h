@@ -1,5 +1,7 @@
 #pragma once
 
+#include <windows.h>
+
 #include "cxstring.h"
 #include "uiapi.h"
 #include "uiregionalsettings.h"
@@ -16,7 +18,9 @@ class ProductData;
 class O7UI_API UIServices
 {
 public:
-    UIServices();
+    /// @param language  of the texts ("de"): a page in one that is written from right to left is
+    ///                  laid out that way. Empty: from left to right.
+    explicit UIServices(const CXString& language = {});
     UIServices(const UIServices& other) noexcept;
     UIServices& operator=(const UIServices& other) noexcept;
     ~UIServices();
@@ -29,6 +33,14 @@ public:
     /// For WM_SETTINGCHANGE, and for tests.
     void setRegionalSettings(const UIRegionalSettings& settings) { m_regionalSettings = settings; }
 
+    /// Whether pages and dialogs are mirrored: their language is written from right to left.
+    bool isRightToLeft() const noexcept { return m_rightToLeft; }
+
+    /// MessageBoxW, laid out in the direction of the texts. Whatever called may be gone when it
+    /// returns: the pages live on while it is open.
+    /// @param flags  MB_... bits. @return the button that was pressed, as MessageBoxW does.
+    int showMessage(HWND owner, const CXString& text, const CXString& title, UINT flags) const;
+
     /// The help file of the product: the value of string feature 696; empty when the product has
     /// no such feature.
     static CXString GetHelpFile(FeatureServices& featureServices, ProductData& productData);
@@ -36,4 +48,5 @@ public:
 private:
     DialogConversion* m_dialogConversion;
     UIRegionalSettings m_regionalSettings;
+    bool m_rightToLeft;
 };
