@@ -43,9 +43,14 @@ SheetRig::~SheetRig()
 
 INT_PTR SheetRig::run(DWORD flags)
 {
-    UITabManager::Descriptions descriptions;
-    for (const auto& tab : m_description.getTabs())
-        descriptions.push_back(tab.get());
+    const auto listed = [](const UIDataList<UIContainerData>& containers) {
+        UITabManager::Descriptions descriptions;
+        for (const auto& container : containers)
+            descriptions.push_back(container.get());
+        return descriptions;
+    };
+    m_tabs->buildOffTabs(listed(m_description.getOffTabs()));
+    const auto descriptions = listed(m_description.getTabs());
     std::array<HPROPSHEETPAGE, 16> pages{};
     PROPSHEETHEADERW header{};
     header.dwSize = sizeof header;

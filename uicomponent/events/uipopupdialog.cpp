@@ -5,10 +5,12 @@
 #include "dialogconversion.h"
 #include "productstringloader.h"
 #include "uibuttoncontrol.h"
+#include "uiconflictwalk.h"
 #include "uicontainerdata.h"
 #include "uicontext.h"
 #include "uidump.h"
 #include "uilayoutmanager.h"
+#include "uimolecule.h"
 #include "uiservices.h"
 
 namespace {
@@ -62,7 +64,11 @@ bool UIPopupDialog::handleMessage(const _UIWindowsMessage& message)
     case WM_CLOSE:
         EndDialog(getWindow(), 0);
         return true;
+    case UIConflictWalk::kMessage:
+        goToConflict(message.wParam != 0);
+        return true;
     case WM_DESTROY: // the controls go while their windows still exist
+        m_conflictKey.reset();
         releaseMolecules();
         m_buttons.clear();
         return false;
@@ -78,6 +84,7 @@ bool UIPopupDialog::open(const _UIWindowsMessage& message)
     if (!initialize(window))
         return false;
     createButtons();
+    m_conflictKey.emplace(window, WORD{VK_F8}, window, UIConflictWalk::kMessage);
     placeOnScreen();
     focusFirst();
     // What the procedure answers for a claimed message would give the focus back to a window that
@@ -141,6 +148,15 @@ bool UIPopupDialog::processCommand(const _UIWindowsMessage& message) const
     default:
         return false;
     }
+}
+
+void UIPopupDialog::goToConflict(bool backwards) const
+{
+    const UIConflictWalk walk(getFeatureServices(), {this});
+    if (const auto next = walk.next(walk.placeOfFocus(0), backwards))
+        walk.moleculeAt(*next).Focus();
+    else
+        MessageBeep(MB_OK);
 }
 
 void UIPopupDialog::dump() const

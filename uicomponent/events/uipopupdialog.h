@@ -1,9 +1,11 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "listoffeaturesref.h"
+#include "uifunctionkey.h"
 #include "uimessagehandler.h"
 #include "uimoleculecontainer.h"
 
@@ -37,9 +39,11 @@ private:
     void focusFirst() const;
     void placeOnScreen() const;
     bool processCommand(const _UIWindowsMessage& message) const;
+    void goToConflict(bool backwards) const;
 
     const UIContainerData& m_data;
     bool m_wholeUi;
     void* m_param;
     std::vector<std::unique_ptr<UIButtonControl>> m_buttons;
+    std::optional<UIFunctionKey> m_conflictKey;
 };

@@ -33,12 +33,17 @@ namespace {
 constexpr std::size_t kMostPages = 16;
 constexpr auto kRootGroup = static_cast<DataModelIds::tagFeatureEnum>(2);
 
+UITabManager::Descriptions listed(const UIDataList<UIContainerData>& containers)
+{
+    UITabManager::Descriptions descriptions;
+    for (const auto& container : containers)
+        descriptions.push_back(container.get());
+    return descriptions;
+}
+
 UITabManager::Descriptions tabsOf(const UIData& data)
 {
-    UITabManager::Descriptions tabs;
-    for (const auto& tab : data.getTabs())
-        tabs.push_back(tab.get());
-    return tabs;
+    return listed(data.getTabs());
 }
 
 HINSTANCE instanceOf(void* moduleHandle)
@@ -103,10 +108,19 @@ void UIManager::initializePartI(FeatureServices& featureServices, ProductStringL
     m_popupLauncher->setEventProcessor(m_eventProcessor.get());
     m_dataSource->setEventProcessor(m_eventProcessor.get());
     m_specialFeatureHandler->setEventProcessor(m_eventProcessor.get());
-    if (wantsPages)
-        m_tabManager = std::make_unique<UITabManager>(
-            *m_services, *m_messageManager, m_moduleInstance, featureServices, *m_context,
-            m_productData, *m_eventProcessor, m_mode, m_option);
+    if (!wantsPages)
+        return;
+    m_tabManager = std::make_unique<UITabManager>(*m_services, *m_messageManager, m_moduleInstance,
+                                                  featureServices, *m_context, m_productData,
+                                                  *m_eventProcessor, m_mode, m_option);
+    m_tabManager->buildOffTabs(listed(m_uiData->getOffTabs()));
+    if (!m_personalSettings.IsEmpty())
+        m_tabManager->rememberLastPage(m_personalSettings);
+}
+
+void UIManager::setPersonalSettings(const CXString& registryPath)
+{
+    m_personalSettings = registryPath;
 }
 
 void UIManager::initializePartII(FeatureServices& featureServices)

@@ -5,10 +5,10 @@
 #include <memory>
 #include <vector>
 
+#include "cxstring.h"
 #include "uiapi.h"
 #include "uimode.h"
 
-class CXString;
 class DataSource;
 class FeatureServices;
 class ProductData;
@@ -77,6 +77,11 @@ public:
     void initialize(HWND parent, FeatureServices& featureServices, ProductStringLoader& strings,
                     void* activationContext);
 
+    /// Has the pages open where the person left them: the last page is kept per printer and mode
+    /// under this key of the current user's hive. For before the entry operation; without it, or
+    /// with an empty path, every sheet opens on its first page and nothing is kept.
+    void setPersonalSettings(const CXString& registryPath);
+
     /// Appends the observers that the manager owns, for registration with the data model.
     void addDataSources(std::vector<DataSource*>& sources) const;
 
@@ -110,4 +115,5 @@ private:
     Workflow m_workflow;
     unsigned long m_option;
     ProductData& m_productData;
+    CXString m_personalSettings;
 };

@@ -3,6 +3,7 @@
 #include <prsht.h>
 
 #include "featureservices.h"
+#include "setofsettingids.h"
 #include "uicontainerdata.h"
 #include "uicontext.h"
 #include "uidump.h"
@@ -59,6 +60,18 @@ bool UITab::build(const UIContainerData& data, UINT_PTR tabId)
     layout.layOut();
     registerForEvents();
     return true;
+}
+
+std::uint32_t UITab::getPageId() const
+{
+    return m_data ? m_data->getId() : 0;
+}
+
+void UITab::collectSettings(SetOfSettingIds& settings) const
+{
+    UIMoleculeContainer::collectSettings(settings);
+    for (const auto& feature : m_data->getSimpleFeatures())
+        settings.InsertSetting(FeatureIdWithContext(FeatureId(feature->getFeature())));
 }
 
 void UITab::registerForEvents()
@@ -173,8 +186,9 @@ bool UITab::setActive(const _UIWindowsMessage& message)
 
 void UITab::dump() const
 {
-    UIDump::line(
-        CXString::Formatted(L"tab \"%s\" %ld x %ld", m_title.c_str(), m_width, m_height).View());
+    UIDump::line(CXString::Formatted(L"tab \"%s\" %ld x %ld%s", m_title.c_str(), m_width, m_height,
+                                     m_inConflict ? L", in conflict" : L"")
+                     .View());
     const UIDump::Level inner;
     if (getWindow())
         dumpMolecules();

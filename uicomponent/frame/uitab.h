@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <cstdint>
+
 #include "cxstring.h"
 #include "iobserver.h"
 #include "listoffeaturesref.h"
@@ -35,11 +37,18 @@ public:
     /// Called once the data model has settled: what is on screen already is brought up to date.
     void settled();
 
+    /// Adds the features without a control, which belong to the page all the same.
+    void collectSettings(SetOfSettingIds& settings) const override;
+
     const CXString& getTitle() const { return m_title; }
     void setTitle(const CXString& title) { m_title = title; }
     long getWidth() const { return m_width; }   ///< dialog units
     long getHeight() const { return m_height; } ///< dialog units
     UIPageRecord& getPageRecord() { return m_pageRecord; }
+    /// The description's number of the page; unique in its sheet.
+    std::uint32_t getPageId() const;
+    /// Whether the page shows a setting that is in conflict; for descriptions.
+    void setInConflict(bool inConflict) { m_inConflict = inConflict; }
     /// Why the tab is not shown; empty when it is.
     const CXString& getMisfit() const { return m_misfit; }
     /// The template of the page, which has to live as long as the page can be created.
@@ -72,4 +81,5 @@ private:
     UIDialogTemplate m_template;
     bool m_notifySuppressed;
     bool m_registered = false;
+    bool m_inConflict = false;
 };

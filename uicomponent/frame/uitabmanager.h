@@ -7,17 +7,22 @@
 #include <memory>
 #include <vector>
 
+#include "uiapplybutton.h"
 #include "uidatalist.h"
 #include "uimessagehandler.h"
 #include "uimessagemask.h"
 #include "uimode.h"
+#include "uisheetapply.h"
+#include "uisheetareas.h"
 
+class CXString;
 class FeatureServices;
 class ProductData;
 class UIContainerData;
 class UIEventProcessor;
 class UIMessageManager;
 class UIServices;
+class UISheetGuide;
 class UITab;
 struct UIContext;
 
@@ -40,7 +45,7 @@ public:
     ~UITabManager() override;
 
     bool handleMessage(const _UIWindowsMessage& message) override;
-    /// Dumps every tab, in creation order.
+    /// Dumps every tab, in creation order, and then the areas under them.
     void dump() const override;
 
     /// Pages for PropertySheetW. @return how many; their handles are written to `pages`, and belong
@@ -61,6 +66,14 @@ public:
     /// Called when the data model has settled: what is on screen already is brought up to date.
     virtual void buildTabs(const Descriptions& descriptions);
 
+    /// Makes the areas that stand in the sheet's own window, under the pages. They get their
+    /// windows with the first page. To be called before pages are created, once.
+    void buildOffTabs(const Descriptions& descriptions);
+
+    /// From now on the sheet opens on the page that the person left it on: per printer and mode, in
+    /// the current user's hive. For before the first page. @param path  the key above the printers'
+    void rememberLastPage(const CXString& path);
+
     long getLargestWidth() const { return m_largestWidth; }   ///< dialog units
     long getLargestHeight() const { return m_largestHeight; } ///< dialog units
     const std::vector<std::unique_ptr<UITab>>& getTabs() const { return m_tabs; }
@@ -68,8 +81,8 @@ public:
 protected:
     /// Messages of the pages.
     virtual bool handlePageMessage(const _UIWindowsMessage& message);
-    /// Messages of the sheet window. Without off-tab areas the sheet is not subclassed and none
-    /// arrive.
+    /// Messages of the sheet window and of the areas in it, and each page's WM_INITDIALOG: with the
+    /// first one the areas are opened. Without areas the sheet is not subclassed and none arrive.
     virtual bool handleOffTabMessage(const _UIWindowsMessage& message);
 
     /// Offers a message to the tabs in creation order, up to the first that claims it.
@@ -83,10 +96,8 @@ private:
     bool initializePage(const _UIWindowsMessage& message);
     void postFirstPaint(const _UIWindowsMessage& message);
     bool applyPage(const _UIWindowsMessage& message);
-    void rejectApply();
-    void completeApply(const _UIWindowsMessage& message);
-    bool showApplyWarning(HWND page) const;
-    void updateApplyButton(HWND page);
+    bool hasPendingInput() const;
+    void areasOpened(HWND page);
 
     std::vector<HPROPSHEETPAGE> m_pages;
     HANDLE m_cpsuiSheet = nullptr;
@@ -104,7 +115,10 @@ private:
     HANDLE m_activationContext = nullptr; ///< the caller's, for what the pages create
     bool m_tabFlag = false;
     bool m_firstPaintPending = true;
-    bool m_modifiedShown = false;
+    UISheetAreas m_areas;
+    std::unique_ptr<UISheetGuide> m_guide; ///< goes before the tabs and the areas
+    UIApplyButton m_applyButton;
+    UISheetApply m_apply;
     long m_largestWidth = 0;
     long m_largestHeight = 0;
     UIMessageMask m_wanted;

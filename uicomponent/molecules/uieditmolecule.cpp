@@ -168,7 +168,10 @@ void UIEditMolecule::ShowState(const InterpretedState& state, bool enabled)
     if (!m_field)
         return;
     // What can only be read can still be selected and copied.
-    const bool readOnly = !enabled && !state.IsDisabled() && !IsForceDisabled();
+    const auto capabilities =
+        GetSite().featureServices.GetFeatureRef(GetBoundFeature())->GetCapabilities();
+    const bool readOnly = capabilities->IsReadOnly() && !IsForceDisabled() &&
+                          !capabilities->GetInterpretedState().IsDisabled();
     m_field->SetReadOnly(readOnly);
     m_field->Enable(enabled || readOnly);
 }

@@ -133,6 +133,8 @@ public:
     bool OwnsControl(HWND window) const;
     /// Whether the control that stands for the feature could not be created.
     bool LacksControl() const;
+    /// What the messages of the info button are about; the name of the setting.
+    virtual CXString GetInfoTitle(const FeatureIdWithContext& feature) const;
 
     /// Room in dialog units for a label beside its box; 0 puts labels above. Set by the column
     /// before InitializeFromDescription.

@@ -45,6 +45,8 @@ public:
     /// The molecules' per-page hook: the page is being left.
     virtual void leavePageAll();
 
+    /// Whether something typed has not been taken into the model yet.
+    bool hasPendingInput() const;
     /// Asks the molecules in order, up to the first refusal.
     bool validateAll();
     /// Offers a message to the molecules in order, up to the first that claims it.

@@ -83,7 +83,7 @@ void UIRangeOfIntegerMolecule::InitializeFromDescription()
     for (const auto& control : GetData().getControls()) {
         switch (control->getKind()) {
         case UIControlKind::Check:
-            m_switch.Set(FeatureIdWithContext{FeatureId(control->getFeature())},
+            m_switch.Set(InFeatureList(FeatureIdWithContext{FeatureId(control->getFeature())}),
                          LoadText(control->getLabel()));
             break;
         case UIControlKind::Text:
@@ -108,7 +108,7 @@ void UIRangeOfIntegerMolecule::AddEnd(const UISpinControlData& data, const CXStr
     if (m_known == m_ends.size())
         return;
     End& end = m_ends[m_known++];
-    end.feature = FeatureIdWithContext{FeatureId(data.getFeature())};
+    end.feature = InFeatureList(FeatureIdWithContext{FeatureId(data.getFeature())});
     end.data = &data;
     end.label = label;
     end.labelWidth = kLetterWidth * label.GetLength();

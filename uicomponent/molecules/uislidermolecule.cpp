@@ -42,7 +42,8 @@ UISliderMolecule::~UISliderMolecule() = default;
 void UISliderMolecule::InitializeFromDescription()
 {
     for (const auto& control : GetData().getControls()) {
-        const FeatureIdWithContext feature{FeatureId(control->getFeature())};
+        const auto feature =
+            InFeatureList(FeatureIdWithContext{FeatureId(control->getFeature())});
         switch (control->getKind()) {
         case UIControlKind::Slider:
             m_sliderData = static_cast<const UISliderControlData*>(control.get());

@@ -30,7 +30,8 @@ UISpinMolecule::~UISpinMolecule() = default;
 void UISpinMolecule::InitializeFromDescription()
 {
     for (const auto& control : GetData().getControls()) {
-        const FeatureIdWithContext feature{FeatureId(control->getFeature())};
+        const auto feature =
+            InFeatureList(FeatureIdWithContext{FeatureId(control->getFeature())});
         switch (control->getKind()) {
         case UIControlKind::Spin:
         case UIControlKind::DimensionSpin:

@@ -6,6 +6,7 @@
 
 #include "productstringloader.h"
 #include "uieditcontrol.h"
+#include "uiservices.h"
 #include "uistringnumbers.h"
 #include "uitooltips.h"
 #include "windowtext.h"
@@ -170,9 +171,9 @@ bool UITypedField::Refuse()
     BringPageToFront();
     const CXString text =
         m_verdict.fault + Consequence(O7STR_M_VALUE_STAYS, PresentTextInSentence());
-    MessageBoxW(
-        GetAncestor(m_page, GA_ROOT), text.c_str(),
-        m_site->strings.GetStringForFeature(m_feature.GetFeatureId().GetFeatureEnum()).c_str(),
+    m_site->services.showMessage(
+        GetAncestor(m_page, GA_ROOT), text,
+        m_site->strings.GetStringForFeature(m_feature.GetFeatureId().GetFeatureEnum()),
         MB_OK | MB_ICONWARNING);
     SendMessageW(m_page, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(GetHwnd()), TRUE);
     m_edit->selectAll();

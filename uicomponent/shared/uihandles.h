@@ -84,6 +84,10 @@ struct WindowTraits : NullableHandle<HWND>
 {
     static void close(HWND window) noexcept { ::DestroyWindow(window); }
 };
+struct HookTraits : NullableHandle<HHOOK>
+{
+    static void close(HHOOK hook) noexcept { ::UnhookWindowsHookEx(hook); }
+};
 struct ActivationContextTraits
 {
     using Type = HANDLE;
@@ -102,6 +106,7 @@ using UniqueFile = UniqueHandle<FileTraits>;
 using UniqueGlobalMemory = UniqueHandle<GlobalMemoryTraits>;
 using UniqueModule = UniqueHandle<ModuleTraits>;
 using UniqueWindow = UniqueHandle<WindowTraits>;
+using UniqueHook = UniqueHandle<HookTraits>; ///< from SetWindowsHookEx
 using UniqueActivationContext = UniqueHandle<ActivationContextTraits>;
 
 static_assert(sizeof(UniqueWindow) == sizeof(HWND) && sizeof(UniqueFont) == sizeof(HFONT));

@@ -1,0 +1,243 @@
+// What a sheet tells around its pages: conflicts on tabs and by key, the defaults of a page, the
+// page that was looked at last. Pages of the tests' own over the features of a real product.
+
+#include <windows.h>
+
+#include <commctrl.h>
+#include <prsht.h>
+
+#include <array>
+
+#include "idledriver.h"
+#include "input.h"
+#include "integerfeatureref.h"
+#include "registrykey.h"
+#include "resourceguard.h"
+#include "sheetrig.h"
+#include "tables/productids.h"
+#include "tables/tablerows.h"
+#include "uidata.h"
+#include "uifixture.h"
+#include "uimanager.h"
+#include "uirecords.h"
+#include "uistringnumbers.h"
+#include "uitab.h"
+#include "uitabmanager.h"
+
+namespace o7::test {
+
+namespace {
+
+using Steps = std::vector<IdleDriver::Step>;
+
+constexpr int kEnvelope = 5136; // a paper type
+constexpr int kTray1 = 5121;
+
+// "Layout" shows nothing that can be in conflict; "Image" shows the paper type again.
+constexpr UIMoleculeRecord kPaperRows[] = {combo<kPaperTray, O7STR_L_PAPER_TRAY>(),
+                                           check<kTonerSaving, O7STR_L_TONER_SAVING>(),
+                                           combo<kPaperType, O7STR_L_PAPER_TYPE>()};
+constexpr UIMoleculeRecord kLayoutRows[] = {check<kPageBorders, O7STR_L_PAGE_BORDERS>(),
+                                            check<kCollate, O7STR_L_COLLATE>()};
+constexpr UIMoleculeRecord kImageRows[] = {combo<kPaperSize, O7STR_L_PAPER_SIZE>(),
+                                           check<kAccounting, O7STR_L_ACCOUNTING>()};
+constexpr UIColumnRecord kPaperColumns[] = {left(kPaperRows)};
+constexpr UIColumnRecord kLayoutColumns[] = {left(kLayoutRows)};
+constexpr UIColumnRecord kImageColumns[] = {left(kImageRows)};
+constexpr UISimpleFeatureRecord kWithoutControl[] = {{kSkipBlankPages}};
+constexpr UIContainerRecord kPages[] = {
+    page(11, O7STR_TAB_PAPER, kPaperColumns),
+    {.id = 12,
+     .title = O7STR_TAB_LAYOUT,
+     .width = kPageWidth,
+     .height = kPageHeight,
+     .columns = kLayoutColumns,
+     .simpleFeatures = kWithoutControl},
+    page(13, O7STR_TAB_IMAGE, kImageColumns),
+};
+constexpr UIContainerRecord kDialogs[] = {quick(120, kPaperColumns)};
+constexpr UIRootRecord kRoot = preferences(DataModelIds::kValueFamily8430, kPages, kDialogs);
+
+IdleDriver::Step until(std::function<bool(HWND)> condition)
+{
+    return [condition = std::move(condition)](HWND dialog) { return dialog && condition(dialog); };
+}
+
+IdleDriver::Step act(std::function<void(HWND)> action)
+{
+    return until([action = std::move(action)](HWND dialog) {
+        action(dialog);
+        return true;
+    });
+}
+
+IdleDriver::Step key(WORD virtualKey, bool shift = false)
+{
+    return act([=](HWND) { shift ? sendKey(virtualKey, {VK_SHIFT}) : sendKey(virtualKey); });
+}
+
+IdleDriver::Step selectPage(WPARAM index)
+{
+    return act([=](HWND sheet) { SendMessageW(sheet, PSM_SETCURSEL, index, 0); });
+}
+
+/// The texts of all tabs.
+std::wstring tabTexts(HWND sheet)
+{
+    const auto tabs = reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETTABCONTROL, 0, 0));
+    const auto count = static_cast<WPARAM>(SendMessageW(tabs, TCM_GETITEMCOUNT, 0, 0));
+    std::wstring texts;
+    for (WPARAM index = 0; index < count; ++index) {
+        std::array<wchar_t, 64> text{};
+        TCITEMW item{};
+        item.mask = TCIF_TEXT;
+        item.pszText = text.data();
+        item.cchTextMax = static_cast<int>(text.size());
+        SendMessageW(tabs, TCM_GETITEMW, index, reinterpret_cast<LPARAM>(&item));
+        texts += std::wstring(item.pszText) + L"|";
+    }
+    return texts;
+}
+
+int activePage(HWND sheet)
+{
+    const auto tabs = reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETTABCONTROL, 0, 0));
+    return static_cast<int>(SendMessageW(tabs, TCM_GETCURSEL, 0, 0));
+}
+
+} // namespace
+
+class SheetGuideTest : public UIFixture
+{
+protected:
+    SheetGuideTest() : m_data(kRoot, UIMode::PrintingPreferences, Workflow::Standard) {}
+
+    /// Paper tray and paper type on the first page, accounting on the third.
+    void makeConflicts()
+    {
+        setOption(kPaperSize, kPaperEnvelopeDL);
+        setOption(kPaperType, kEnvelope);
+        setOption(kPaperTray, kTray1);
+        setOption(kPaperSize, kPaperA3);
+        setBoolean(kAccountRequired, true);
+    }
+
+    void setBoolean(tagFeatureEnum feature, bool value)
+    {
+        ASSERT_TRUE(
+            model().GetFullListOfFeatures().GetBooleanFeature(FeatureId(feature)).SetValue(value));
+    }
+
+    void runSheet(Steps steps)
+    {
+        SheetRig rig(session().productData(), session().featureServices(), session().strings(),
+                     m_data);
+        if (m_personalKey)
+            rig.tabs().rememberLastPage(m_personalKey);
+        const IdleDriver driver(std::move(steps));
+        rig.run(PSH_NOAPPLYNOW);
+        EXPECT_EQ(driver.failure(), "");
+    }
+
+    UIData m_data;
+    const wchar_t* m_personalKey = nullptr;
+};
+
+TEST_F(SheetGuideTest, TabsAreMarkedAsLongAsTheirPageHasAConflict)
+{
+    runSheet({
+        until([](HWND sheet) { return tabTexts(sheet) == L"Paper/Output|Layout|Image|"; }),
+        act([&](HWND) { makeConflicts(); }),
+        until([](HWND sheet) { return tabTexts(sheet) == L"Paper/Output !|Layout|Image !|"; }),
+        act([&](HWND) { setBoolean(kAccountRequired, false); }),
+        until([](HWND sheet) { return tabTexts(sheet) == L"Paper/Output !|Layout|Image|"; }),
+        act([&](HWND) { model().RevertToAccepted(); }),
+        until([](HWND sheet) { return tabTexts(sheet) == L"Paper/Output|Layout|Image|"; }),
+        key(VK_F8), // goes nowhere
+        key(VK_ESCAPE),
+    });
+}
+
+TEST_F(SheetGuideTest, F8GoesFromConflictToConflictThroughAllPages)
+{
+    makeConflicts();
+    struct Stop
+    {
+        bool backwards;
+        int page;
+        const wchar_t* label;
+    };
+    constexpr Stop kWay[] = {
+        {false, 0, L"Paper tray:"}, {false, 0, L"Paper type:"},   {false, 2, L"Use accounting"},
+        {false, 0, L"Paper tray:"}, {true, 2, L"Use accounting"}, {true, 0, L"Paper type:"},
+        {true, 0, L"Paper tray:"},
+    };
+    Steps steps;
+    // From the head of the page; the focus of the sheet stands on its first control, which is one.
+    steps.push_back(act([](HWND sheet) {
+        SetFocus(reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETTABCONTROL, 0, 0)));
+    }));
+    for (const Stop& stop : kWay) {
+        steps.push_back(key(VK_F8, stop.backwards));
+        steps.push_back(until([stop](HWND sheet) {
+            const HWND list = findListBehind(sheet, stop.label);
+            const HWND wanted = list ? list : findControl(sheet, L"BUTTON", stop.label);
+            return activePage(sheet) == stop.page && wanted && GetFocus() == wanted;
+        }));
+    }
+    steps.push_back(key(VK_ESCAPE));
+    runSheet(std::move(steps));
+}
+
+TEST_F(SheetGuideTest, ADialogOverTheSheetHasItsOwnConflicts)
+{
+    makeConflicts();
+    UIManager manager(session().productData(), nullptr, UIMode::CompactDialog, 0,
+                      Workflow::Standard);
+    const IdleDriver driver({
+        key(VK_F8),
+        until([](HWND dialog) { return GetFocus() == findListBehind(dialog, L"Paper tray:"); }),
+        key(VK_ESCAPE),
+    });
+    manager.runAsDialog(session().featureServices(), session().strings(), nullptr);
+    EXPECT_EQ(driver.failure(), "");
+}
+
+TEST_F(SheetGuideTest, TheLastPageIsKeptForPrinterAndModeAndByNumber)
+{
+    constexpr wchar_t kKey[] = L"Software\\Orvik\\SheetGuideTest";
+    RegistryKey(HKEY_CURRENT_USER, kKey).DeleteKey();
+    const auto opensOn = [&](int page, Steps further = {}) {
+        further.insert(further.begin(),
+                       until([=](HWND sheet) { return activePage(sheet) == page; }));
+        further.push_back(key(VK_ESCAPE));
+        runSheet(std::move(further));
+    };
+    opensOn(0, {selectPage(2)}); // nothing is kept unless it is asked for
+    opensOn(0);
+    m_personalKey = kKey;
+    opensOn(0, {selectPage(2)});
+    opensOn(2);
+    RegistryKey printer(HKEY_CURRENT_USER, kKey + CXString(L"\\") + L"Orvik Office C430");
+    EXPECT_EQ(printer.GetLongValue(L"LastPage1", 0), 13);
+    printer.SetLongValue(L"LastPage1", 12);
+    opensOn(1);
+    printer.SetLongValue(L"LastPage1", 99); // a page that an older version had
+    opensOn(0);
+    RegistryKey(HKEY_CURRENT_USER, kKey).DeleteKey();
+}
+
+TEST_F(SheetGuideTest, NothingIsLeftBehind)
+{
+    makeConflicts();
+    const auto openAndClose = [&] {
+        runSheet({key(VK_F8), key(VK_F8), key(VK_F8), key(VK_ESCAPE)});
+    };
+    openAndClose();
+    const ResourceGuard guard(ResourceGuard::Windows | ResourceGuard::GdiObjects);
+    for (int round = 0; round < 3; ++round)
+        openAndClose();
+    makeConflicts(); // nobody is told any more
+}
+
+} // namespace o7::test

@@ -1,0 +1,84 @@
+#include "uiconflictwalk.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "featureservices.h"
+#include "setofsettingids.h"
+#include "uimolecule.h"
+#include "uimoleculecontainer.h"
+
+namespace {
+
+/// The child of the page that is the window or holds it; null when it is not on the page.
+HWND childOfPage(HWND page, HWND window)
+{
+    while (window && GetAncestor(window, GA_PARENT) != page)
+        window = GetAncestor(window, GA_PARENT);
+    return window;
+}
+
+bool showsOneOf(const UIMolecule& molecule, const std::vector<FeatureIdWithContext>& features)
+{
+    SetOfSettingIds settings;
+    molecule.CollectSettings(settings);
+    return std::any_of(features.begin(), features.end(),
+                       [&](const auto& feature) { return settings.Contains(feature); });
+}
+
+} // namespace
+
+UIConflictWalk::UIConflictWalk(FeatureServices& featureServices, Containers containers)
+    : m_containers(std::move(containers))
+{
+    auto features = featureServices.GetFeaturesInConflict();
+    std::erase_if(features,
+                  [&](const auto& feature) { return !featureServices.TestFeature(feature); });
+    Place place;
+    for (place.container = 0; place.container < std::ssize(m_containers); ++place.container) {
+        place.molecule = 0;
+        for (const UIMolecule* molecule :
+             m_containers[static_cast<std::size_t>(place.container)]->getMolecules()) {
+            if (showsOneOf(*molecule, features))
+                m_stops.push_back(place);
+            ++place.molecule;
+        }
+    }
+}
+
+std::optional<UIConflictWalk::Place> UIConflictWalk::next(const Place& from, bool backwards) const
+{
+    if (m_stops.empty())
+        return std::nullopt;
+    if (!backwards) {
+        const auto after = std::upper_bound(m_stops.begin(), m_stops.end(), from);
+        return after == m_stops.end() ? m_stops.front() : *after;
+    }
+    const auto notBefore = std::lower_bound(m_stops.begin(), m_stops.end(), from);
+    return notBefore == m_stops.begin() ? m_stops.back() : *std::prev(notBefore);
+}
+
+// Controls are created in the order of the molecules, so the focus belongs to the last molecule
+// whose anchor does not stand behind it.
+UIConflictWalk::Place UIConflictWalk::placeOfFocus(std::size_t container) const
+{
+    Place place{static_cast<std::ptrdiff_t>(container), -1};
+    const UIMoleculeContainer& page = *m_containers[container];
+    const auto& molecules = page.getMolecules();
+    HWND window = childOfPage(page.getWindow(), GetFocus());
+    for (; window && place.molecule < 0; window = GetWindow(window, GW_HWNDPREV)) {
+        const auto found =
+            std::find_if(molecules.begin(), molecules.end(), [=](const UIMolecule* molecule) {
+                return molecule->InfoAnchor() == window;
+            });
+        if (found != molecules.end())
+            place.molecule = found - molecules.begin();
+    }
+    return place;
+}
+
+UIMolecule& UIConflictWalk::moleculeAt(const Place& place) const
+{
+    return *m_containers[static_cast<std::size_t>(place.container)]
+                ->getMolecules()[static_cast<std::size_t>(place.molecule)];
+}
