@@ -131,7 +131,7 @@ TEST_P(Products, AreWhole)
 {
     const auto package = loadPackage(GetParam().name);
     ASSERT_TRUE(package);
-    EXPECT_THAT(package->GetFeatureCount(), testing::AllOf(testing::Ge(60U), testing::Le(150U)));
+    EXPECT_THAT(package->GetFeatureCount(), testing::AllOf(testing::Ge(60U), testing::Le(160U)));
     EXPECT_THAT(package->GetConstraintCount(), testing::AllOf(testing::Ge(80U), testing::Le(300U)));
     const ProductInfo& info = package->GetProductInfo();
     EXPECT_EQ(info.id.ToUtf8(), GetParam().name);

@@ -17,8 +17,7 @@ static_assert(kStyle == 0x80000003);
 constexpr int kMaximumWidth = 800; ///< pixels; longer texts go on in the next line
 constexpr int kTrackingOffset = 16;
 
-/// A page laid out from right to left is read that way.
-/// A tool without its text. The size is the one that every version of the library knows.
+/// A tool without its text. A page laid out from right to left is read that way. The size is the one that every version of the library knows.
 TTTOOLINFOW toolInfo(HWND owner, HWND tool, UINT flags)
 {
     TTTOOLINFOW info{};
@@ -34,6 +33,15 @@ TTTOOLINFOW windowTool(HWND owner, HWND tool, HINSTANCE instance, INT_PTR text)
     TTTOOLINFOW info = toolInfo(owner, tool, TTF_IDISHWND | TTF_SUBCLASS);
     info.hinst = instance;
     info.lpszText = reinterpret_cast<wchar_t*>(text);
+    return info;
+}
+
+/// The tool that stands for the area of a control. Windows have even handles, so its number keeps
+/// it apart from the tool of the window itself.
+TTTOOLINFOW areaTool(HWND owner, HWND control)
+{
+    TTTOOLINFOW info = toolInfo(owner, control, 0);
+    info.uId |= 1;
     return info;
 }
 
@@ -163,13 +171,22 @@ void UIToolTips::AddToolTipAndTruncatedLabel(ControlType type, HWND control, INT
     }
 }
 
-void UIToolTips::setAreaTip(HWND control, const CXString& text)
+void UIToolTips::setWholeText(HWND control, const CXString& text)
 {
-    TTTOOLINFOW info = toolInfo(m_owner, control, 0);
+    DeleteToolFromToolTip(control);
+    m_wholeTexts[control] = text;
+    AddToolAndTipMessage(control, nullptr, asText(text));
+}
+
+void UIToolTips::setAreaTip(HWND control, const CXString& reason)
+{
+    TTTOOLINFOW info = areaTool(m_owner, control);
     send(getHwnd(), TTM_DELTOOLW, 0, info);
-    if (text.IsEmpty()) {
+    if (reason.IsEmpty()) {
         return;
     }
+    const auto whole = m_wholeTexts.find(control);
+    const CXString text = whole == m_wholeTexts.end() ? reason : whole->second + L"\n" + reason;
     ::GetWindowRect(control, &info.rect);
     ::MapWindowPoints(nullptr, m_owner, reinterpret_cast<POINT*>(&info.rect), 2);
     info.lpszText = const_cast<wchar_t*>(text.c_str());

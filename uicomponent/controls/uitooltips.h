@@ -7,8 +7,10 @@
 #include <windows.h>
 
 #include <functional>
+#include <map>
 
-class CXString;
+#include "cxstring.h"
+
 struct _UIWindowsMessage;
 
 /// The one tool-tip window of a page or dialog, shared by its controls. The tools' windows must be
@@ -55,6 +57,10 @@ public:
     void AddToolTipAndTruncatedLabel(ControlType type, HWND control, INT_PTR extraText, SIZE area,
                                      const CXString& label, HFONT font);
 
+    /// Gives a control whose text is cut a tip that holds the whole of it; what setAreaTip is given
+    /// for the same control then stands behind it. A static control has to have SS_NOTIFY.
+    void setWholeText(HWND control, const CXString& text);
+
     /// The tip of a control that may be disabled. A disabled window lets the mouse through to the
     /// page, so the tip belongs to the control's area of the page, and works as long as the page's
     /// mouse messages are handed to relayMouse. An empty text takes the tip away.
@@ -84,4 +90,5 @@ private:
 
     HWND m_owner;
     o7::UniqueWindow m_window;
+    std::map<HWND, CXString> m_wholeTexts; ///< of the controls whose texts are cut
 };

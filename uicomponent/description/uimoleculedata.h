@@ -27,6 +27,9 @@ public:
     UIMoleculeKind getKind() const { return m_record->kind; }
     std::uint32_t getTitle() const { return m_record->title; } ///< Caption's string number.
     bool hasFeatureState() const { return m_record->featureState > 0; }
+    /// Room in dialog units for a label beside its box, in whatever column it stands; 0: the
+    /// column decides.
+    std::int32_t getLabelWidth() const { return m_record->labelWidth; }
     std::uint32_t getIndent() const { return m_record->indent; }
     bool hasRaisedHeight() const { return m_record->raisedHeight; }
     bool hasOwnFeatureList() const { return m_record->ownFeatureList; }

@@ -41,6 +41,7 @@ struct UIMoleculeRecord
     const UIContainerRecord* nested = nullptr; ///< Kind Container only.
     std::uint32_t title = 0;                   ///< Caption of a group box; plain text.
     std::int8_t featureState = 0; ///< Positive: the molecule counts as having a feature's state.
+    std::int32_t labelWidth = 0;  ///< Room for its label beside the box; 0: as its column says.
     std::uint8_t indent = 0;      ///< Levels of indentation under the molecule above.
     bool raisedHeight = false;    ///< Leaves room for a button beside the control.
     bool ownFeatureList = false;  ///< Works on the list of features being edited, not the job's.

@@ -39,9 +39,8 @@ UIPopupDialog::UIPopupDialog(FeatureServices& featureServices, UIContext& contex
       m_wholeUi(wholeUi),
       m_param(param)
 {
-    buildFrom(data);
-    const UILayoutManager layout(*getContainer(), data.getDialogActions().empty() ? 0 : kButtonRow);
-    layout.layOut();
+    buildFrom(data, data.getDialogActions().empty() ? 0 : kButtonRow);
+    getLayout().layOut();
 }
 
 UIPopupDialog::~UIPopupDialog() = default;

@@ -53,11 +53,10 @@ bool UITab::build(const UIContainerData& data, UINT_PTR tabId)
     m_width = data.getWidth();
     m_height = data.getHeight();
     buildFrom(data);
-    const UILayoutManager layout(*getContainer());
-    m_misfit = layout.findMisfit();
+    m_misfit = getLayout().findMisfit();
     if (!m_misfit.IsEmpty())
         return false;
-    layout.layOut();
+    getLayout().layOut();
     registerForEvents();
     return true;
 }

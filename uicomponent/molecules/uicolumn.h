@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "uimolecule.h"
+#include "uitextruler.h"
 
 class UIColumnData;
 
@@ -23,8 +24,21 @@ public:
     const UIColumnData& getData() const { return m_data; }
     /// Height of the content in dialog units.
     long getHeight() const;
+    /// Lets the molecules take the heights that their texts need in the page's font. When that is
+    /// more than there is room for, gaps become smaller first, then labels keep to one line.
+    /// @param ruler  notes whether a text is cut
+    /// @param room   dialog units that the content may be high
+    void fitTexts(const UITextRuler& ruler, long room);
+    /// One attempt at that, as the column around a nested one makes it.
+    /// @param fit  gaps and lines; the room for labels is this column's own affair
+    void fitTexts(const UITextRuler& ruler, UIColumnFit fit);
+    /// Places the molecules from that corner of the page downwards.
+    void place(POINT corner) const;
 
 private:
+    long labelWidthFor(const UITextRuler& ruler) const;
+
     const UIColumnData& m_data;
     std::vector<std::unique_ptr<UIMolecule>> m_molecules;
+    UIMoleculeGaps m_gaps;
 };

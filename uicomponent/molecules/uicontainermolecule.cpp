@@ -5,7 +5,7 @@
 #include "uicolumndata.h"
 #include "uicontainer.h"
 #include "uimoleculedata.h"
-#include "uimoleculestack.h"
+#include "uitextruler.h"
 
 UIContainerMolecule::UIContainerMolecule(const UIMoleculeData& data, const UIMoleculeSite& site)
     : UIMolecule(data, site)
@@ -18,11 +18,24 @@ UIContainerMolecule::~UIContainerMolecule() = default;
 
 void UIContainerMolecule::InitializeFromDescription()
 {
+    UpdateMinimumHeight();
+}
+
+void UIContainerMolecule::UpdateMinimumHeight()
+{
     long height = 0;
     if (m_nested)
         for (const auto& column : m_nested->getColumns())
             height = std::max(height, column->getHeight());
     SetMinimumExtent({0, height});
+}
+
+void UIContainerMolecule::FitTexts(const UITextRuler& ruler, long)
+{
+    if (m_nested)
+        for (const auto& column : m_nested->getColumns())
+            column->fitTexts(ruler, ruler.GetFit());
+    UpdateMinimumHeight();
 }
 
 void UIContainerMolecule::SetPositionAndWidth(POINT position, long width)
@@ -31,9 +44,7 @@ void UIContainerMolecule::SetPositionAndWidth(POINT position, long width)
     if (!m_nested)
         return;
     for (const auto& column : m_nested->getColumns())
-        UIMoleculeStack::place(column->getMolecules(),
-                               {position.x + column->getData().getX(), position.y},
-                               column->getData().getWidth());
+        column->place({position.x + column->getData().getX(), position.y});
 }
 
 void UIContainerMolecule::SetPosition(POINT position)

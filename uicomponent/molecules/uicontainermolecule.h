@@ -20,8 +20,11 @@ public:
     void CreateControls(UIPageWindow& page) override;
     void InitializeFromDescription() override;
     void Inner(std::vector<UIMolecule*>& molecules) override;
+    void FitTexts(const UITextRuler& ruler, long width) override;
     CXString GetObserverClassNameHeirarchy() const override;
 
 private:
+    void UpdateMinimumHeight();
+
     std::unique_ptr<UIContainer> m_nested;
 };

@@ -1,16 +1,17 @@
 #include "uigroupboxmolecule.h"
 
+#include <algorithm>
+
 #include "uigroupboxcontrol.h"
 #include "uimoleculedata.h"
 #include "uimoleculedump.h"
 #include "uimoleculefactory.h"
 #include "uimoleculestack.h"
+#include "uitextruler.h"
 
 namespace {
 
 // Dialog units.
-constexpr long kFirstControlTop = 11;
-constexpr long kBelowLastControl = 7;
 constexpr long kInset = 9;
 // The lane of the info buttons reaches this far into the right margin, so that the boxes inside
 // stay as wide as they can be.
@@ -37,14 +38,38 @@ void UIGroupBoxMolecule::InitializeFromDescription()
         molecule->SetLabelWidth(GetLabelWidth());
         molecule->InitializeFromDescription();
     }
-    SetMinimumExtent({0, kFirstControlTop + UIMoleculeStack::height(m_inner) + kBelowLastControl});
+    UpdateMinimumHeight();
+}
+
+void UIGroupBoxMolecule::UpdateMinimumHeight()
+{
+    SetMinimumExtent(
+        {0, m_gaps.firstTop + UIMoleculeStack::height(m_inner, m_gaps) + m_gaps.lastBelow});
+}
+
+void UIGroupBoxMolecule::FitTexts(const UITextRuler& ruler, long width)
+{
+    UIColumnFit fit = ruler.GetFit();
+    m_gaps = fit.gaps;
+    fit.labelWidth -= std::min(fit.labelWidth, kInset); // boxes inside and outside stand on a line
+    const UITextRuler inside = ruler.ForColumn(fit);
+    UIMoleculeStack::fitTexts(m_inner, inside, width - kInset - kInsetRight);
+    if (inside.HasCut())
+        ruler.NoteCut();
+    UpdateMinimumHeight();
+}
+
+long UIGroupBoxMolecule::GetWantedLabelWidth(const UITextRuler& ruler) const
+{
+    const long wanted = UIMoleculeStack::wantedLabelWidth(m_inner, ruler);
+    return wanted ? wanted + kInset : 0;
 }
 
 void UIGroupBoxMolecule::SetPositionAndWidth(POINT position, long width)
 {
     UIMolecule::SetPositionAndWidth(position, width);
-    UIMoleculeStack::place(m_inner, {position.x + kInset, position.y + kFirstControlTop},
-                           width - kInset - kInsetRight);
+    UIMoleculeStack::place(m_inner, {position.x + kInset, position.y + m_gaps.firstTop},
+                           width - kInset - kInsetRight, m_gaps);
 }
 
 void UIGroupBoxMolecule::SetPosition(POINT position)

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "uimolecule.h"
+#include "uimoleculegaps.h"
 
 class UIGroupBoxControl;
 
@@ -24,9 +25,14 @@ public:
     void DumpControls() const override;
     void Inner(std::vector<UIMolecule*>& molecules) override;
     void Show(bool shown) override;
+    void FitTexts(const UITextRuler& ruler, long width) override;
+    long GetWantedLabelWidth(const UITextRuler& ruler) const override;
     CXString GetObserverClassNameHeirarchy() const override;
 
 private:
+    void UpdateMinimumHeight();
+
     std::unique_ptr<UIGroupBoxControl> m_frame;
     std::vector<std::unique_ptr<UIMolecule>> m_inner;
+    UIMoleculeGaps m_gaps;
 };

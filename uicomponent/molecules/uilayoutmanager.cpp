@@ -3,17 +3,22 @@
 #include "uicolumndata.h"
 #include "uicontainer.h"
 #include "uicontainerdata.h"
-#include "uimoleculestack.h"
+#include "uitextruler.h"
 
 UILayoutManager::UILayoutManager(const UIContainer& container, long extraHeight)
     : m_container(container), m_extraHeight(extraHeight)
 {
 }
 
+long UILayoutManager::getRoom() const
+{
+    return m_container.getData().getHeight() - 2 * kMargin - m_extraHeight;
+}
+
 CXString UILayoutManager::findMisfit() const
 {
     const UIContainerData& page = m_container.getData();
-    const long room = page.getHeight() - 2 * kMargin - m_extraHeight;
+    const long room = getRoom();
     unsigned number = 0;
     for (const auto& column : m_container.getColumns()) {
         ++number;
@@ -34,6 +39,13 @@ CXString UILayoutManager::findMisfit() const
 void UILayoutManager::layOut() const
 {
     for (const auto& column : m_container.getColumns())
-        UIMoleculeStack::place(column->getMolecules(), {column->getData().getX(), kMargin},
-                               column->getData().getWidth());
+        column->place({column->getData().getX(), kMargin});
+}
+
+bool UILayoutManager::fitTexts(const UITextRuler& ruler) const
+{
+    for (const auto& column : m_container.getColumns())
+        column->fitTexts(ruler, getRoom());
+    layOut();
+    return ruler.HasCut();
 }

@@ -370,6 +370,12 @@ void UIMolecule::FitTexts(const UITextRuler&, long)
 {
 }
 
+void UIMolecule::SetLabelWidth(long width)
+{
+    const long own = GetData().getLabelWidth();
+    m_labelWidth = own > 0 ? own : width;
+}
+
 long UIMolecule::GetWantedLabelWidth(const UITextRuler&) const
 {
     return 0;

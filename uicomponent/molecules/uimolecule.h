@@ -137,8 +137,8 @@ public:
     virtual CXString GetInfoTitle(const FeatureIdWithContext& feature) const;
 
     /// Room in dialog units for a label beside its box; 0 puts labels above. Set by the column
-    /// before InitializeFromDescription.
-    void SetLabelWidth(long width) { m_labelWidth = width; }
+    /// before InitializeFromDescription. A molecule whose description says a width keeps that one.
+    void SetLabelWidth(long width);
     long GetLabelWidth() const { return m_labelWidth; }
 
     // IObserver

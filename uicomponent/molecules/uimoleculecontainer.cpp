@@ -3,10 +3,15 @@
 #include <algorithm>
 
 #include "iuicontainercompanion.h"
+#include "textmeasure.h"
 #include "trace.h"
 #include "uicontainer.h"
+#include "uilayoutmanager.h"
 #include "uimolecule.h"
+#include "uiservices.h"
+#include "uitextruler.h"
 #include "uitooltips.h"
+#include "uiwholetexttips.h"
 
 UIMoleculeContainer::UIMoleculeContainer(FeatureServices& featureServices,
                                          const ProductStringLoader& strings, UIServices& services,
@@ -21,9 +26,10 @@ UIMoleculeContainer::~UIMoleculeContainer()
     releaseMolecules();
 }
 
-void UIMoleculeContainer::buildFrom(const UIContainerData& data)
+void UIMoleculeContainer::buildFrom(const UIContainerData& data, long extraHeight)
 {
     m_container = std::make_unique<UIContainer>(data, m_site);
+    m_layout = std::make_unique<UILayoutManager>(*m_container, extraHeight);
     m_molecules = m_container->getMolecules();
     m_wanted.clear();
     m_wanted.add(WM_MOUSEMOVE);
@@ -35,6 +41,7 @@ void UIMoleculeContainer::releaseMolecules()
 {
     UIMoleculeContainer::disconnectAll(); // named: the destructor comes here too
     m_molecules.clear();
+    m_layout.reset();
     m_container.reset(); // the controls' tips go with them, so the tip window goes after them
     m_toolTips.reset();
 }
@@ -52,7 +59,11 @@ bool UIMoleculeContainer::initialize(HWND window)
     m_toolTips = std::make_unique<UIToolTips>(window);
     m_look.themeChanged();
     m_page.look = &m_look;
+    m_page.font = reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0));
+    const bool someTextIsCut = fitTexts();
     createControls();
+    if (someTextIsCut)
+        o7::addWholeTextTips(m_page, *m_toolTips);
     connectAll();
     refreshAll();
     return true;
@@ -68,9 +79,14 @@ void UIMoleculeContainer::makeBoldFont()
     m_page.boldFont = m_boldFont.get();
 }
 
+bool UIMoleculeContainer::fitTexts() const
+{
+    const o7::TextMeasure measure(m_page.font);
+    return m_layout->fitTexts(UITextRuler(measure, getServices().getDialogConversion()));
+}
+
 void UIMoleculeContainer::createControls()
 {
-    m_page.font = reinterpret_cast<HFONT>(SendMessageW(m_page.window, WM_GETFONT, 0, 0));
     makeBoldFont();
     for (UIMolecule* molecule : m_molecules) {
         molecule->SetToolTips(m_toolTips.get());

@@ -17,6 +17,7 @@ class IUIContainerCompanion;
 class SetOfSettingIds;
 class UIContainer;
 class UIContainerData;
+class UILayoutManager;
 class UIMolecule;
 class UIToolTips;
 
@@ -65,11 +66,13 @@ protected:
     virtual bool createOn(HWND window);
 
     /// Builds columns and molecules from a description; no window is touched.
-    void buildFrom(const UIContainerData& data);
+    /// @param extraHeight  dialog units at the lower edge that are not the content's
+    void buildFrom(const UIContainerData& data, long extraHeight = 0);
     /// Disconnects and destroys the molecules' controls; the window may be gone already.
     void releaseMolecules();
 
-    const UIContainer* getContainer() const { return m_container.get(); }
+    /// Places what buildFrom has built.
+    const UILayoutManager& getLayout() const { return *m_layout; }
     UIPageWindow& getPage() { return m_page; }
     UIServices& getServices() const { return m_site.services; }
     FeatureServices& getFeatureServices() const { return m_site.featureServices; }
@@ -78,12 +81,14 @@ protected:
     UIToolTips* getToolTips() const { return m_toolTips.get(); }
 
 private:
+    bool fitTexts() const;
     void createControls();
     void makeBoldFont();
 
     UIValueWriter m_valueWriter;
     UIMoleculeSite m_site;
     std::unique_ptr<UIContainer> m_container;
+    std::unique_ptr<UILayoutManager> m_layout;
     std::vector<UIMolecule*> m_molecules;
     UIPageLook m_look;
     UIPageWindow m_page;

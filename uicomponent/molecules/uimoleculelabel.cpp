@@ -8,9 +8,10 @@
 namespace {
 
 // Dialog units.
-constexpr long kGap = 1;  // between a label and the box under it
-constexpr long kDrop = 3; // of a label beside a box of one line
-constexpr long kMostLines = 2;
+constexpr long kGap = 1;       // between a label and the box under it
+constexpr long kGapBeside = 4; // between a label and the box to its right
+constexpr long kDrop = 3;      // of a label beside a box of one line
+constexpr long kRise = 1;      // of two lines beside such a box, which are higher than it
 
 } // namespace
 
@@ -29,15 +30,22 @@ long UIMoleculeLabel::GetHeightAbove() const
     return IsEmpty() || m_labelWidth ? 0 : m_lines * UITextRuler::kLineHeight + kGap;
 }
 
+long UIMoleculeLabel::GetTextWidth(long contentWidth) const
+{
+    return m_labelWidth ? m_labelWidth - kGapBeside : contentWidth;
+}
+
 void UIMoleculeLabel::Fit(const UITextRuler& ruler, long contentWidth)
 {
-    const long width = m_labelWidth ? m_labelWidth : contentWidth;
-    m_lines = IsEmpty() ? 1 : std::min(kMostLines, ruler.LinesOf(m_text, width));
+    if (m_labelWidth && ruler.GetFit().labelWidth)
+        m_labelWidth = ruler.GetFit().labelWidth;
+    m_lines = IsEmpty() ? 1 : ruler.LinesOf(m_text, GetTextWidth(contentWidth));
+    m_isCut = !IsEmpty() && m_lines == 1 && ruler.WidthOf(m_text) > GetTextWidth(contentWidth);
 }
 
 long UIMoleculeLabel::GetWantedWidth(const UITextRuler& ruler) const
 {
-    return IsEmpty() ? 0 : ruler.WidthOf(m_text);
+    return IsEmpty() ? 0 : ruler.WidthOf(m_text) + kGapBeside;
 }
 
 void UIMoleculeLabel::Create(UIPageWindow& page, UIServices& services, POINT place,
@@ -45,12 +53,15 @@ void UIMoleculeLabel::Create(UIPageWindow& page, UIServices& services, POINT pla
 {
     if (IsEmpty())
         return;
-    // Two lines beside a box stand as high as the box; one stands at its text's height.
-    const long drop = m_labelWidth && m_lines == 1 ? kDrop : 0;
-    const SIZE size{m_labelWidth ? m_labelWidth : contentWidth, m_lines * UITextRuler::kLineHeight};
+    long drop = 0;
+    if (m_labelWidth)
+        drop = m_lines == 1 ? kDrop : -kRise;
+    const SIZE size{GetTextWidth(contentWidth), m_lines * UITextRuler::kLineHeight};
+    // One line that is cut says so by three dots; the page gives it its tip.
+    const DWORD style = SS_NOTIFY | (m_isCut ? SS_ENDELLIPSIS : 0);
     m_control = std::make_unique<UITextControl>(page.window, page.takeId(), services, page.font,
-                                                POINT{place.x, place.y + drop}, size, SS_NOTIFY,
-                                                true, page.boldFont);
+                                                POINT{place.x, place.y + drop}, size, style, true,
+                                                page.boldFont);
     SetWindowTextW(m_control->getHwnd(), m_text.c_str());
 }
 

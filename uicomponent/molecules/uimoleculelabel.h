@@ -29,8 +29,10 @@ public:
     long GetBesideWidth() const { return IsEmpty() ? 0 : m_labelWidth; }
     /// By how much the box stands below the molecule's place; 0 for a label beside the box.
     long GetHeightAbove() const;
-    /// Counts the lines for the width that the molecule's content gets.
+    /// Takes the room beside the box that the column gives its labels, and counts the lines for the
+    /// width that the molecule's content gets.
     void Fit(const UITextRuler& ruler, long contentWidth);
+    /// The room beside the box that the text wants, the gap included.
     long GetWantedWidth(const UITextRuler& ruler) const;
 
     /// @param place  the molecule's
@@ -40,8 +42,11 @@ public:
     void Show(bool shown);
 
 private:
+    long GetTextWidth(long contentWidth) const;
+
     CXString m_text;
     long m_labelWidth = 0;
     long m_lines = 1;
+    bool m_isCut = false;
     std::unique_ptr<UITextControl> m_control;
 };

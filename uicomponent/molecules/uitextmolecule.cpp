@@ -5,10 +5,11 @@
 #include "uimoleculedump.h"
 #include "uitextcontrol.h"
 #include "uitextcontroldata.h"
+#include "uitextruler.h"
 
 namespace {
 
-constexpr long kLineHeight = 8; // dialog units
+constexpr long kMostLines = 6; // a longer text is no explanation beside a setting any more
 
 } // namespace
 
@@ -21,16 +22,22 @@ UITextMolecule::~UITextMolecule() = default;
 
 void UITextMolecule::InitializeFromDescription()
 {
-    long lines = 1;
     for (const auto& control : GetData().getControls()) {
         if (control->getKind() != UIControlKind::Text)
             continue;
         const auto& text = static_cast<const UITextControlData&>(*control);
         m_number = text.getLabel();
         m_bold = text.isBold();
-        lines = static_cast<long>(text.getLines());
+        m_lines = static_cast<long>(text.getLines());
     }
-    SetMinimumExtent({0, lines * kLineHeight});
+    SetMinimumExtent({0, m_lines * UITextRuler::kLineHeight});
+}
+
+void UITextMolecule::FitTexts(const UITextRuler& ruler, long width)
+{
+    // Where labels have to keep to one line, a paragraph keeps to the lines that it was promised.
+    const long most = ruler.GetFit().mostLines > 1 ? kMostLines : m_lines;
+    SetMinimumExtent({0, ruler.LinesOf(LoadText(m_number), width, most) * UITextRuler::kLineHeight});
 }
 
 void UITextMolecule::CreateControls(UIPageWindow& page)

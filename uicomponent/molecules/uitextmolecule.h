@@ -19,10 +19,12 @@ public:
     void InitializeFromDescription() override;
     void DumpControls() const override;
     void Show(bool shown) override;
+    void FitTexts(const UITextRuler& ruler, long width) override;
     CXString GetObserverClassNameHeirarchy() const override;
 
 private:
     std::unique_ptr<UITextControl> m_text;
     unsigned m_number = 0;
+    long m_lines = 1; ///< that the description promises it
     bool m_bold = false;
 };

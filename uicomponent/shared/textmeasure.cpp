@@ -17,6 +17,14 @@ SIZE TextMeasure::measure(std::wstring_view text) const noexcept
     return {corner.x, corner.y};
 }
 
+SIZE TextMeasure::measureWrapped(std::wstring_view text, LONG width) const noexcept
+{
+    RECT needed{0, 0, width, 0};
+    ::DrawTextW(m_dc.get(), text.data(), static_cast<int>(text.size()), &needed,
+                DT_CALCRECT | DT_WORDBREAK);
+    return {needed.right, needed.bottom};
+}
+
 int TextMeasure::fontHeight() const noexcept
 {
     TEXTMETRICW metrics{};

@@ -18,6 +18,10 @@ public:
     /// Width and height of one line; zero when the text cannot be measured.
     SIZE measure(std::wstring_view text) const noexcept;
 
+    /// Width and height of the text broken into lines between words, as a static control draws it:
+    /// a single "&" marks the mnemonic. A word that is wider than the room makes it wider.
+    SIZE measureWrapped(std::wstring_view text, LONG width) const noexcept;
+
     /// Height of a line of the font.
     int fontHeight() const noexcept;
 

@@ -7,15 +7,17 @@ namespace o7::settings {
 
 // clang-format off
 // Printing
-inline constexpr UIMoleculeRecord kJobType           = combo<o7::kJobType,            O7STR_L_JOB_TYPE>();
+inline constexpr UIMoleculeRecord kJobType             = combo<o7::kJobType, O7STR_L_JOB_TYPE>();
+inline constexpr UIMoleculeRecord kJobTypeList         = pickOne<o7::kJobType, O7STR_L_JOB_TYPE, 6>();
 inline constexpr UIMoleculeRecord kPaperSize         = combo<o7::kPaperSize,          O7STR_L_PAPER_SIZE>();
 inline constexpr UIMoleculeRecord kPaperTray         = combo<o7::kPaperTray,          O7STR_L_PAPER_TRAY>();
 inline constexpr UIMoleculeRecord kPaperType         = combo<o7::kPaperType,          O7STR_L_PAPER_TYPE>();
 inline constexpr UIMoleculeRecord kSides             = combo<o7::kSides,              O7STR_L_SIDES>();
-inline constexpr UIMoleculeRecord kOrientation       = combo<o7::kOrientation,        O7STR_L_ORIENTATION>();
+inline constexpr UIMoleculeRecord kOrientation         = pickOneRadio<o7::kOrientation, O7STR_L_ORIENTATION>();
 inline constexpr UIMoleculeRecord kCollate           = check<o7::kCollate,            O7STR_L_COLLATE>();
 inline constexpr UIMoleculeRecord kColourMode        = combo<o7::kColourMode,         O7STR_L_COLOUR_MODE>();
-inline constexpr UIMoleculeRecord kPrintQuality      = combo<o7::kPrintQuality,       O7STR_L_QUALITY>();
+inline constexpr UIMoleculeRecord kPrintQuality        = pickOneRadio<o7::kPrintQuality, O7STR_L_QUALITY>();
+inline constexpr UIMoleculeRecord kPrintQualityList    = combo<o7::kPrintQuality, O7STR_L_QUALITY>();
 inline constexpr UIMoleculeRecord kTonerSaving       = check<o7::kTonerSaving,        O7STR_L_TONER_SAVING>();
 inline constexpr UIMoleculeRecord kStaple            = combo<o7::kStaple,             O7STR_L_STAPLE>();
 inline constexpr UIMoleculeRecord kPunch             = combo<o7::kPunch,              O7STR_L_PUNCH>();
@@ -28,7 +30,8 @@ inline constexpr UIMoleculeRecord kResolution        = combo<o7::kResolution,   
 inline constexpr UIMoleculeRecord kOptimiseFor       = combo<o7::kOptimiseFor,        O7STR_L_OPTIMISE_FOR>();
 inline constexpr UIMoleculeRecord kSkipBlankPages    = check<o7::kSkipBlankPages,     O7STR_L_SKIP_BLANK>();
 inline constexpr UIMoleculeRecord kBannerSheet       = check<o7::kBannerSheet,        O7STR_L_BANNER_SHEET>();
-inline constexpr UIMoleculeRecord kWatermark         = combo<o7::kWatermark,          O7STR_L_WATERMARK>();
+inline constexpr UIMoleculeRecord kWatermark           = pickOne<o7::kWatermark, O7STR_L_WATERMARK, 6>();
+inline constexpr UIMoleculeRecord kWatermarkList       = combo<o7::kWatermark, O7STR_L_WATERMARK>();
 inline constexpr UIMoleculeRecord kWatermarkFirst    = check<o7::kWatermarkFirstOnly, O7STR_L_WATERMARK_FIRST_ONLY>();
 inline constexpr UIMoleculeRecord kCovers            = combo<o7::kCovers,             O7STR_L_COVERS>();
 inline constexpr UIMoleculeRecord kCoverTray         = combo<o7::kCoverTray,          O7STR_L_COVER_TRAY>();
@@ -37,6 +40,7 @@ inline constexpr UIMoleculeRecord kScaling           = combo<o7::kScaling,      
 inline constexpr UIMoleculeRecord kNotifyWhenDone    = check<o7::kNotifyWhenDone,     O7STR_L_NOTIFY>();
 inline constexpr UIMoleculeRecord kAccounting        = check<o7::kAccounting,         O7STR_L_ACCOUNTING>();
 inline constexpr UIMoleculeRecord kEdgeToEdge        = check<o7::kEdgeToEdge,         O7STR_L_EDGE_TO_EDGE>();
+inline constexpr UIMoleculeRecord kCopies              = spin<o7::kCopies, O7STR_L_COPIES>();
 
 // Device and administration
 inline constexpr UIMoleculeRecord kFinisher          = combo<o7::kInstalledFinisher,  O7STR_L_FINISHER>();
@@ -63,6 +67,11 @@ inline constexpr UIMoleculeRecord kFeedDirection       = combo<o7::kFeedDirectio
 inline constexpr UIMoleculeRecord kLetterhead          = check<o7::kLetterheadMode, O7STR_L_LETTERHEAD>();
 inline constexpr UIMoleculeRecord kManualFeed          = check<o7::kManualFeed, O7STR_L_MANUAL_FEED>();
 inline constexpr UIMoleculeRecord kManualTwoSided      = check<o7::kManualTwoSided, O7STR_L_MANUAL_TWO_SIDED>();
+inline constexpr UIMoleculeRecord kCustomWidth         = length<o7::kCustomWidth, O7STR_L_CUSTOM_WIDTH>();
+inline constexpr UIMoleculeRecord kCustomLength        = length<o7::kCustomLength, O7STR_L_CUSTOM_LENGTH>();
+inline constexpr UIMoleculeRecord kPaperThickness      = length<o7::kPaperThickness, O7STR_L_PAPER_THICKNESS, 2>();
+inline constexpr UIMoleculeRecord kTabCount            = spin<o7::kTabCount, O7STR_L_TAB_COUNT>();
+inline constexpr UIMoleculeRecord kTabShift            = length<o7::kTabShift, O7STR_L_TAB_SHIFT, 1>();
 
 // Layout
 inline constexpr UIMoleculeRecord kBindingEdge         = combo<o7::kBindingEdge, O7STR_L_BINDING_EDGE>();
@@ -74,6 +83,18 @@ inline constexpr UIMoleculeRecord kReverseOrder        = check<o7::kReverseOrder
 inline constexpr UIMoleculeRecord kImageShift          = combo<o7::kImageShift, O7STR_L_IMAGE_SHIFT>();
 inline constexpr UIMoleculeRecord kCropMarks           = combo<o7::kCropMarks, O7STR_L_CROP_MARKS>();
 inline constexpr UIMoleculeRecord kImposition          = combo<o7::kImposition, O7STR_L_IMPOSITION>();
+inline constexpr UIMoleculeRecord kScalePercent        = spin<o7::kScalePercent, O7STR_L_SCALE_PERCENT, O7STR_U_PERCENT>();
+inline constexpr UIMoleculeRecord kBindingMargin       = length<o7::kBindingMargin, O7STR_L_BINDING_MARGIN>();
+inline constexpr UIMoleculeRecord kBookletGutter       = length<o7::kBookletGutter, O7STR_L_BOOKLET_GUTTER>();
+inline constexpr UIMoleculeRecord kBookletCreep        = length<o7::kBookletCreep, O7STR_L_BOOKLET_CREEP, 1>();
+inline constexpr UIMoleculeRecord kBookletSection      = spin<o7::kBookletSection, O7STR_L_BOOKLET_SECTION, O7STR_U_SHEETS>();
+inline constexpr UIMoleculeRecord kImpositionCount     = spin<o7::kImpositionCount, O7STR_L_IMPOSITION_COUNT>();
+inline constexpr UIMoleculeRecord kBleed               = length<o7::kBleed, O7STR_L_BLEED, 1>();
+inline constexpr UIMoleculeRecord kShiftFrontX         = length<o7::kShiftFrontX, O7STR_L_SHIFT_FRONT_X, 1>();
+inline constexpr UIMoleculeRecord kShiftFrontY         = length<o7::kShiftFrontY, O7STR_L_SHIFT_FRONT_Y, 1>();
+inline constexpr UIMoleculeRecord kShiftBackX          = length<o7::kShiftBackX, O7STR_L_SHIFT_BACK_X, 1>();
+inline constexpr UIMoleculeRecord kShiftBackY          = length<o7::kShiftBackY, O7STR_L_SHIFT_BACK_Y, 1>();
+inline constexpr UIMoleculeRecord kPageRange           = range<o7::kSomePages, o7::kPageRange, O7STR_L_SOME_PAGES, O7STR_L_PAGE_FROM, O7STR_L_PAGE_TO>();
 
 // Finishing
 inline constexpr UIMoleculeRecord kOffsetStacking      = combo<o7::kOffsetStacking, O7STR_L_OFFSET_STACKING>();
@@ -84,6 +105,10 @@ inline constexpr UIMoleculeRecord kCrease              = check<o7::kCrease, O7ST
 inline constexpr UIMoleculeRecord kBinding             = combo<o7::kBinding, O7STR_L_BINDING>();
 inline constexpr UIMoleculeRecord kFoldPrintSide       = combo<o7::kFoldPrintSide, O7STR_L_FOLD_PRINT_SIDE>();
 inline constexpr UIMoleculeRecord kSquareSpine         = check<o7::kSquareSpine, O7STR_L_SQUARE_SPINE>();
+inline constexpr UIMoleculeRecord kOutputFace          = combo<o7::kOutputFace, O7STR_L_OUTPUT_FACE>();
+inline constexpr UIMoleculeRecord kFoldSheets          = spin<o7::kFoldSheets, O7STR_L_FOLD_SHEETS, O7STR_U_SHEETS>();
+inline constexpr UIMoleculeRecord kTrimAmount          = length<o7::kTrimAmount, O7STR_L_TRIM_AMOUNT>();
+inline constexpr UIMoleculeRecord kSpineThickness      = length<o7::kSpineThickness, O7STR_L_SPINE_THICKNESS, 1>();
 
 // Covers
 inline constexpr UIMoleculeRecord kCoverPrinting       = combo<o7::kCoverPrinting, O7STR_L_COVER_PRINTING>();
@@ -117,12 +142,25 @@ inline constexpr UIMoleculeRecord kFonts               = combo<o7::kFonts, O7STR
 inline constexpr UIMoleculeRecord kPrintAsPicture      = check<o7::kPrintAsPicture, O7STR_L_PRINT_AS_PICTURE>();
 inline constexpr UIMoleculeRecord kErrorReport         = check<o7::kErrorReport, O7STR_L_ERROR_REPORT>();
 inline constexpr UIMoleculeRecord kQuietMode           = check<o7::kQuietMode, O7STR_L_QUIET_MODE>();
+inline constexpr UIMoleculeRecord kLightness           = slider<o7::kLightness, O7STR_L_LIGHTNESS, O7STR_U_DARKER, O7STR_U_LIGHTER, 25>();
+inline constexpr UIMoleculeRecord kContrast            = slider<o7::kContrast, O7STR_L_CONTRAST, O7STR_U_LESS, O7STR_U_MORE, 25>();
+inline constexpr UIMoleculeRecord kSaturation          = slider<o7::kSaturation, O7STR_L_SATURATION, O7STR_U_PALER, O7STR_U_STRONGER, 25>();
+inline constexpr UIMoleculeRecord kBalanceCyanRed      = slider<o7::kBalanceCyanRed, O7STR_L_BALANCE_CYAN_RED, O7STR_U_CYAN, O7STR_U_RED, 25>();
+inline constexpr UIMoleculeRecord kBalanceMagentaGreen = slider<o7::kBalanceMagentaGreen, O7STR_L_BALANCE_MAGENTA_GREEN, O7STR_U_MAGENTA, O7STR_U_GREEN, 25>();
+inline constexpr UIMoleculeRecord kBalanceYellowBlue   = slider<o7::kBalanceYellowBlue, O7STR_L_BALANCE_YELLOW_BLUE, O7STR_U_YELLOW, O7STR_U_BLUE, 25>();
+inline constexpr UIMoleculeRecord kShadows             = slider<o7::kShadows, O7STR_L_SHADOWS, O7STR_U_DARKER, O7STR_U_LIGHTER>();
+inline constexpr UIMoleculeRecord kHighlights          = slider<o7::kHighlights, O7STR_L_HIGHLIGHTS, O7STR_U_DARKER, O7STR_U_LIGHTER>();
+inline constexpr UIMoleculeRecord kSharpening          = slider<o7::kSharpening, O7STR_L_SHARPENING, O7STR_U_NONE, O7STR_U_STRONG>();
+inline constexpr UIMoleculeRecord kTonerDensity        = slider<o7::kTonerDensity, O7STR_L_TONER_DENSITY, O7STR_U_LIGHTER, O7STR_U_DARKER, 1>();
 
 // Watermarks, overlays and stamps
 inline constexpr UIMoleculeRecord kWatermarkLayer      = combo<o7::kWatermarkLayer, O7STR_L_WATERMARK_LAYER>();
 inline constexpr UIMoleculeRecord kOverlay             = combo<o7::kOverlay, O7STR_L_OVERLAY>();
 inline constexpr UIMoleculeRecord kPageNumbers         = combo<o7::kPageNumbers, O7STR_L_PAGE_NUMBERS>();
 inline constexpr UIMoleculeRecord kDateStamp           = combo<o7::kDateStamp, O7STR_L_DATE_STAMP>();
+inline constexpr UIMoleculeRecord kOverlayName         = edit<o7::kOverlayName, O7STR_L_OVERLAY_NAME, 31>();
+inline constexpr UIMoleculeRecord kFirstPageNumber     = number<o7::kFirstPageNumber, O7STR_L_FIRST_PAGE_NUMBER>();
+inline constexpr UIMoleculeRecord kCaption             = edit<o7::kCaption, O7STR_L_CAPTION, 120>();
 
 // Job
 inline constexpr UIMoleculeRecord kSavedFolder         = combo<o7::kSavedFolder, O7STR_L_SAVED_FOLDER>();
@@ -131,6 +169,24 @@ inline constexpr UIMoleculeRecord kJobPriority         = combo<o7::kJobPriority,
 inline constexpr UIMoleculeRecord kAccountKind         = combo<o7::kAccountKind, O7STR_L_ACCOUNT_KIND>();
 inline constexpr UIMoleculeRecord kEncryptJob          = check<o7::kEncryptJob, O7STR_L_ENCRYPT_JOB>();
 inline constexpr UIMoleculeRecord kCopiesTogether      = combo<o7::kCopiesTogether, O7STR_L_COPIES_TOGETHER>();
+inline constexpr UIMoleculeRecord kPin                 = pin<o7::kPin, O7STR_L_PIN, 10>();
+inline constexpr UIMoleculeRecord kDelayHour           = spin<o7::kDelayHour, O7STR_L_DELAY_HOUR, O7STR_U_HOURS>();
+inline constexpr UIMoleculeRecord kDelayMinute         = spin<o7::kDelayMinute, O7STR_L_DELAY_MINUTE, O7STR_U_MINUTES>();
+inline constexpr UIMoleculeRecord kSavedName           = edit<o7::kSavedName, O7STR_L_SAVED_NAME, 64>();
+inline constexpr UIMoleculeRecord kJobName             = edit<o7::kJobName, O7STR_L_JOB_NAME, 64>();
+inline constexpr UIMoleculeRecord kHeldJobHours        = spin<o7::kHeldJobHours, O7STR_L_HELD_JOB_HOURS, O7STR_U_HOURS>();
+inline constexpr UIMoleculeRecord kSampleInterval      = number<o7::kSampleInterval, O7STR_L_SAMPLE_INTERVAL>();
+inline constexpr UIMoleculeRecord kOperatorNote        = edit<o7::kOperatorNote, O7STR_L_OPERATOR_NOTE, 250, 2>();
+inline constexpr UIMoleculeRecord kAccountId           = edit<o7::kAccountId, O7STR_L_ACCOUNT_ID, 32>();
+inline constexpr UIMoleculeRecord kUserId              = edit<o7::kUserId, O7STR_L_USER_ID, 64>();
+inline constexpr UIMoleculeRecord kMessageAddress      = edit<o7::kMessageAddress, O7STR_L_MESSAGE_ADDRESS, 255>();
+inline constexpr UIMoleculeRecord kFaxResolution       = combo<o7::kFaxResolution, O7STR_L_FAX_RESOLUTION>();
+inline constexpr UIControlRecord kFaxSendTimeControls[] = {
+    kRadio<o7::kFaxSendTime, o7::kFaxNow,     O7STR_L_FAX_NOW>,
+    kRadio<o7::kFaxSendTime, o7::kFaxOffPeak, O7STR_L_FAX_OFF_PEAK>,
+};
+inline constexpr UIMoleculeRecord kFaxSendTime         = radioButtons(kFaxSendTimeControls);
+inline constexpr UIMoleculeRecord kFaxConfirmation     = check<o7::kFaxConfirmation, O7STR_L_FAX_CONFIRMATION>();
 
 // Photographs
 inline constexpr UIMoleculeRecord kBorderExpansion     = combo<o7::kBorderExpansion, O7STR_L_BORDER_EXPANSION>();
@@ -142,6 +198,8 @@ inline constexpr UIMoleculeRecord kPlatenGap           = combo<o7::kPlatenGap, O
 inline constexpr UIMoleculeRecord kCut                 = combo<o7::kCut, O7STR_L_CUT>();
 inline constexpr UIMoleculeRecord kAutoRotate          = check<o7::kAutoRotate, O7STR_L_AUTO_ROTATE>();
 inline constexpr UIMoleculeRecord kClearCoat           = combo<o7::kClearCoat, O7STR_L_CLEAR_COAT>();
+inline constexpr UIMoleculeRecord kBorderWidth         = length<o7::kBorderWidth, O7STR_L_BORDER_WIDTH>();
+inline constexpr UIMoleculeRecord kDryingTime          = spin<o7::kDryingTime, O7STR_L_DRYING_TIME, O7STR_U_SECONDS>();
 
 // Drawings
 inline constexpr UIMoleculeRecord kRollRotation        = combo<o7::kRollRotation, O7STR_L_ROLL_ROTATION>();
@@ -156,6 +214,10 @@ inline constexpr UIMoleculeRecord kTitleBlock          = combo<o7::kTitleBlock, 
 inline constexpr UIMoleculeRecord kCropToContent       = check<o7::kCropToContent, O7STR_L_CROP_TO_CONTENT>();
 inline constexpr UIMoleculeRecord kInkSaving           = check<o7::kInkSaving, O7STR_L_INK_SAVING>();
 inline constexpr UIMoleculeRecord kHiddenLines         = check<o7::kHiddenLines, O7STR_L_HIDDEN_LINES>();
+inline constexpr UIMoleculeRecord kNestingWait         = spin<o7::kNestingWait, O7STR_L_NESTING_WAIT, O7STR_U_MINUTES>();
+inline constexpr UIMoleculeRecord kPageSpacing         = length<o7::kPageSpacing, O7STR_L_PAGE_SPACING>();
+inline constexpr UIMoleculeRecord kLeadingStrip        = length<o7::kLeadingStrip, O7STR_L_LEADING_STRIP>();
+inline constexpr UIMoleculeRecord kTrailingStrip       = length<o7::kTrailingStrip, O7STR_L_TRAILING_STRIP>();
 
 // Device settings
 inline constexpr UIMoleculeRecord kLargeTray           = check<o7::kInstalledLargeTray, O7STR_L_LARGE_TRAY>();
@@ -176,7 +238,12 @@ inline constexpr UIMoleculeRecord kWideStacker         = check<o7::kInstalledWid
 inline constexpr UIMoleculeRecord kEncryptionKit       = check<o7::kInstalledEncryptionKit, O7STR_L_ENCRYPTION_KIT>();
 inline constexpr UIMoleculeRecord kWireless            = check<o7::kInstalledWireless, O7STR_L_WIRELESS>();
 inline constexpr UIMoleculeRecord kCardReader          = check<o7::kInstalledCardReader, O7STR_L_CARD_READER>();
-inline constexpr UIMoleculeRecord kPaperRegion         = combo<o7::kPaperRegion, O7STR_L_PAPER_REGION>();
+inline constexpr UIControlRecord kPaperRegionControls[] = {
+    {.kind = UIControlKind::Text, .feature = o7::kPaperRegion, .label = O7STR_L_PAPER_REGION},
+    kRadio<o7::kPaperRegion, o7::kRegionMetric, O7STR_L_REGION_METRIC>,
+    kRadio<o7::kPaperRegion, o7::kRegionInch,   O7STR_L_REGION_INCH>,
+};
+inline constexpr UIMoleculeRecord kPaperRegion         = radioButtons(kPaperRegionControls);
 inline constexpr UIMoleculeRecord kTray1Size           = combo<o7::kTray1Size, O7STR_L_TRAY_1_SIZE>();
 inline constexpr UIMoleculeRecord kTray1Type           = combo<o7::kTray1Type, O7STR_L_TRAY_1_TYPE>();
 inline constexpr UIMoleculeRecord kTray2Size           = combo<o7::kTray2Size, O7STR_L_TRAY_2_SIZE>();
@@ -199,6 +266,14 @@ inline constexpr UIMoleculeRecord kStorageCard         = check<o7::kInstalledSto
 inline constexpr UIMoleculeRecord kMatteInk            = check<o7::kInstalledMatteInk, O7STR_L_MATTE_INK>();
 inline constexpr UIMoleculeRecord kBoardFeed           = check<o7::kInstalledBoardFeed, O7STR_L_BOARD_FEED>();
 inline constexpr UIMoleculeRecord kLongSheetFeed       = check<o7::kInstalledLongSheetFeed, O7STR_L_LONG_SHEET_FEED>();
+inline constexpr UIMoleculeRecord kDeviceLocation      = edit<o7::kDeviceLocation, O7STR_L_DEVICE_LOCATION, 64>();
+inline constexpr UIMoleculeRecord kDeviceContact       = edit<o7::kDeviceContact, O7STR_L_DEVICE_CONTACT, 64>();
+inline constexpr UIMoleculeRecord kStatusInterval      = spin<o7::kStatusInterval, O7STR_L_STATUS_INTERVAL, O7STR_U_SECONDS>();
+inline constexpr UIMoleculeRecord kSleepMinutes        = spin<o7::kSleepMinutes, O7STR_L_SLEEP_MINUTES, O7STR_U_MINUTES>();
+inline constexpr UIMoleculeRecord kLowSupplyWarning    = spin<o7::kLowSupplyWarning, O7STR_L_LOW_SUPPLY_WARNING, O7STR_U_PERCENT>();
+inline constexpr UIMoleculeRecord kCalibrationDays     = spin<o7::kCalibrationDays, O7STR_L_CALIBRATION_DAYS, O7STR_U_DAYS>();
+inline constexpr UIMoleculeRecord kRoll1Width          = length<o7::kRoll1Width, O7STR_L_ROLL_1_WIDTH>();
+inline constexpr UIMoleculeRecord kRoll2Width          = length<o7::kRoll2Width, O7STR_L_ROLL_2_WIDTH>();
 // clang-format on
 
 } // namespace o7::settings

@@ -9,27 +9,29 @@ namespace o7::shared {
 namespace s = o7::settings;
 
 // Paper and job
-inline constexpr UIMoleculeRecord kPaperGroup[] = {s::kPaperSize, s::kPaperType, s::kPaperTray};
-inline constexpr UIMoleculeRecord kJobGroup[] = {s::kJobType, s::kCollate};
+inline constexpr UIMoleculeRecord kCopiesGroup[] = {s::kCopies, s::kCollate};
+inline constexpr UIMoleculeRecord kJobGroup[] = {s::kJobType, s::kCopies, s::kCollate};
 inline constexpr UIMoleculeRecord kSidesColourGroup[] = {s::kSides, s::kColourMode};
-inline constexpr UIMoleculeRecord kBookletGroup[] = {s::kBooklet, s::kBookletDirection};
 inline constexpr UIMoleculeRecord kDataGroup[] = {s::kFonts, s::kImageCompression,
                                                   s::kPrintAsPicture, s::kErrorReport};
-inline constexpr UIMoleculeRecord kAccountingGroup[] = {s::kAccounting,
-                                                        text<O7STR_T_ACCOUNTING, 2>()};
 inline constexpr UIMoleculeRecord kAccountsGroup[] = {s::kAccounting, s::kAccountKind,
-                                                      text<O7STR_T_ACCOUNTING, 2>()};
+                                                      s::kAccountId, s::kUserId};
+inline constexpr UIMoleculeRecord kNotifyGroup[] = {s::kTrackJobs, s::kNotifyWhenDone,
+                                                    text<O7STR_T_TRACKING, 2>()};
 inline constexpr UIMoleculeRecord kTrackingGroup[] = {s::kTrackJobs, text<O7STR_T_TRACKING, 2>()};
+inline constexpr UIMoleculeRecord kMessagesGroup[] = {s::kTrackJobs, s::kNotifyWhenDone,
+                                                      s::kMessageAddress};
 inline constexpr UIMoleculeRecord kUnitsGroup[] = {s::kUnits, text<O7STR_T_UNITS, 2>()};
 inline constexpr UIMoleculeRecord kApplyGroup[] = {s::kWarnOnApply, text<O7STR_T_APPLY, 2>()};
 inline constexpr UIMoleculeRecord kConnectionGroup[] = {s::kBidirectional,
                                                         text<O7STR_T_CONNECTION, 2>()};
 inline constexpr UIMoleculeRecord kRegionGroup[] = {s::kPaperRegion};
+inline constexpr UIMoleculeRecord kDeviceGroup[] = {s::kDeviceLocation, s::kDeviceContact};
 inline constexpr UIMoleculeRecord kSecurityGroup[] = {s::kEncryptionKit, s::kCardReader,
                                                       text<O7STR_T_SECURITY, 2>()};
 
 inline constexpr UIMoleculeRecord kAccountsAndTracking[] = {
-    group(O7STR_G_ACCOUNTING, kAccountsGroup), group(O7STR_G_TRACKING, kTrackingGroup)};
+    group(O7STR_G_ACCOUNTING, kAccountsGroup), group(O7STR_G_TRACKING, kNotifyGroup)};
 inline constexpr UIMoleculeRecord kApplyAndConnection[] = {
     group(O7STR_G_APPLY, kApplyGroup), group(O7STR_G_CONNECTION, kConnectionGroup)};
 inline constexpr UIMoleculeRecord kUnitsAndRegion[] = {group(O7STR_G_UNITS, kUnitsGroup),
@@ -49,14 +51,6 @@ inline constexpr UIMoleculeRecord kTraysRight[] = {group(O7STR_G_TRAY_3, kTray3G
                                                    group(O7STR_G_TRAY_4, kTray4Group)};
 inline constexpr UIColumnRecord kTraysColumns[] = {left(kTraysLeft), right(kTraysRight)};
 inline constexpr UIContainerRecord kTraysPage = page(2, O7STR_TAB_TRAYS, kTraysColumns);
-
-// Device settings: page "Communication"
-inline constexpr UIMoleculeRecord kLinkLeft[] = {group(O7STR_G_CONNECTION, kConnectionGroup),
-                                                 group(O7STR_G_TRACKING, kTrackingGroup)};
-inline constexpr UIMoleculeRecord kLinkRight[] = {group(O7STR_G_UNITS, kUnitsGroup),
-                                                  group(O7STR_G_APPLY, kApplyGroup)};
-inline constexpr UIColumnRecord kLinkColumns[] = {left(kLinkLeft), right(kLinkRight)};
-inline constexpr UIContainerRecord kLinkPage = page(3, O7STR_TAB_COMMUNICATION, kLinkColumns);
 
 // Device settings: page "Policies"
 inline constexpr UIMoleculeRecord kPoliciesGroup[] = {s::kColourPolicy, s::kSidesPolicy,

@@ -8,14 +8,19 @@
 
 namespace o7 {
 
-// A page for two full columns: 148 each with a gap of 6 between margins of 7, or one of 302. Wide
-// enough for the tabs to stand in one row, and low enough to leave no page half empty.
-inline constexpr std::int32_t kPageWidth = 316;
-inline constexpr std::int32_t kPageHeight = 184;
+// A page for two full columns: 155 each with a gap of 6 between margins of 7, or one of 316. Wide
+// enough for seven tabs in one row, and high enough for seven settings in each column.
+inline constexpr std::int32_t kPageWidth = 330;
+inline constexpr std::int32_t kPageHeight = 218;
 inline constexpr std::int32_t kMargin = 7;
-inline constexpr std::int32_t kColumnWidth = 148;
-inline constexpr std::int32_t kSecondColumnX = 161;
-inline constexpr std::int32_t kWideColumnWidth = 302;
+inline constexpr std::int32_t kColumnWidth = 155;
+inline constexpr std::int32_t kSecondColumnX = 168;
+inline constexpr std::int32_t kWideColumnWidth = 316;
+
+// Room for the label beside a narrow box (spin, length, number, PIN) and beside a slider. The boxes
+// of lists and texts need all of the width, so their labels stand above.
+inline constexpr std::int32_t kNarrowBoxLabel = 75;
+inline constexpr std::int32_t kSliderLabel = 45;
 
 namespace rows {
 
@@ -56,14 +61,25 @@ inline constexpr UIControlRecord kBoxControls[] = {
 };
 
 template <std::uint32_t Unit> inline constexpr UISpinRecord kUnitSpin{.unitLabel = Unit};
-inline constexpr UIDimensionSpinRecord kLengthSpin{};
-template <std::uint32_t Low, std::uint32_t High>
+
+/// Steps of 1 mm and 0.05 inch; of 0.5 mm with one digit, of 0.05 mm with two.
+template <int Digits>
+inline constexpr UIDimensionSpinRecord kLengthSpin{.metricIncrement = Digits == 0 ? 1 : 5,
+                                                   .metricDigits = Digits,
+                                                   .inchIncrement = Digits == 0 ? 5 : 1,
+                                                   .inchDigits = Digits > 1 ? 3 : 2};
+template <std::uint32_t Low, std::uint32_t High, int Step>
 inline constexpr UISliderRecord kEndsSlider{
-    .tickFrequency = 10, .pageSize = 10, .lowLabel = Low, .highLabel = High};
-template <std::uint32_t Limit> inline constexpr UIEditRecord kLimitEdit{.limit = Limit};
-inline constexpr UIEditRecord kNumberEdit{.limit = 11, .width = 40, .digitsOnly = true};
-inline constexpr UIListRecord kOptionList{};
+    .tickFrequency = Step, .pageSize = Step, .lowLabel = Low, .highLabel = High};
+template <std::uint32_t Limit, std::uint32_t Lines>
+inline constexpr UIEditRecord kLimitEdit{.limit = Limit, .lines = Lines};
+template <std::uint32_t Limit>
+inline constexpr UIEditRecord kPinEdit{
+    .limit = Limit, .width = 45, .digitsOnly = true, .password = true};
+inline constexpr UIEditRecord kNumberEdit{.limit = 11, .width = 45, .digitsOnly = true};
+template <std::uint32_t Rows> inline constexpr UIListRecord kOptionList{.visibleRows = Rows};
 inline constexpr UIRadioRecord kOptionRadio{};
+template <tagValueEnum Value> inline constexpr UIRadioRecord kValueRadio{.value = Value};
 
 template <tagFeatureEnum Switch, tagFeatureEnum Range, std::uint32_t Label, std::uint32_t From,
           std::uint32_t To>
@@ -77,6 +93,13 @@ inline constexpr UIControlRecord kRangeControls[] = {
 
 } // namespace rows
 
+/// One radio button of a group: the value that it chooses, and its own label.
+template <tagFeatureEnum Feature, tagValueEnum Value, std::uint32_t Label>
+inline constexpr UIControlRecord kRadio{.kind = UIControlKind::Radio,
+                                        .feature = Feature,
+                                        .label = Label,
+                                        .extra = &rows::kValueRadio<Value>};
+
 /// A whole number with arrows, and the text of its unit behind the box.
 template <tagFeatureEnum Feature, std::uint32_t Label, std::uint32_t Unit = 0>
 constexpr UIMoleculeRecord spin()
@@ -84,37 +107,55 @@ constexpr UIMoleculeRecord spin()
     return {.kind = UIMoleculeKind::Spin,
             .controls =
                 rows::kBoxControls<UIControlKind::Spin, Feature, Label, &rows::kUnitSpin<Unit>>,
-            .featureState = 1};
+            .featureState = 1,
+            .labelWidth = kNarrowBoxLabel};
 }
 
-/// A length with arrows, in the units that the person works in.
-template <tagFeatureEnum Feature, std::uint32_t Label> constexpr UIMoleculeRecord length()
+/// A length with arrows, in the units that the person works in. Digits: behind the separator of
+/// millimetres.
+template <tagFeatureEnum Feature, std::uint32_t Label, int Digits = 0>
+constexpr UIMoleculeRecord length()
 {
-    return {
-        .kind = UIMoleculeKind::DimensionSpin,
-        .controls =
-            rows::kBoxControls<UIControlKind::DimensionSpin, Feature, Label, &rows::kLengthSpin>,
-        .featureState = 1};
+    return {.kind = UIMoleculeKind::DimensionSpin,
+            .controls = rows::kBoxControls<UIControlKind::DimensionSpin, Feature, Label,
+                                           &rows::kLengthSpin<Digits>>,
+            .featureState = 1,
+            .labelWidth = kNarrowBoxLabel};
 }
 
-/// A slider over a whole number, with texts under its ends.
-template <tagFeatureEnum Feature, std::uint32_t Label, std::uint32_t Low, std::uint32_t High>
+/// A slider over a whole number, with texts under its ends. Step: between two ticks, and of the
+/// Page keys.
+template <tagFeatureEnum Feature, std::uint32_t Label, std::uint32_t Low, std::uint32_t High,
+          int Step = 10>
 constexpr UIMoleculeRecord slider()
 {
     return {.kind = UIMoleculeKind::Slider,
             .controls = rows::kBoxControls<UIControlKind::Slider, Feature, Label,
-                                           &rows::kEndsSlider<Low, High>>,
-            .featureState = 1};
+                                           &rows::kEndsSlider<Low, High, Step>>,
+            .featureState = 1,
+            .labelWidth = kSliderLabel};
 }
 
 /// A field for a text of so many characters.
-template <tagFeatureEnum Feature, std::uint32_t Label, std::uint32_t Limit = 255>
+template <tagFeatureEnum Feature, std::uint32_t Label, std::uint32_t Limit = 255,
+          std::uint32_t Lines = 1>
 constexpr UIMoleculeRecord edit()
 {
     return {.kind = UIMoleculeKind::Edit,
-            .controls =
-                rows::kBoxControls<UIControlKind::Edit, Feature, Label, &rows::kLimitEdit<Limit>>,
+            .controls = rows::kBoxControls<UIControlKind::Edit, Feature, Label,
+                                           &rows::kLimitEdit<Limit, Lines>>,
             .featureState = 1};
+}
+
+/// A field for a secret number of so many digits.
+template <tagFeatureEnum Feature, std::uint32_t Label, std::uint32_t Limit>
+constexpr UIMoleculeRecord pin()
+{
+    return {
+        .kind = UIMoleculeKind::Edit,
+        .controls = rows::kBoxControls<UIControlKind::Edit, Feature, Label, &rows::kPinEdit<Limit>>,
+        .featureState = 1,
+        .labelWidth = kNarrowBoxLabel};
 }
 
 /// A field for a whole number, without arrows.
@@ -122,7 +163,8 @@ template <tagFeatureEnum Feature, std::uint32_t Label> constexpr UIMoleculeRecor
 {
     return {.kind = UIMoleculeKind::Edit,
             .controls = rows::kBoxControls<UIControlKind::Edit, Feature, Label, &rows::kNumberEdit>,
-            .featureState = 1};
+            .featureState = 1,
+            .labelWidth = kNarrowBoxLabel};
 }
 
 /// A range of whole numbers behind a check box that switches it on.
@@ -135,11 +177,13 @@ constexpr UIMoleculeRecord range()
             .featureState = 1};
 }
 
-/// An open list of the options, with its label.
-template <tagFeatureEnum Feature, std::uint32_t Label> constexpr UIMoleculeRecord pickOne()
+/// An open list of the options with room for so many, and its label.
+template <tagFeatureEnum Feature, std::uint32_t Label, std::uint32_t Rows = 5>
+constexpr UIMoleculeRecord pickOne()
 {
     return {.kind = UIMoleculeKind::PickOne,
-            .controls = rows::kBoxControls<UIControlKind::List, Feature, Label, &rows::kOptionList>,
+            .controls =
+                rows::kBoxControls<UIControlKind::List, Feature, Label, &rows::kOptionList<Rows>>,
             .featureState = 1};
 }
 
