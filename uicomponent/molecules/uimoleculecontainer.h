@@ -73,6 +73,7 @@ protected:
 
     /// Places what buildFrom has built.
     const UILayoutManager& getLayout() const { return *m_layout; }
+    const UIContainer* getContainer() const { return m_container.get(); }
     UIPageWindow& getPage() { return m_page; }
     UIServices& getServices() const { return m_site.services; }
     FeatureServices& getFeatureServices() const { return m_site.featureServices; }
