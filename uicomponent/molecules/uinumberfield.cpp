@@ -188,6 +188,7 @@ UITypedField::Verdict UINumberField::Take(const CXString& text)
         return {.taken = true};
     const auto reading = Read(text);
     if (reading.fault != UINumberRules::Fault::None) {
+        GiveBack();
         const bool outOfRange = reading.fault == UINumberRules::Fault::OutOfRange;
         return {.fault = FaultSentence(reading.fault, text),
                 .correction = outOfRange ? m_rules.text(reading.value) : CXString()};
@@ -201,6 +202,17 @@ UITypedField::Verdict UINumberField::Take(const CXString& text)
     }
     PlaceArrows();
     return {.taken = true};
+}
+
+// On the way to a text that is no value, its beginning may have been one.
+void UINumberField::GiveBack()
+{
+    if (!m_origin || m_value == m_origin)
+        return;
+    const auto before = std::exchange(m_value, m_origin);
+    if (!m_write(*m_origin))
+        m_value = before;
+    PlaceArrows();
 }
 
 CXString UINumberField::FaultSentence(UINumberRules::Fault fault, const CXString& text) const

@@ -45,10 +45,12 @@ protected:
     {
         const auto typed = ValueOf(text);
         const auto other = Other().GetTypedValue();
-        if (typed && other && (m_which == kLow ? *typed > *other : *typed < *other))
+        if (typed && other && (m_which == kLow ? *typed > *other : *typed < *other)) {
+            GiveBack();
             return {.fault = String(O7STR_M_FROM_ABOVE_TO),
                     .correction = GetRules().text(*other),
                     .waits = true};
+        }
         return UINumberField::Take(text);
     }
 

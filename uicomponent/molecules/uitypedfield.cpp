@@ -110,6 +110,10 @@ bool UITypedField::HandleMessage(const _UIWindowsMessage& message)
         if (!m_filling)
             Typed();
         return true;
+    case EN_SETFOCUS:
+        if (!m_pending)
+            Settle();
+        return true;
     case EN_KILLFOCUS:
         Left(GetFocus());
         return true;
@@ -140,12 +144,14 @@ void UITypedField::Left(HWND next)
 void UITypedField::Settle()
 {
     if (!m_pending) {
+        KeepAsOrigin();
         ShowText(PresentText());
         return;
     }
     CXString said = m_verdict.fault;
     const bool corrected = !m_verdict.correction.IsEmpty() && Take(m_verdict.correction).taken;
     DropPending();
+    KeepAsOrigin();
     said += Consequence(corrected ? O7STR_M_CHANGED_TO : O7STR_M_VALUE_STAYS,
                         PresentTextInSentence());
     ShowTip(said);

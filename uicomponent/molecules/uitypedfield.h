@@ -85,6 +85,9 @@ protected:
     /// Whether the window belongs to the setting as much as this field does.
     virtual bool IsSibling(HWND) const { return false; }
 
+    /// What stands in the box now is what the person has settled on: a text that is no value later
+    /// brings it back.
+    virtual void KeepAsOrigin() = 0;
     /// Brings a text that waits to an end: it is corrected, or the old one comes back.
     virtual void Settle();
 
