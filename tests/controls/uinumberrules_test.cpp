@@ -16,8 +16,8 @@ constexpr std::int64_t kMillimetre = 36'000'000;
 /// Names that a test can tell in its messages.
 const char* nameOf(Fault fault)
 {
-    constexpr const char* kNames[] = {"value",   "empty",     "no number",
-                                      "unit",    "not whole", "out of range"};
+    constexpr const char* kNames[] = {"value", "empty",     "no number",
+                                      "unit",  "not whole", "out of range"};
     return kNames[static_cast<int>(fault)];
 }
 
@@ -45,15 +45,15 @@ TEST(UINumberRulesTest, TypedTextsComeToValuesOrToTheKindOfMistake)
 {
     enum Field
     {
-        Whole,        // 1 to 99 and 200 to 1999, point
-        WholeComma,   // the same, comma
-        Metric,       // 98.4 to 330.2 mm, point
-        MetricComma,  // the same, comma
-        Inches        // the same, shown in inches
+        Whole,       // 1 to 99 and 200 to 1999, point
+        WholeComma,  // the same, comma
+        Metric,      // 98.4 to 330.2 mm, point
+        MetricComma, // the same, comma
+        Inches       // the same, shown in inches
     };
-    const UINumberRules kRules[] = {wholeRules(), wholeRules(), lengthRules(Units::Millimetre, L'.'),
-                                    lengthRules(Units::Millimetre, L','),
-                                    lengthRules(Units::Inch, L'.')};
+    const UINumberRules kRules[] = {
+        wholeRules(), wholeRules(), lengthRules(Units::Millimetre, L'.'),
+        lengthRules(Units::Millimetre, L','), lengthRules(Units::Inch, L'.')};
     UIUnitNames names;
     names.add(L"Zoll; Fuß", {Units::Inch, 1});
     const struct

@@ -1,5 +1,5 @@
-// Whatever somebody pastes into a field for a number: it comes to a value that is allowed and can be
-// typed again as it is shown, or to a fault; never to anything else.
+// Whatever somebody pastes into a field for a number: it comes to a value that is allowed and can
+// be typed again as it is shown, or to a fault; never to anything else.
 #include "uinumberrules.h"
 #include "uitypednumber.h"
 #include "uiunitnames.h"
@@ -39,16 +39,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (size == 0)
         return 0;
     const std::uint8_t choice = data[0];
-    const CXString text = CXString::FromUtf8(
-        std::string_view(reinterpret_cast<const char*>(data) + 1, size - 1));
+    const CXString text =
+        CXString::FromUtf8(std::string_view(reinterpret_cast<const char*>(data) + 1, size - 1));
     UITypedNumber::withPlainDigits(text);
 
     UINumberRules rules;
     rules.decimalSeparator = (choice & 1) != 0 ? L',' : L'.';
     if ((choice & 2) != 0) {
         rules.isLength = true;
-        rules.units = (choice & 4) != 0 ? Dimension::UnitsEnum::Inch
-                                        : Dimension::UnitsEnum::Millimetre;
+        rules.units =
+            (choice & 4) != 0 ? Dimension::UnitsEnum::Inch : Dimension::UnitsEnum::Millimetre;
         rules.digits = choice >> 6;
         rules.grid = (choice & 8) != 0 ? kMillimetre / 10 : 1;
     }

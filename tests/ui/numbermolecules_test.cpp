@@ -6,6 +6,9 @@
 #include <commctrl.h>
 #include <prsht.h>
 
+#include <cstring>
+#include <tuple>
+
 #include "datamodelfactory.h"
 #include "idledriver.h"
 #include "input.h"
@@ -111,8 +114,7 @@ HWND boxOf(HWND page, int wanted)
     for (HWND child = GetWindow(page, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
         wchar_t name[32] = L"";
         GetClassNameW(child, name, 32);
-        if ((_wcsicmp(name, L"EDIT") == 0 || _wcsicmp(name, TRACKBAR_CLASSW) == 0) &&
-            wanted-- == 0)
+        if ((_wcsicmp(name, L"EDIT") == 0 || _wcsicmp(name, TRACKBAR_CLASSW) == 0) && wanted-- == 0)
             return child;
     }
     return nullptr;
@@ -127,11 +129,16 @@ std::string textOf(HWND box)
     return o7::windowText(box).ToUtf8();
 }
 
-/// As the clipboard or a keyboard of another script would bring it.
-void enter(HWND box, const wchar_t* text)
+void focus(HWND box)
 {
     pumpMessages(); // a new dialog has its own wish for the focus
     SendMessageW(GetParent(box), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(box), TRUE);
+}
+
+/// As the clipboard or a keyboard of another script would bring it.
+void enter(HWND box, const wchar_t* text)
+{
+    focus(box);
     SendMessageW(box, EM_SETSEL, 0, -1);
     if (!*text)
         SendMessageW(box, WM_CLEAR, 0, 0);
@@ -174,10 +181,9 @@ std::string constraints()
     for (const auto& [value, effect] :
          {std::pair{L"grey", L"disable"}, {L"empty", L"clear"}, {L"gone", L"hide"}})
         for (const int feature : {3007, 3121, 3123, 3180, 3107, 3245, 3240, 3137, 3223})
-            text += CXString::Formatted(
-                        LR"({"id":"%s%d","when":[{"feature":3001,"is":["%s"]}],)"
-                        LR"("effect":{"feature":%d,"kind":"%s"},"reason":60007},)",
-                        effect, feature, value, feature, effect)
+            text += CXString::Formatted(LR"({"id":"%s%d","when":[{"feature":3001,"is":["%s"]}],)"
+                                        LR"("effect":{"feature":%d,"kind":"%s"},"reason":60007},)",
+                                        effect, feature, value, feature, effect)
                         .ToUtf8();
     text.pop_back();
     return text;
@@ -249,7 +255,6 @@ protected:
     std::unique_ptr<ObserverCount> m_services;
 };
 
-
 TEST_F(NumberMoleculesTest, TypedTextsBecomeValuesOrComeBack)
 {
     struct Row
@@ -304,11 +309,234 @@ TEST_F(NumberMoleculesTest, TypedTextsBecomeValuesOrComeBack)
                 owner = molecule;
         ASSERT_TRUE(owner);
         EXPECT_EQ(owner->HasPendingInput(), row.told);
-        enter(boxOf(dialog->window(), Slider), L"");
+        focus(boxOf(dialog->window(), Slider));
         EXPECT_EQ(!shownTip().empty(), row.told) << shownTip();
         EXPECT_EQ(textOf(box), row.settled);
         EXPECT_FALSE(owner->HasPendingInput());
     }
     EXPECT_EQ(m_services->registered, 0);
+}
+
+TEST_F(NumberMoleculesTest, KeysWheelAndMouseMoveByTheStep)
+{
+    struct Row
+    {
+        Box box;
+        const wchar_t* typed; ///< null: what stands there
+        std::vector<WORD> keys;
+        tagFeatureEnum feature;
+        const char* value;
+        const char* shown;
+    };
+    const Row rows[] = {
+        {Copies, nullptr, {VK_UP}, kCopies, "2", "2"},
+        {Copies, nullptr, {VK_DOWN}, kCopies, "1", "1"},
+        {Copies, L"99", {VK_UP, VK_UP}, kCopies, "201", "201"},
+        {Copies, L"999", {VK_UP}, kCopies, "999", "999"},
+        {Copies, L"5000", {VK_DOWN}, kCopies, "998", "998"}, // from the nearest
+        {Copies, L"abc", {VK_UP}, kCopies, "1", "abc"},      // from nothing
+        {Copies, nullptr, {'4', '2'}, kCopies, "42", "42"},
+        {Margin, nullptr, {VK_UP}, kMargin, "11.00", "11"},
+        {Strip, L"15,5", {VK_DOWN}, kStrip, "150", "15"},
+        {Percent, nullptr, {VK_UP}, kPercent, "100", "100"}, // no arrows
+        {Slider, nullptr, {VK_RIGHT, VK_RIGHT}, kLightness, "2", "2"},
+        {Slider, nullptr, {VK_HOME}, kLightness, "-100", "-100"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.value);
+        m_model->RevertToAccepted();
+        const auto dialog = open();
+        const HWND box = boxOf(dialog->window(), row.box);
+        focus(box);
+        if (row.typed)
+            enter(box, row.typed);
+        for (const WORD key : row.keys)
+            sendKey(key);
+        EXPECT_EQ(value(row.feature), row.value);
+        EXPECT_EQ(textOf(box), row.shown);
+    }
+    m_model->RevertToAccepted();
+    const auto dialog = open();
+    const HWND arrows = GetWindow(boxOf(dialog->window(), Copies), GW_HWNDNEXT);
+    RECT area{};
+    GetWindowRect(arrows, &area);
+    sendClick((area.left + area.right) / 2, area.top + (area.bottom - area.top) / 4);
+    EXPECT_EQ(value(kCopies), "2");
+    sendClick(boxOf(dialog->window(), Slider)); // the middle of the track, where the thumb is
+    EXPECT_EQ(value(kLightness), "0");
+}
+
+TEST_F(NumberMoleculesTest, ModelsValuesAndStatesAreShownAndNothingIsWrittenBack)
+{
+    const std::string before = allValues();
+    const auto dialog = open();
+    const auto shown = [&] {
+        std::string text;
+        for (int box = Copies; box <= Optional; ++box)
+            text += textOf(boxOf(dialog->window(), box)) + " ";
+        return text;
+    };
+    const auto count = [&](BOOL(WINAPI * has)(HWND)) {
+        int boxes = 0;
+        for (int box = Copies; box <= Optional; ++box)
+            boxes += has(boxOf(dialog->window(), box)) ? 1 : 0;
+        return boxes;
+    };
+    constexpr int kAll = Optional + 1;
+    EXPECT_EQ(shown(), "1 10.3 150.3 0 100 job 12 2 5 50 ");
+    for (UIMolecule* molecule : dialog->molecules()) {
+        molecule->LeavePage();
+        molecule->Refresh();
+    }
+    setOption(kLimiter, 6001);
+    EXPECT_EQ(count(&IsWindowEnabled), 0);
+    EXPECT_EQ(shown(), "1 10.3 150.3 0 100 job 12 2 5 50 ");
+    setOption(kLimiter, 6002);
+    EXPECT_EQ(shown(), "   -100       ");
+    EXPECT_EQ(count(&IsWindowEnabled), 0);
+    setOption(kLimiter, 6003);
+    EXPECT_EQ(count(&IsWindowVisible), 0);
+    setOption(kLimiter, 6000);
+    EXPECT_EQ(count(&IsWindowVisible), kAll);
+    EXPECT_EQ(count(&IsWindowEnabled), kAll);
+    EXPECT_EQ(shown(), "1 10.3 150.3 0 100 job 12 2 5 50 ");
+    setOption(kMeasurementUnits, 5231);
+    EXPECT_EQ(shown(), "1 0.41 5.92 0 100 job 12 2 5 50 ");
+    enter(boxOf(dialog->window(), Margin), L"0.4");
+    enter(boxOf(dialog->window(), Margin), L"0.41"); // what stood there is what was there
+    setOption(kMeasurementUnits, 5230);
+    EXPECT_EQ(value(kMargin), "10.30");
+    set(kMargin, Dimension(10.3, Dimension::UnitsEnum::Millimetre));
+    EXPECT_EQ(allValues(), before);
+    const int written = m_services->transactions;
+
+    set(kCopies, 7);
+    set(kLightness, -20);
+    set(kJobName, CXString(L"other"));
+    set(kPages, RangeOfInteger(3, 4));
+    EXPECT_EQ(shown(), "7 10.3 150.3 -20 100 other 12 3 4 50 ");
+    set(kSwitch, false);
+    EXPECT_EQ(count(&IsWindowEnabled), kAll - 2);
+    EXPECT_EQ(m_services->transactions, written);
+    EXPECT_NE(dialog->dump().find(L" = \"7\" [enabled]\n    - 1 to 99, 200 to 999\n"),
+              std::wstring::npos);
+}
+
+TEST_F(NumberMoleculesTest, CheckBoxesTurnTheirFieldsOnAndOff)
+{
+    const auto dialog = open();
+    for (const auto& [box, feature, off] :
+         {std::tuple{From, kSwitch, "no"}, std::tuple{Optional, kDensity, "none"}}) {
+        const HWND field = boxOf(dialog->window(), box);
+        const std::string on = value(feature);
+        HWND check = field;
+        wchar_t name[16] = L"";
+        while (_wcsicmp(name, L"BUTTON") != 0) {
+            check = GetWindow(check, GW_HWNDPREV);
+            GetClassNameW(check, name, 16);
+        }
+        sendClick(check);
+        EXPECT_EQ(value(feature), off);
+        EXPECT_FALSE(IsWindowEnabled(field));
+        sendClick(check);
+        EXPECT_EQ(value(feature), on);
+        EXPECT_TRUE(IsWindowEnabled(field));
+    }
+}
+
+TEST_F(NumberMoleculesTest, APastedTextComesWholeAndIsJudged)
+{
+    const auto dialog = open();
+    const HWND box = boxOf(dialog->window(), JobName);
+    const auto paste = [&](const wchar_t* text) {
+        const std::size_t size = (wcslen(text) + 1) * sizeof(wchar_t);
+        ASSERT_TRUE(OpenClipboard(dialog->window()));
+        EmptyClipboard();
+        const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, size);
+        std::memcpy(GlobalLock(memory), text, size);
+        GlobalUnlock(memory);
+        SetClipboardData(CF_UNICODETEXT, memory);
+        CloseClipboard();
+        focus(box);
+        SendMessageW(box, EM_SETSEL, 0, -1);
+        sendKey('V', {VK_CONTROL});
+    };
+    paste(L"exactly8");
+    EXPECT_EQ(value(kJobName), "exactly8");
+    focus(boxOf(dialog->window(), Percent));
+    paste(L"longer than eight");
+    EXPECT_EQ(value(kJobName), "exactly8");
+    EXPECT_EQ(textOf(box), "longer than eight");
+    focus(boxOf(dialog->window(), Percent));
+    EXPECT_EQ(textOf(box), "exactly8");
+    EXPECT_EQ(shownTip(), "No more than 8 characters fit here.\nThe value stays “exactly8”.");
+    enter(box, L"12345678");
+    sendKey('9'); // does not go in, and says so
+    EXPECT_EQ(textOf(box), "12345678");
+    EXPECT_EQ(shownTip(), "No more than 8 characters fit here.");
+    sendKey(VK_BACK);
+    EXPECT_EQ(shownTip(), "");
+}
+
+// OK with a text that is no number, its page not in front: from the button, and by Enter.
+TEST_F(NumberMoleculesTest, OkIsRefusedAndLeadsToTheField)
+{
+    const UIData data(kSheet, UIMode::PrintingPreferences, Workflow::Standard);
+    SheetRig rig(session().productData(), *m_services, session().strings(), data);
+    HWND sheet = nullptr;
+    HWND box = nullptr;
+    std::string said;
+    const auto answerBox = [&](HWND dialog) {
+        if (!dialog || dialog == sheet)
+            return false;
+        EXPECT_EQ(o7::windowText(dialog).ToUtf8(), "Copies");
+        said = o7::windowText(GetDlgItem(dialog, 0xFFFF)).ToUtf8();
+        PostMessageW(dialog, WM_COMMAND, IDOK, 0);
+        return true;
+    };
+    const auto isInField = [&](HWND dialog) {
+        DWORD first = 0;
+        DWORD last = 0;
+        SendMessageW(box, EM_GETSEL, reinterpret_cast<WPARAM>(&first),
+                     reinterpret_cast<LPARAM>(&last));
+        return dialog == sheet && IsWindowVisible(box) && GetFocus() == box && first == 0 &&
+               last == 4;
+    };
+    const IdleDriver driver({
+        [&](HWND dialog) {
+            sheet = dialog;
+            box = sheet ? boxOf(currentPage(sheet), Copies) : nullptr;
+            if (box)
+                enter(box, L"many");
+            return box != nullptr;
+        },
+        [&](HWND) { return PropSheet_SetCurSel(sheet, nullptr, 1) != FALSE; },
+        [&](HWND) {
+            EXPECT_FALSE(IsWindowVisible(box));
+            PostMessageW(sheet, PSM_PRESSBUTTON, PSBTN_OK, 0);
+            return true;
+        },
+        answerBox,
+        isInField,
+        [&](HWND) {
+            EXPECT_EQ(textOf(box), "many");
+            EXPECT_NE(said.find("“many” is not a number.\nAllowed: 1 to 99"), std::string::npos)
+                << said;
+            PostMessageW(box, WM_KEYDOWN, VK_RETURN, 1);
+            return true;
+        },
+        answerBox,
+        isInField,
+        [&](HWND) {
+            EXPECT_EQ(value(kCopies), "1");
+            enter(box, L"12");
+            PostMessageW(sheet, PSM_PRESSBUTTON, PSBTN_OK, 0);
+            return true;
+        },
+    });
+    rig.run();
+    EXPECT_EQ(driver.failure(), "");
+    EXPECT_EQ(value(kCopies), "12");
+    EXPECT_FALSE(m_model->IsModified());
 }
 } // namespace o7::test

@@ -62,7 +62,23 @@ void UIMoleculeSwitch::Show(bool shown)
 void UIMoleculeSwitch::Enable(bool enabled)
 {
     if (m_check)
-        m_check->setEnable(enabled);
+        m_check->setEnable(enabled && !OwnState().IsDisabled());
+}
+
+InterpretedState UIMoleculeSwitch::OwnState() const
+{
+    if (!HasOwnFeature())
+        return {};
+    return m_site.featureServices.GetFeatureRef(m_feature)
+        ->GetCapabilities()
+        ->GetInterpretedState();
+}
+
+void UIMoleculeSwitch::AddReason(InterpretedState& state) const
+{
+    const InterpretedState own = OwnState();
+    if (own.IsDisabled())
+        state.AddInfo(own.GetReason());
 }
 
 bool UIMoleculeSwitch::Read() const
@@ -70,9 +86,8 @@ bool UIMoleculeSwitch::Read() const
     if (!m_ownFeature)
         return m_site.featureServices.GetFeatureRef(m_feature)->IsSpecified();
     bool on = false;
-    m_site.featureServices.GetListOfFeaturesFor(m_feature)
-        .GetBooleanFeature(m_feature)
-        .GetValue(on, FeatureRef::kDoNotAssertIfUnsupported);
+    m_site.featureServices.GetListOfFeaturesFor(m_feature).GetBooleanFeature(m_feature).GetValue(
+        on, FeatureRef::kDoNotAssertIfUnsupported);
     return on;
 }
 

@@ -6,6 +6,7 @@
 
 #include "cxstring.h"
 #include "featureidwithcontext.h"
+#include "interpretedstate.h"
 #include "uimoleculesite.h"
 #include "uipagewindow.h"
 #include "uiwindowsmessage.h"
@@ -41,7 +42,10 @@ public:
     void Create(UIPageWindow& page, POINT place, long width);
     void Move(POINT delta);
     void Show(bool shown);
+    /// @param enabled  what the molecule allows; the box is also grey while its feature is disabled
     void Enable(bool enabled);
+    /// Adds why the box is grey by its own feature to what the molecule says of itself.
+    void AddReason(InterpretedState& state) const;
     /// Reads and shows the value.
     void Load();
     bool IsOn() const { return !m_exists || m_on; }
@@ -56,6 +60,7 @@ public:
 
 private:
     bool Read() const;
+    InterpretedState OwnState() const;
 
     const UIMoleculeSite& m_site;
     FeatureIdWithContext m_feature;

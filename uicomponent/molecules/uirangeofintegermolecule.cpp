@@ -36,8 +36,9 @@ class UIRangeOfIntegerMolecule::EndField : public UINumberField
 public:
     EndField(UIRangeOfIntegerMolecule& molecule, Which which) : m_molecule(molecule), m_which(which)
     {
-        SetWriter(
-            [this](std::int64_t value) { return m_molecule.WriteEnd(m_which, static_cast<int>(value)); });
+        SetWriter([this](std::int64_t value) {
+            return m_molecule.WriteEnd(m_which, static_cast<int>(value));
+        });
     }
 
 protected:
@@ -129,9 +130,9 @@ bool UIRangeOfIntegerMolecule::IsInteger(const End& end) const
 UINumberRules UIRangeOfIntegerMolecule::MakeRules(const End& end) const
 {
     const auto features = GetSite().featureServices.GetListOfFeaturesFor(end.feature);
-    const auto capability =
-        IsInteger(end) ? features.GetIntegerFeature(end.feature).GetRangeCapabilities()
-                       : features.GetRangeFeature(end.feature).GetRangeCapabilities();
+    const auto capability = IsInteger(end)
+                                ? features.GetIntegerFeature(end.feature).GetRangeCapabilities()
+                                : features.GetRangeFeature(end.feature).GetRangeCapabilities();
     UINumberRules rules;
     rules.ranges = o7::numberRanges(*capability);
     rules.increment = end.data->getIncrement(true);
@@ -186,8 +187,9 @@ void UIRangeOfIntegerMolecule::CreateControls(UIPageWindow& page)
         End& end = m_ends[which];
         end.field->SetRules(MakeRules(end));
         const long taken = end.labelWidth + end.field->GetWantedWidth(true) + kEndGap;
-        CreateEnd(page, which, at, m_twoRows || which == kHigh ? width - (at.x - place.x - indent)
-                                                               : taken - kEndGap);
+        CreateEnd(page, which, at,
+                  m_twoRows || which == kHigh ? width - (at.x - place.x - indent)
+                                              : taken - kEndGap);
         if (m_twoRows)
             at.y += UINumberField::kHeight + kRowGap;
         else
@@ -228,11 +230,11 @@ std::optional<int> UIRangeOfIntegerMolecule::ReadEnd(Which which) const
     const auto features = GetSite().featureServices.GetListOfFeaturesFor(end.feature);
     int ends[2] = {};
     const bool read =
-        IsInteger(end) ? features.GetIntegerFeature(end.feature)
-                             .GetValue(ends[which], FeatureRef::kDoNotAssertIfUnsupported)
-                       : features.GetRangeFeature(end.feature)
-                             .GetValue(ends[kLow], ends[kHigh],
-                                       FeatureRef::kDoNotAssertIfUnsupported);
+        IsInteger(end)
+            ? features.GetIntegerFeature(end.feature)
+                  .GetValue(ends[which], FeatureRef::kDoNotAssertIfUnsupported)
+            : features.GetRangeFeature(end.feature)
+                  .GetValue(ends[kLow], ends[kHigh], FeatureRef::kDoNotAssertIfUnsupported);
     return read ? std::optional(ends[which]) : std::nullopt;
 }
 
@@ -241,8 +243,8 @@ bool UIRangeOfIntegerMolecule::WriteEnd(Which which, int value)
 {
     int ends[2] = {};
     for (const Which one : {kLow, kHigh})
-        ends[one] = static_cast<int>(m_ends[one].field->GetTypedValue().value_or(
-            ReadEnd(one).value_or(value)));
+        ends[one] = static_cast<int>(
+            m_ends[one].field->GetTypedValue().value_or(ReadEnd(one).value_or(value)));
     ends[which] = value;
     UIValueWriter& writer = GetSite().valueWriter;
     const auto transaction = GetSite().featureServices.OpenTransaction();
@@ -267,6 +269,7 @@ void UIRangeOfIntegerMolecule::LoadValue()
         const auto value = m_cleared ? std::nullopt : ReadEnd(which);
         m_ends[which].field->ShowValue(value ? std::optional<std::int64_t>(*value) : std::nullopt);
     }
+    EnableEnds(IsEnabled() && m_switch.IsOn());
 }
 
 void UIRangeOfIntegerMolecule::EnableEnds(bool enabled)
@@ -284,14 +287,19 @@ void UIRangeOfIntegerMolecule::ShowState(const InterpretedState& state, bool ena
     m_cleared = !enabled && state.IsCleared();
     m_switch.Enable(enabled);
     LoadValue();
-    EnableEnds(enabled && m_switch.IsOn());
+}
+
+void UIRangeOfIntegerMolecule::CompleteState(const CapabilitiesNode& capabilities,
+                                             InterpretedState& state) const
+{
+    UIFeatureMolecule::CompleteState(capabilities, state);
+    m_switch.AddReason(state);
 }
 
 bool UIRangeOfIntegerMolecule::HandleMessage(const _UIWindowsMessage& message)
 {
     if (m_switch.HandleMessage(message)) {
         LoadValue();
-        EnableEnds(IsEnabled() && m_switch.IsOn());
         return true;
     }
     for (End& end : m_ends)

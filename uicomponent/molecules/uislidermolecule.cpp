@@ -42,8 +42,7 @@ UISliderMolecule::~UISliderMolecule() = default;
 void UISliderMolecule::InitializeFromDescription()
 {
     for (const auto& control : GetData().getControls()) {
-        const auto feature =
-            InFeatureList(FeatureIdWithContext{FeatureId(control->getFeature())});
+        const auto feature = InFeatureList(FeatureIdWithContext{FeatureId(control->getFeature())});
         switch (control->getKind()) {
         case UIControlKind::Slider:
             m_sliderData = static_cast<const UISliderControlData*>(control.get());
@@ -176,11 +175,10 @@ void UISliderMolecule::SetPosition(POINT position)
 
 void UISliderMolecule::ReadRules()
 {
-    m_rules.ranges =
-        o7::numberRanges(*GetSite()
-                              .featureServices.GetListOfFeaturesFor(GetBoundFeature())
-                              .GetIntegerFeature(GetBoundFeature())
-                              .GetRangeCapabilities());
+    m_rules.ranges = o7::numberRanges(*GetSite()
+                                           .featureServices.GetListOfFeaturesFor(GetBoundFeature())
+                                           .GetIntegerFeature(GetBoundFeature())
+                                           .GetRangeCapabilities());
 }
 
 std::optional<int> UISliderMolecule::ReadNumber() const
@@ -213,6 +211,7 @@ void UISliderMolecule::LoadValue()
 {
     m_switch.Load();
     ShowNumber(m_cleared ? std::nullopt : ReadNumber());
+    EnableSlider(IsEnabled() && m_switch.IsOn());
 }
 
 void UISliderMolecule::EnableSlider(bool enabled)
@@ -228,14 +227,19 @@ void UISliderMolecule::ShowState(const InterpretedState& state, bool enabled)
     m_label.Enable(enabled);
     m_switch.Enable(enabled);
     LoadValue();
-    EnableSlider(enabled && m_switch.IsOn());
+}
+
+void UISliderMolecule::CompleteState(const CapabilitiesNode& capabilities,
+                                     InterpretedState& state) const
+{
+    UIFeatureMolecule::CompleteState(capabilities, state);
+    m_switch.AddReason(state);
 }
 
 bool UISliderMolecule::HandleMessage(const _UIWindowsMessage& message)
 {
     if (m_switch.HandleMessage(message)) {
         LoadValue();
-        EnableSlider(IsEnabled() && m_switch.IsOn());
         return true;
     }
     if (message.message == WM_HSCROLL && m_slider &&
@@ -298,11 +302,11 @@ void UISliderMolecule::DumpControls() const
     if (!m_slider || !UIDump::isCollecting())
         return;
     const UIDump::Level inner;
-    UIDump::line((L"- " + CXString::Formatted(
-                              GetSite().strings.LoadStringW(O7STR_M_RANGE_PART).c_str(),
-                              m_rules.text(m_slider->getMinimum()).c_str(),
-                              m_rules.text(m_slider->getMaximum()).c_str()))
-                     .View());
+    UIDump::line(
+        (L"- " + CXString::Formatted(GetSite().strings.LoadStringW(O7STR_M_RANGE_PART).c_str(),
+                                     m_rules.text(m_slider->getMinimum()).c_str(),
+                                     m_rules.text(m_slider->getMaximum()).c_str()))
+            .View());
 }
 
 CXString UISliderMolecule::GetObserverClassNameHeirarchy() const

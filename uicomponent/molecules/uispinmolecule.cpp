@@ -30,8 +30,7 @@ UISpinMolecule::~UISpinMolecule() = default;
 void UISpinMolecule::InitializeFromDescription()
 {
     for (const auto& control : GetData().getControls()) {
-        const auto feature =
-            InFeatureList(FeatureIdWithContext{FeatureId(control->getFeature())});
+        const auto feature = InFeatureList(FeatureIdWithContext{FeatureId(control->getFeature())});
         switch (control->getKind()) {
         case UIControlKind::Spin:
         case UIControlKind::DimensionSpin:
@@ -158,6 +157,7 @@ void UISpinMolecule::LoadValue()
 {
     m_switch.Load();
     m_field.ShowValue(m_cleared ? std::nullopt : ReadNumber());
+    m_field.Enable(IsEnabled() && m_switch.IsOn());
 }
 
 void UISpinMolecule::ShowState(const InterpretedState& state, bool enabled)
@@ -166,14 +166,19 @@ void UISpinMolecule::ShowState(const InterpretedState& state, bool enabled)
     m_label.Enable(enabled);
     m_switch.Enable(enabled);
     LoadValue();
-    m_field.Enable(enabled && m_switch.IsOn());
+}
+
+void UISpinMolecule::CompleteState(const CapabilitiesNode& capabilities,
+                                   InterpretedState& state) const
+{
+    UIFeatureMolecule::CompleteState(capabilities, state);
+    m_switch.AddReason(state);
 }
 
 bool UISpinMolecule::HandleMessage(const _UIWindowsMessage& message)
 {
     if (m_switch.HandleMessage(message)) {
         LoadValue();
-        m_field.Enable(IsEnabled() && m_switch.IsOn());
         return true;
     }
     return m_field.HandleMessage(message) || ProcessCommonMessage(message);

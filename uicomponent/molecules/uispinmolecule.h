@@ -37,6 +37,8 @@ public:
 protected:
     void LoadValue() override;
     void ShowState(const InterpretedState& state, bool enabled) override;
+    void CompleteState(const CapabilitiesNode& capabilities,
+                       InterpretedState& state) const override;
 
     /// How the values of the feature are written, and which are allowed.
     virtual UINumberRules MakeRules();

@@ -31,8 +31,8 @@ void UITextField::ShowValue(const CXString& text)
 
 bool UITextField::HandleMessage(const _UIWindowsMessage& message)
 {
-    if (message.message == WM_COMMAND && HIWORD(message.wParam) == EN_MAXTEXT &&
-        GetHwnd() && reinterpret_cast<HWND>(message.lParam) == GetHwnd()) {
+    if (message.message == WM_COMMAND && HIWORD(message.wParam) == EN_MAXTEXT && GetHwnd() &&
+        reinterpret_cast<HWND>(message.lParam) == GetHwnd()) {
         ShowTip(TooLong());
         return true;
     }

@@ -47,8 +47,8 @@ std::int64_t UINumberRules::countOfDigit(int digit) const
     std::int64_t billionths = kBillion;
     for (int place = 0; place < digit; ++place)
         billionths /= 10;
-    return std::max<std::int64_t>(
-        1, Dimension(Number::FromBillionths(billionths), units).GetCount());
+    return std::max<std::int64_t>(1,
+                                  Dimension(Number::FromBillionths(billionths), units).GetCount());
 }
 
 CXString UINumberRules::text(std::int64_t value) const
