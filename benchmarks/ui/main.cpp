@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "controlsbench.h"
+#include "pagesbench.h"
 #include "report.h"
 #include "routingbench.h"
 #include "sheetbench.h"
@@ -22,8 +23,8 @@ constexpr struct
     const wchar_t* name;
     void (*measure)(o7::bench::Report&, const std::wstring&);
 } kMeasurements[] = {
-    {L"raw-sheet", &o7::bench::benchRawSheet},
-    {L"controls", &o7::bench::benchControls},
+    {L"raw-sheet", &o7::bench::benchRawSheet}, {L"pages", &o7::bench::benchPages},
+    {L"greying", &o7::bench::benchGreying},    {L"controls", &o7::bench::benchControls},
     {L"routing", &o7::bench::benchRouting},
 };
 

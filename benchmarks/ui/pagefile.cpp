@@ -89,8 +89,9 @@ template <class File> void transfer(File& file, std::vector<RawPage>& pages)
             file.plain(window.place);
             file.plain(window.id);
             file.plain(window.enabled);
+            file.plain(window.bold);
             file.list(window.items, [&](std::wstring& item) { file.text(item); });
-            file.plain(window.selection);
+            file.list(window.messages, [&](RawMessage& message) { file.plain(message); });
         });
     });
 }

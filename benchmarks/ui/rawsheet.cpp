@@ -7,6 +7,7 @@
 
 #include "isolationaware.h"
 #include "uidialogtemplate.h"
+#include "uihandles.h"
 
 namespace o7::bench {
 
@@ -20,18 +21,123 @@ std::wstring textOf(HWND window)
     return text;
 }
 
-void recordCombo(HWND window, RawWindow& raw)
+LRESULT ask(HWND window, UINT message, WPARAM wParam = 0)
 {
-    const auto count = static_cast<int>(SendMessageW(window, CB_GETCOUNT, 0, 0));
-    for (int index = 0; index < count; ++index) {
-        const auto length = SendMessageW(window, CB_GETLBTEXTLEN, static_cast<WPARAM>(index), 0);
-        std::wstring item(static_cast<std::size_t>(length) + 1, L'\0');
-        SendMessageW(window, CB_GETLBTEXT, static_cast<WPARAM>(index),
-                     reinterpret_cast<LPARAM>(item.data()));
-        item.resize(static_cast<std::size_t>(length));
+    return SendMessageW(window, message, wParam, 0);
+}
+
+/// The numbers of the messages of a combo box, and of a list box.
+struct ListMessages
+{
+    UINT count, textLength, text, add, selection, select;
+};
+constexpr ListMessages kComboMessages{CB_GETCOUNT,  CB_GETLBTEXTLEN, CB_GETLBTEXT,
+                                      CB_ADDSTRING, CB_GETCURSEL,    CB_SETCURSEL};
+constexpr ListMessages kListMessages{LB_GETCOUNT,  LB_GETTEXTLEN, LB_GETTEXT,
+                                     LB_ADDSTRING, LB_GETCURSEL,  LB_SETCURSEL};
+
+void recordItems(HWND window, const ListMessages& list, RawWindow& raw)
+{
+    const auto count = static_cast<WPARAM>(ask(window, list.count));
+    for (WPARAM index = 0; index < count; ++index) {
+        const auto length = static_cast<std::size_t>(ask(window, list.textLength, index));
+        std::wstring item(length + 1, L'\0');
+        SendMessageW(window, list.text, index, reinterpret_cast<LPARAM>(item.data()));
+        item.resize(length);
         raw.items.push_back(item);
     }
-    raw.selection = static_cast<int>(SendMessageW(window, CB_GETCURSEL, 0, 0));
+    const LRESULT selection = ask(window, list.selection);
+    if (selection >= 0)
+        raw.messages.push_back({list.select, static_cast<WPARAM>(selection), 0});
+}
+
+void recordCombo(HWND window, RawWindow& raw)
+{
+    raw.style |= WS_VSCROLL; // the window takes it off itself when it is created
+    for (const WPARAM part : {static_cast<WPARAM>(-1), WPARAM{0}})
+        raw.messages.push_back({CB_SETITEMHEIGHT, part, ask(window, CB_GETITEMHEIGHT, part)});
+    recordItems(window, kComboMessages, raw);
+}
+
+void recordList(HWND window, RawWindow& raw)
+{
+    recordItems(window, kListMessages, raw);
+}
+
+void recordButton(HWND window, RawWindow& raw)
+{
+    if (const LRESULT check = ask(window, BM_GETCHECK))
+        raw.messages.push_back({BM_SETCHECK, static_cast<WPARAM>(check), 0});
+}
+
+void recordEdit(HWND window, RawWindow& raw)
+{
+    raw.messages.push_back({EM_LIMITTEXT, static_cast<WPARAM>(ask(window, EM_GETLIMITTEXT)), 0});
+}
+
+void recordSlider(HWND window, RawWindow& raw)
+{
+    raw.messages.push_back({TBM_SETRANGEMIN, FALSE, ask(window, TBM_GETRANGEMIN)});
+    raw.messages.push_back({TBM_SETRANGEMAX, TRUE, ask(window, TBM_GETRANGEMAX)});
+    raw.messages.push_back({TBM_SETPOS, TRUE, ask(window, TBM_GETPOS)});
+}
+
+void recordSpin(HWND window, RawWindow& raw)
+{
+    int low = 0;
+    int high = 0;
+    SendMessageW(window, UDM_GETRANGE32, reinterpret_cast<WPARAM>(&low),
+                 reinterpret_cast<LPARAM>(&high));
+    raw.messages.push_back({UDM_SETRANGE32, static_cast<WPARAM>(low), high});
+    if (const auto buddy = reinterpret_cast<HWND>(ask(window, UDM_GETBUDDY)))
+        raw.messages.push_back({UDM_SETBUDDY, static_cast<WPARAM>(GetDlgCtrlID(buddy)), 0});
+    raw.messages.push_back({UDM_SETPOS32, 0, ask(window, UDM_GETPOS32)});
+}
+
+constexpr struct
+{
+    const wchar_t* className;
+    void (*record)(HWND, RawWindow&);
+    UINT add; ///< what an entry is added with
+} kClasses[] = {
+    {L"ComboBox", &recordCombo, CB_ADDSTRING},
+    {L"ListBox", &recordList, LB_ADDSTRING},
+    {L"Button", &recordButton, 0},
+    {L"Edit", &recordEdit, 0},
+    {TRACKBAR_CLASSW, &recordSlider, 0},
+    {UPDOWN_CLASSW, &recordSpin, 0},
+};
+
+UINT addMessageOf(const RawWindow& raw)
+{
+    for (const auto& row : kClasses)
+        if (_wcsicmp(raw.className.c_str(), row.className) == 0)
+            return row.add;
+    return 0;
+}
+
+bool isBold(HWND window)
+{
+    LOGFONTW font{};
+    GetObjectW(reinterpret_cast<HFONT>(ask(window, WM_GETFONT)), sizeof font, &font);
+    return font.lfWeight >= FW_BOLD;
+}
+
+HFONT boldOf(HFONT font)
+{
+    LOGFONTW bold{};
+    GetObjectW(font, sizeof bold, &bold);
+    bold.lfWeight = FW_BOLD;
+    return CreateFontIndirectW(&bold);
+}
+
+void tell(HWND page, HWND window, const RawMessage& message)
+{
+    const WPARAM wParam =
+        message.message == UDM_SETBUDDY
+            ? reinterpret_cast<WPARAM>(GetDlgItem(page, static_cast<int>(message.wParam)))
+            : message.wParam;
+    SendMessageW(window, message.message, wParam, message.lParam);
 }
 
 void createWindow(HWND page, HFONT font, const RawWindow& raw)
@@ -42,10 +148,11 @@ void createWindow(HWND page, HFONT font, const RawWindow& raw)
         raw.place.bottom - raw.place.top, page,
         reinterpret_cast<HMENU>(static_cast<INT_PTR>(raw.id)), GetModuleHandleW(nullptr), nullptr);
     SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+    const UINT add = addMessageOf(raw);
     for (const std::wstring& item : raw.items)
-        SendMessageW(window, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item.c_str()));
-    if (raw.selection >= 0)
-        SendMessageW(window, CB_SETCURSEL, static_cast<WPARAM>(raw.selection), 0);
+        SendMessageW(window, add, 0, reinterpret_cast<LPARAM>(item.c_str()));
+    for (const RawMessage& message : raw.messages)
+        tell(page, window, message);
     if (!raw.enabled)
         EnableWindow(window, FALSE);
 }
@@ -56,9 +163,10 @@ void createAll(HWND page, const RawPage& raw)
     CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
                     WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT, CW_USEDEFAULT,
                     CW_USEDEFAULT, CW_USEDEFAULT, page, nullptr, nullptr, nullptr);
-    const auto font = reinterpret_cast<HFONT>(SendMessageW(page, WM_GETFONT, 0, 0));
+    const auto font = reinterpret_cast<HFONT>(ask(page, WM_GETFONT));
+    static const UniqueFont bold(boldOf(font)); // all pages have the same font
     for (const RawWindow& window : raw.windows)
-        createWindow(page, font, window);
+        createWindow(page, window.bold ? bold.get() : font, window);
 }
 
 // As little drawing as an owner-drawn entry can do with.
@@ -110,8 +218,10 @@ std::vector<RawWindow> recordWindows(HWND page)
         MapWindowPoints(nullptr, page, reinterpret_cast<POINT*>(&raw.place), 2);
         raw.id = GetDlgCtrlID(child);
         raw.enabled = IsWindowEnabled(child) != FALSE;
-        if (_wcsicmp(name, L"COMBOBOX") == 0)
-            recordCombo(child, raw);
+        raw.bold = isBold(child);
+        for (const auto& row : kClasses)
+            if (_wcsicmp(name, row.className) == 0)
+                row.record(child, raw);
         windows.push_back(raw);
     }
     return windows;

@@ -7,6 +7,14 @@
 
 namespace o7::bench {
 
+/// What a window is told after it is created: its entries' heights, its check, its range.
+struct RawMessage
+{
+    UINT message = 0;
+    WPARAM wParam = 0; ///< UDM_SETBUDDY: the id of the other window
+    LPARAM lParam = 0;
+};
+
 /// One child window as it stood on a page of ours.
 struct RawWindow
 {
@@ -17,8 +25,9 @@ struct RawWindow
     RECT place{}; ///< pixels of the page
     int id = 0;
     bool enabled = true;
-    std::vector<std::wstring> items; ///< of a combo box
-    int selection = -1;
+    bool bold = false;
+    std::vector<std::wstring> items; ///< of a list or combo box
+    std::vector<RawMessage> messages;
 };
 
 struct RawPage

@@ -4,17 +4,15 @@
 
 #include <prsht.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <memory>
 #include <stdexcept>
 
-#include "clock.h"
-#include "idledriver.h"
 #include "rawsheet.h"
 #include "report.h"
 #include "sessionopener.h"
 #include "sheetrig.h"
+#include "sheettimes.h"
 #include "tables/productids.h"
 #include "uicontainerdata.h"
 #include "uidata.h"
@@ -27,117 +25,7 @@ namespace o7::bench {
 namespace {
 
 constexpr int kRuns = 9;
-
-/// Memory in use on all heaps of the process: what the sheet's objects and windows really hold,
-/// however the heaps grow.
-double heapKilobytes()
-{
-    HANDLE heaps[64];
-    const DWORD count = std::min<DWORD>(GetProcessHeaps(64, heaps), 64);
-    double bytes = 0;
-    for (DWORD index = 0; index < count; ++index) {
-        PROCESS_HEAP_ENTRY entry{};
-        while (HeapWalk(heaps[index], &entry))
-            if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY)
-                bytes += static_cast<double>(entry.cbData);
-    }
-    return bytes / 1024.0;
-}
-
-HWND currentPage(HWND sheet)
-{
-    return reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETCURRENTPAGEHWND, 0, 0));
-}
-
-using Run = std::function<void()>;
-
-/// Times of one opening, in milliseconds. Page switches go 1, 2, … n - 1, then the same again.
-struct Times
-{
-    double entry = 0;
-    std::vector<double> firstSwitches;
-    std::vector<double> laterSwitches;
-    double close = 0;
-    double memory = 0;
-};
-
-Times timeSheet(const Run& open, int pages)
-{
-    Times times;
-    double mark = 0;
-    const double memoryBefore = heapKilobytes();
-    const auto lap = [&mark] {
-        const double time = millisecondsNow();
-        const double passed = time - mark;
-        mark = time;
-        return passed;
-    };
-    std::vector<test::IdleDriver::Step> steps{[&](HWND sheet) {
-        if (!sheet)
-            return false; // the queue can run empty before the sheet is there
-        times.entry = lap();
-        times.memory = heapKilobytes() - memoryBefore;
-        return true;
-    }};
-    const int switches = 2 * pages;
-    for (int turn = 1; turn <= switches; ++turn) {
-        const int index = turn % pages;
-        steps.push_back([&, index](HWND sheet) {
-            lap();
-            SendMessageW(sheet, PSM_SETCURSEL, static_cast<WPARAM>(index), 0);
-            return true;
-        });
-        steps.push_back([&, turn, pages](HWND) {
-            (turn < pages ? times.firstSwitches : times.laterSwitches).push_back(lap());
-            return true;
-        });
-    }
-    steps.push_back([&](HWND sheet) {
-        lap();
-        PostMessageW(sheet, PSM_PRESSBUTTON, PSBTN_CANCEL, 0);
-        return true;
-    });
-    const test::IdleDriver driver(std::move(steps), 20000);
-    mark = millisecondsNow();
-    open();
-    times.close = lap();
-    if (!driver.failure().empty())
-        throw std::runtime_error("the sheet did not follow: " + driver.failure());
-    return times;
-}
-
-/// What our sheet shows, page by page.
-std::vector<RawPage> recordPages(const Run& open, const UIData& data,
-                                 const ProductStringLoader& strings)
-{
-    std::vector<RawPage> pages;
-    std::vector<test::IdleDriver::Step> steps;
-    for (const auto& tab : data.getTabs()) {
-        RawPage page;
-        page.title = strings.LoadStringW(tab->getTitle()).c_str();
-        page.width = tab->getWidth();
-        page.height = tab->getHeight();
-        pages.push_back(page);
-    }
-    for (std::size_t index = 0; index < pages.size(); ++index) {
-        steps.push_back([index](HWND sheet) {
-            return sheet && SendMessageW(sheet, PSM_SETCURSEL, index, 0) != 0;
-        });
-        steps.push_back([&pages, index](HWND sheet) {
-            pages[index].windows = recordWindows(currentPage(sheet));
-            return true;
-        });
-    }
-    steps.push_back([](HWND sheet) {
-        PostMessageW(sheet, PSM_PRESSBUTTON, PSBTN_CANCEL, 0);
-        return true;
-    });
-    const test::IdleDriver driver(std::move(steps), 20000);
-    open();
-    if (!driver.failure().empty())
-        throw std::runtime_error("the sheet did not follow: " + driver.failure());
-    return pages;
-}
+constexpr std::size_t kAllPages = 16;
 
 /// Everything needed to open ours and the bare sheet in turns.
 class SheetPair
@@ -155,7 +43,7 @@ public:
         m_raw = [this] { runRawSheet(m_pages); };
     }
 
-    void record() { m_pages = recordPages(m_ours, m_data, m_session->strings()); }
+    void record() { m_pages = recordPages(m_ours, m_data, m_session->strings(), kAllPages); }
     int pageCount() const { return static_cast<int>(m_data.getTabs().size()); }
     std::size_t controlCount() const
     {
@@ -190,7 +78,7 @@ void benchOpenings(Report& report, const std::wstring& folder)
     std::vector<double> entry[2], first[2], later[2], close[2], memory[2];
     for (int run = 0; run < kRuns; ++run) {
         for (const int which : {0, 1}) {
-            const Times times =
+            const SheetTimes times =
                 timeSheet(which == 0 ? sheets.ours() : sheets.raw(), sheets.pageCount());
             entry[which].push_back(times.entry);
             append(first[which], times.firstSwitches);
@@ -288,7 +176,7 @@ void benchUnvisitedPages(Report& report, const std::wstring& folder)
         };
     };
     const auto entryOf = [&](const Run& run) { return timeSheet(run, 1).entry; };
-    const auto pages = recordPages(opening(sixteen), sixteen, session->strings());
+    const auto pages = recordPages(opening(sixteen), sixteen, session->strings(), kAllPages);
     const std::vector<RawPage> firstPage(pages.begin(), pages.begin() + 1);
 
     std::vector<double> ours, raw, excess;

@@ -10,6 +10,7 @@
 #include "uieventprocessor.h"
 #include "uimessagemanager.h"
 #include "uipopuplauncher.h"
+#include "uipopupsheet.h"
 #include "uiservices.h"
 #include "uitab.h"
 #include "uitabmanager.h"
@@ -32,6 +33,10 @@ SheetRig::SheetRig(ProductData& productData, FeatureServices& featureServices,
     m_popups->setEventProcessor(m_events.get());
     m_tabs = std::make_unique<UITabManager>(*m_services, *m_messages, instance, featureServices,
                                             *m_context, productData, *m_events, mode, 0UL);
+    m_popupSheet =
+        std::make_unique<UIPopupSheet>(*m_services, *m_messages, instance, featureServices,
+                                       *m_context, productData, *m_events, mode, 0UL, nullptr);
+    m_popups->setSheetRunner(m_popupSheet.get());
 }
 
 SheetRig::~SheetRig()
@@ -60,6 +65,8 @@ INT_PTR SheetRig::run(DWORD flags)
     header.nPages = static_cast<UINT>(
         m_tabs->createPagesForPropertySheet(descriptions, pages.data(), pages.size(), nullptr));
     header.phpage = pages.data();
+    if (header.nPages == 0)
+        return -1; // an empty sheet would wait for ever
     m_messages->append(UIMessageKind::TabPage, *m_tabs);
     m_featureServices.SettleBeforeDisplay();
     m_tabs->buildTabs(descriptions);

@@ -6,16 +6,20 @@
 
 #include <map>
 
+#include "booleanfeatureref.h"
 #include "idledriver.h"
 #include "input.h"
 #include "sheetrig.h"
 #include "tables/productids.h"
 #include "uidata.h"
 #include "uidialogprocedure.h"
+#include "uieventprocessor.h"
 #include "uifixture.h"
+#include "uimessagemanager.h"
 #include "uirecords.h"
 #include "uistringnumbers.h"
 #include "uitabmanager.h"
+#include "windowtext.h"
 
 namespace o7::test {
 
@@ -44,6 +48,16 @@ constexpr UIRootRecord root(UIRecords<UIContainerRecord> offTabs)
             .tabs = kPages,
             .offTabs = offTabs};
 }
+// A popup tab set is what shares one number.
+constexpr auto kSetNumber = static_cast<DialogId>(7);
+constexpr UIDialogActionRecord kActions[] = {{UIDialogActionKind::Accept, O7STR_L_TONER_SAVING}};
+constexpr UIColumnRecord kSetColumns[] = {{7, 200, 0, kSecond}};
+constexpr UIContainerRecord kSet[] = {{7, O7STR_TAB_IMAGE, 220, 60, kPageColumns, kActions},
+                                      {7, O7STR_TAB_JOB, 220, 60, kSetColumns}};
+constexpr UIRootRecord kWithSet = {.family = DataModelIds::kValueFamily8430,
+                                   .mode = UIMode::PrintingPreferences,
+                                   .tabs = kPages,
+                                   .dialogs = kSet};
 constexpr UIRootRecord kWithout = root({});
 constexpr UIRootRecord kWithOne = root(kArea);
 constexpr UIRootRecord kWithTwo = root(kTwoAreas);
@@ -203,6 +217,48 @@ TEST_F(SheetOffTabTest, AnAreaWorksAndASheetThatGoesFirstLeavesNothingToDo)
     DestroyWindow(sheet); // before the manager: nothing is left to be restored
     rig.reset();
     EXPECT_FALSE(IsWindow(sheet));
+}
+
+/// A popup tab set over a sheet with a page that nobody has visited: its pages find their own tabs,
+/// OK keeps what was done, Cancel does not, and neither touches the sheet below.
+TEST_F(SheetOffTabTest, APopupTabSetKeepsItsPagesAndItsChangesApart)
+{
+    auto rig = makeRig(kWithSet);
+    const HWND sheet = open(*rig);
+    const auto features = model().GetFullListOfFeatures();
+    const bool toner = boolean(kTonerSaving);
+    ASSERT_TRUE(features.GetBooleanFeature(FeatureId(kTonerSaving))
+                    .SetValue(!toner)); // a pending change of the sheet below
+    for (const int button : {IDCANCEL, IDOK}) {
+        const bool before = boolean(kCollate);
+        const IdleDriver driver({
+            [&](HWND popup) {
+                EXPECT_NE(popup, sheet);
+                EXPECT_EQ(o7::windowText(GetDlgItem(popup, IDOK)),
+                          session().strings().LoadStringW(O7STR_L_TONER_SAVING));
+                return SendMessageW(popup, PSM_SETCURSEL, 1, 0) != 0;
+            },
+            [](HWND popup) {
+                const HWND box = findControl(popup, L"BUTTON", L"Collate copies");
+                if (box)
+                    sendClick(box);
+                return box != nullptr;
+            },
+            [&](HWND) { return boolean(kCollate) != before; },
+            [button](HWND popup) {
+                return PostMessageW(popup, WM_COMMAND, static_cast<WPARAM>(button), 0) != FALSE;
+            },
+        });
+        EXPECT_EQ(rig->events().displayPropertySheet(kSetNumber, features, sheet), button == IDOK);
+        EXPECT_EQ(driver.failure(), "");
+        EXPECT_EQ(boolean(kCollate) != before, button == IDOK);
+        EXPECT_EQ(boolean(kTonerSaving), !toner) << "Cancel of a popup is no Cancel of the sheet";
+    }
+    EXPECT_EQ(rig->messages().handlers(UIMessageKind::TabPage).size(), 1U);
+    SendMessageW(sheet, PSM_SETCURSEL, 1, 0);
+    EXPECT_NE(findControl(currentPage(sheet), L"BUTTON", L"Save toner"), nullptr);
+    EXPECT_FALSE(rig->events().displayPropertySheet(static_cast<DialogId>(8), features, sheet));
+    DestroyWindow(sheet);
 }
 
 } // namespace o7::test

@@ -20,22 +20,18 @@ constexpr o7::EntryListMessages kMessages = {
     CB_GETCURSEL,   CB_SETCURSEL,   CB_GETCOUNT,  CB_GETLBTEXT,    CB_GETLBTEXTLEN,
     CB_GETITEMDATA, CB_SETITEMDATA, CB_ADDSTRING, CB_RESETCONTENT, CB_FINDSTRING};
 
-/// A combo box on a page that is seen already would paint itself anew with its font and with each
-/// height. It paints once, later.
+/// A combo box would paint itself anew with its font and with each height. It paints once, later.
 class PaintLater
 {
 public:
-    PaintLater(HWND parent, HWND window)
-        : m_window((::GetWindowLongPtrW(parent, GWL_STYLE) & WS_VISIBLE) != 0 ? window : nullptr)
+    PaintLater(HWND parent, HWND window) : m_parent(parent), m_window(window)
     {
-        if (m_window != nullptr) {
-            ::SendMessageW(m_window, WM_SETREDRAW, FALSE, 0);
-        }
+        ::SendMessageW(m_window, WM_SETREDRAW, FALSE, 0);
     }
     ~PaintLater()
     {
-        if (m_window != nullptr) {
-            ::SendMessageW(m_window, WM_SETREDRAW, TRUE, 0);
+        ::SendMessageW(m_window, WM_SETREDRAW, TRUE, 0);
+        if ((::GetWindowLongPtrW(m_parent, GWL_STYLE) & WS_VISIBLE) != 0) {
             ::InvalidateRect(m_window, nullptr, TRUE);
         }
     }
@@ -43,6 +39,7 @@ public:
     PaintLater& operator=(const PaintLater&) = delete;
 
 private:
+    HWND m_parent;
     HWND m_window;
 };
 

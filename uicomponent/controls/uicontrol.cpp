@@ -9,8 +9,12 @@
 #include "windowtext.h"
 
 #include <cstdlib>
+#include <utility>
 
 namespace {
+
+/// The parent that is being destroyed on this thread.
+thread_local HWND s_goingParent = nullptr;
 
 int withSignOf(int sign, int magnitude)
 {
@@ -34,9 +38,19 @@ UIControl::UIControl(HWND parent, int id, UIServices& services, HFONT font, POIN
 UIControl::~UIControl()
 {
     // A window that went with its parent is not ours any more, nor is one that got its number.
-    if (m_window && ::GetParent(m_window.get()) != m_parent) {
+    if (m_window && (m_parent == s_goingParent || ::GetParent(m_window.get()) != m_parent)) {
         m_window.release();
     }
+}
+
+UIControl::ParentGoes::ParentGoes(HWND parent) noexcept
+    : m_outer(std::exchange(s_goingParent, parent))
+{
+}
+
+UIControl::ParentGoes::~ParentGoes()
+{
+    s_goingParent = m_outer;
 }
 
 bool UIControl::handleMessage(const _UIWindowsMessage& /*message*/)
@@ -91,6 +105,18 @@ DRAWITEMSTRUCT* UIControl::itemToDraw(const _UIWindowsMessage& message) const no
     }
     auto* item = reinterpret_cast<DRAWITEMSTRUCT*>(message.lParam);
     return item->hwndItem == m_window.get() ? item : nullptr;
+}
+
+void UIControl::setLabelText(const CXString& text)
+{
+    if (!m_window || o7::windowText(getHwnd()) == text) {
+        return;
+    }
+    if ((::GetWindowLongPtrW(m_parent, GWL_STYLE) & WS_VISIBLE) != 0) {
+        ::SetWindowTextW(getHwnd(), text.c_str());
+    } else {
+        ::DefWindowProcW(getHwnd(), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+    }
 }
 
 void UIControl::setAccessibleName(const CXString& name)

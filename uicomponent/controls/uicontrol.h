@@ -55,6 +55,10 @@ public:
     void setShow(bool show);
     void setClearOnDisable(bool clear) noexcept { m_clearOnDisable = clear; }
 
+    /// The text of a button or a static. While the page is not shown yet it is set without the
+    /// repaint that the window would answer with. Nothing happens when the window has that text.
+    void setLabelText(const CXString& text);
+
     /// What screen readers say, where the window has no text of its own: the label of a list, an
     /// edit, a slider. Empty: what the system finds. Takes effect once somebody asks, so it costs
     /// nothing before.
@@ -72,6 +76,21 @@ public:
     /// Has the window, or an area of it in pixels, painted anew (InvalidateRect), erased before
     /// when wanted. Without a window nothing happens: for the system that would mean the desktop.
     void repaint(bool erase, const RECT* area = nullptr) const noexcept;
+
+    /// While it lives, controls of that parent leave their windows to it when they are destroyed:
+    /// for the time of its WM_DESTROY, after which it takes them all along. Destroying each by
+    /// itself would cost as much again.
+    class O7UI_API ParentGoes
+    {
+    public:
+        explicit ParentGoes(HWND parent) noexcept;
+        ~ParentGoes();
+        ParentGoes(const ParentGoes&) = delete;
+        ParentGoes& operator=(const ParentGoes&) = delete;
+
+    private:
+        HWND m_outer;
+    };
 
 protected:
     /// Creates the window inside the module's activation context and gives it the parent's font.

@@ -16,9 +16,7 @@ UIGroupBoxControl::UIGroupBoxControl(HWND parent, int id, UIServices& services, 
 {
     setVisibleFlag(true);
     createControlWindow(L"BUTTON", kStyle);
-    if (!caption.IsEmpty()) {
-        caption.SetWindowTextW(getHwnd());
-    }
+    setLabelText(caption);
 }
 
 UIGroupBoxControl::~UIGroupBoxControl() = default;
@@ -30,5 +28,5 @@ void UIGroupBoxControl::dump() const
 
 void UIGroupBoxControl::setCaption(const CXString& caption)
 {
-    o7::setWindowTextIfDifferent(getHwnd(), caption);
+    setLabelText(caption);
 }

@@ -46,8 +46,8 @@ UIInfoButtonControl::UIInfoButtonControl(HWND parent, int id, UIServices& servic
 
 UIInfoButtonControl::~UIInfoButtonControl()
 {
-    if (m_toolTips && !m_text.IsEmpty())
-        m_toolTips->DeleteToolFromToolTip(getHwnd());
+    if (m_toolTips)
+        m_toolTips->setTip(getHwnd(), {});
     restoreProcedure();
 }
 
@@ -55,20 +55,19 @@ void UIInfoButtonControl::setMessage(std::uint32_t style, const CXString& text,
                                      const CXString& title)
 {
     m_title = title;
+    const bool isFresh = m_style == 0;
     if (style != m_style) {
         m_style = style;
-        repaint(false);
+        if (!isFresh)
+            repaint(false);
     }
     if (text == m_text)
         return;
-    // The window text is what a screen reader speaks; nothing shows it.
-    SetWindowTextW(getHwnd(), text.c_str());
-    const auto tip = reinterpret_cast<INT_PTR>(text.c_str());
-    if (m_toolTips && m_text.IsEmpty())
-        m_toolTips->AddToolAndTipMessage(getHwnd(), nullptr, tip);
-    else if (m_toolTips)
-        m_toolTips->UpdateTipMessage(getHwnd(), nullptr, tip);
     m_text = text;
+    // What a screen reader speaks. Nothing shows it, so nothing is painted.
+    DefWindowProcW(getHwnd(), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+    if (m_toolTips)
+        m_toolTips->setTip(getHwnd(), text);
 }
 
 bool UIInfoButtonControl::handleMessage(const _UIWindowsMessage& message)

@@ -72,7 +72,7 @@ void UIRadioButtonControl::dump() const
 
 void UIRadioButtonControl::setText(const CXString& text)
 {
-    o7::setWindowTextIfDifferent(getHwnd(), text);
+    setLabelText(text);
 }
 
 int UIRadioButtonControl::getCheck() const

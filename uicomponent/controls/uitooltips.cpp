@@ -1,6 +1,5 @@
 #include "uitooltips.h"
 
-#include "cxstring.h"
 #include "isolationaware.h"
 #include "textmeasure.h"
 #include "tipplacement.h"
@@ -17,7 +16,8 @@ static_assert(kStyle == 0x80000003);
 constexpr int kMaximumWidth = 800; ///< pixels; longer texts go on in the next line
 constexpr int kTrackingOffset = 16;
 
-/// A tool without its text. A page laid out from right to left is read that way. The size is the one that every version of the library knows.
+/// A tool without its text. A page laid out from right to left is read that way. The size is the
+/// one that every version of the library knows.
 TTTOOLINFOW toolInfo(HWND owner, HWND tool, UINT flags)
 {
     TTTOOLINFOW info{};
@@ -171,11 +171,35 @@ void UIToolTips::AddToolTipAndTruncatedLabel(ControlType type, HWND control, INT
     }
 }
 
-void UIToolTips::setWholeText(HWND control, const CXString& text)
+// A tool's window is subclassed by the tip window, and then pays with every message for a tip that
+// most people never ask for.
+void UIToolTips::setTip(HWND control, const CXString& text)
 {
-    DeleteToolFromToolTip(control);
-    m_wholeTexts[control] = text;
-    AddToolAndTipMessage(control, nullptr, asText(text));
+    if (!text.IsEmpty()) {
+        Tip& tip = m_tips[control];
+        tip.text = text;
+        if (tip.isTool) {
+            UpdateTipMessage(control, nullptr, asText(text));
+        }
+        return;
+    }
+    const auto known = m_tips.find(control);
+    if (known == m_tips.end()) {
+        return;
+    }
+    if (known->second.isTool) {
+        DeleteToolFromToolTip(control);
+    }
+    m_tips.erase(known);
+}
+
+void UIToolTips::makeTool(HWND control)
+{
+    const auto known = m_tips.find(control);
+    if (known != m_tips.end() && !known->second.isTool) {
+        known->second.isTool = true;
+        AddToolAndTipMessage(control, nullptr, asText(known->second.text));
+    }
 }
 
 void UIToolTips::setAreaTip(HWND control, const CXString& reason)
@@ -185,8 +209,8 @@ void UIToolTips::setAreaTip(HWND control, const CXString& reason)
     if (reason.IsEmpty()) {
         return;
     }
-    const auto whole = m_wholeTexts.find(control);
-    const CXString text = whole == m_wholeTexts.end() ? reason : whole->second + L"\n" + reason;
+    const auto tip = m_tips.find(control);
+    const CXString text = tip == m_tips.end() ? reason : tip->second.text + L"\n" + reason;
     ::GetWindowRect(control, &info.rect);
     ::MapWindowPoints(nullptr, m_owner, reinterpret_cast<POINT*>(&info.rect), 2);
     info.lpszText = const_cast<wchar_t*>(text.c_str());
@@ -195,6 +219,10 @@ void UIToolTips::setAreaTip(HWND control, const CXString& reason)
 
 void UIToolTips::relayMouse(const _UIWindowsMessage& message)
 {
+    if (message.message == WM_SETCURSOR) {
+        makeTool(reinterpret_cast<HWND>(message.wParam));
+        return;
+    }
     if (message.message < WM_MOUSEFIRST || message.message > WM_MOUSELAST) {
         return;
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cxstring.h"
 #include "subclassedwindow.h"
 #include "uiapi.h"
 #include "uihandles.h"
@@ -8,8 +9,6 @@
 
 #include <functional>
 #include <map>
-
-#include "cxstring.h"
 
 struct _UIWindowsMessage;
 
@@ -57,15 +56,18 @@ public:
     void AddToolTipAndTruncatedLabel(ControlType type, HWND control, INT_PTR extraText, SIZE area,
                                      const CXString& label, HFONT font);
 
-    /// Gives a control whose text is cut a tip that holds the whole of it; what setAreaTip is given
-    /// for the same control then stands behind it. A static control has to have SS_NOTIFY.
-    void setWholeText(HWND control, const CXString& text);
+    /// A control's tip that costs nothing until the mouse is on the control, of which relayMouse
+    /// hears. What setAreaTip is given for the same control then stands behind it. A static control
+    /// has to have SS_NOTIFY. An empty text takes the tip away, as has to be done before the
+    /// control goes.
+    void setTip(HWND control, const CXString& text);
 
     /// The tip of a control that may be disabled. A disabled window lets the mouse through to the
     /// page, so the tip belongs to the control's area of the page, and works as long as the page's
     /// mouse messages are handed to relayMouse. An empty text takes the tip away.
     void setAreaTip(HWND control, const CXString& text);
     /// Hands a mouse message of the owner window to the tip window; other messages are ignored.
+    /// With WM_SETCURSOR the owner hears which of its controls the mouse is on.
     void relayMouse(const _UIWindowsMessage& message);
 
     /// Shows the tip of a part of a window, such as an entry of a list, until hidePlaced. It is a
@@ -88,7 +90,14 @@ private:
 
     void forgetWindow() noexcept { m_window.release(); }
 
+    struct Tip
+    {
+        CXString text;
+        bool isTool = false; ///< of the tip window, since the mouse has been there
+    };
+    void makeTool(HWND control);
+
     HWND m_owner;
     o7::UniqueWindow m_window;
-    std::map<HWND, CXString> m_wholeTexts; ///< of the controls whose texts are cut
+    std::map<HWND, Tip> m_tips; ///< those of setTip
 };

@@ -416,5 +416,5 @@
 #define O7STR_S_HIDDEN_TITLE 34206 // "Not Shown on This Page"
 
 // Messages of the sheet when it is applied
-#define O7STR_M_VALUE_MISSING 34250 // "“%s” needs a value..."
+#define O7STR_M_VALUE_MISSING 34250 // "“%s” has no value yet. Enter or choose one..."
 // clang-format on

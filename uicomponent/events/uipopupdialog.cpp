@@ -8,6 +8,7 @@
 #include "uiconflictwalk.h"
 #include "uicontainerdata.h"
 #include "uicontext.h"
+#include "uicontrol.h"
 #include "uidump.h"
 #include "uilayoutmanager.h"
 #include "uimolecule.h"
@@ -66,11 +67,13 @@ bool UIPopupDialog::handleMessage(const _UIWindowsMessage& message)
     case UIConflictWalk::kMessage:
         goToConflict(message.wParam != 0);
         return true;
-    case WM_DESTROY: // the controls go while their windows still exist
+    case WM_DESTROY: { // the controls go while their windows still exist
+        const UIControl::ParentGoes going(message.window);
         m_conflictKey.reset();
         releaseMolecules();
         m_buttons.clear();
         return false;
+    }
     default:
         return offerToMolecules(message);
     }

@@ -1,14 +1,11 @@
 #include "uiofftab.h"
 
-#include <algorithm>
-
+#include "dialogconversion.h"
 #include "entryheight.h"
 #include "featureservices.h"
 #include "isolationaware.h"
 #include "productstringloader.h"
 #include "trace.h"
-#include "uicolumndata.h"
-#include "uicontainer.h"
 #include "uicontainerdata.h"
 #include "uicontext.h"
 #include "uidialogprocedure.h"
@@ -16,6 +13,17 @@
 #include "uidump.h"
 #include "uilayoutmanager.h"
 #include "uiservices.h"
+
+namespace {
+
+/// The whole dialog units that fit into so many pixels.
+long unitsIn(const DialogConversion& conversion, long pixels)
+{
+    const long units = conversion.pixelsToDialogUnits(SIZE{pixels, 0}).cx;
+    return conversion.dialogUnitsToPixels(SIZE{units, 0}).cx > pixels ? units - 1 : units;
+}
+
+} // namespace
 
 UIOffTab::UIOffTab(FeatureServices& featureServices, UIContext& context, UIServices& services)
     : UIMoleculeContainer(featureServices, context.strings, services,
@@ -32,30 +40,15 @@ bool UIOffTab::build(const UIContainerData& data)
 {
     m_data = &data;
     buildFrom(data);
-    const CXString misfit = UILayoutManager(*getContainer()).findMisfit();
+    const CXString misfit = getLayout().findMisfit();
     if (!misfit.IsEmpty())
         o7::trace(misfit);
     return misfit.IsEmpty();
 }
 
-long UIOffTab::arrange(long width)
+long UIOffTab::getHeight() const
 {
-    constexpr long kMargin = UILayoutManager::kMargin;
-    UILayoutManager(*getContainer()).layOut();
-    const long more = width - (m_data->getWidth() - 2 * kMargin);
-    long height = 0;
-    long shift = 0;
-    for (const auto& column : getContainer()->getColumns()) {
-        const long columnWidth = column->getData().getWidth() + (shift == 0 ? more : 0);
-        for (const auto& molecule : column->getMolecules()) {
-            const POINT place = molecule->GetPosition();
-            molecule->SetPositionAndWidth({place.x - kMargin + shift, place.y - kMargin},
-                                          columnWidth);
-        }
-        shift = more;
-        height = std::max(height, column->getHeight());
-    }
-    return height;
+    return m_data->getHeight() - 2 * UILayoutManager::kMargin;
 }
 
 bool UIOffTab::open(HINSTANCE instance, HWND sheet, const RECT& place, HWND predecessor,
@@ -75,6 +68,7 @@ bool UIOffTab::open(HINSTANCE instance, HWND sheet, const RECT& place, HWND pred
     SetPropW(m_area.get(), UIDialogProcedure::kManagerProperty, &manager);
     SetWindowLongPtrW(m_area.get(), GWLP_WNDPROC,
                       reinterpret_cast<LONG_PTR>(&UIDialogProcedure::offTabDialogProcedure));
+    getLayout().fillArea(unitsIn(getServices().getDialogConversion(), place.right - place.left));
     initialize(m_area.get());
     SetWindowPos(m_area.get(), predecessor, place.left, place.top, place.right - place.left,
                  place.bottom - place.top, SWP_NOACTIVATE | SWP_SHOWWINDOW);

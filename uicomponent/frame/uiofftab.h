@@ -14,8 +14,8 @@ struct UIContext;
 /// direction are independent of the sheet's.
 ///
 /// An area is described like a page, but without the page's margins: what a page begins
-/// UILayoutManager::kMargin from its edge begins at the area's edge. Its height follows from its
-/// content; its width is given, and the first column takes up the difference to the described one.
+/// UILayoutManager::kMargin from its edge begins at the area's edge. The first column takes up the
+/// difference between the described width and the real one.
 class UIOffTab : public UIMoleculeContainer, public UIMessageHandler
 {
 public:
@@ -25,9 +25,8 @@ public:
     /// Builds columns and molecules. @return false when they do not fit the description.
     bool build(const UIContainerData& data);
 
-    /// Lays the content out. @param width  dialog units. @return the height that it needs, in
-    /// dialog units.
-    long arrange(long width);
+    /// Dialog units that the content has, without the page's margins.
+    long getHeight() const;
 
     /// Makes the area's window and controls. @param place  in client coordinates of the sheet;
     /// @param predecessor  the window of the sheet that stands before the area in Tab order.

@@ -62,8 +62,8 @@ bool UISheetApply::isAcceptable(const _UIWindowsMessage& message) const
     const FeatureIdWithContext& missing = validator.getMissing();
     m_guide.goTo(missing);
     const CXString name = m_strings.GetStringForFeature(missing.GetFeatureEnum());
-    const CXString text = CXString::Formatted(
-        m_strings.LoadStringW(O7STR_M_VALUE_MISSING).c_str(), name.c_str());
+    const CXString text =
+        CXString::Formatted(m_strings.LoadStringW(O7STR_M_VALUE_MISSING).c_str(), name.c_str());
     m_services.showMessage(message.window, text, name, MB_ICONWARNING);
     return false;
 }

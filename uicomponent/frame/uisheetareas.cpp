@@ -13,13 +13,6 @@ namespace {
 // Between the tab control and an area, and between two areas; dialog units.
 constexpr long kGap = 4;
 
-/// The whole dialog units that fit into so many pixels.
-long unitsIn(const DialogConversion& conversion, long pixels)
-{
-    const long units = conversion.pixelsToDialogUnits(SIZE{pixels, 0}).cx;
-    return conversion.dialogUnitsToPixels(SIZE{units, 0}).cx > pixels ? units - 1 : units;
-}
-
 } // namespace
 
 UISheetAreas::UISheetAreas(HINSTANCE moduleInstance, FeatureServices& featureServices,
@@ -50,12 +43,11 @@ bool UISheetAreas::open(HWND page)
         return false;
     const DialogConversion& conversion = m_services.getDialogConversion();
     RECT place = m_sheet.getTabControl();
-    const long units = unitsIn(conversion, place.right - place.left);
     const long gap = conversion.dialogUnitsToPixels(SIZE{0, kGap}).cy;
     std::vector<long> heights;
     long growth = 0;
     for (const auto& offTab : m_offTabs) {
-        heights.push_back(conversion.dialogUnitsToPixels(SIZE{0, offTab->arrange(units)}).cy);
+        heights.push_back(conversion.dialogUnitsToPixels(SIZE{0, offTab->getHeight()}).cy);
         growth += gap + heights.back();
     }
     if (!m_sheet.enlarge(growth)) {
@@ -86,9 +78,8 @@ bool UISheetAreas::handleMessage(const _UIWindowsMessage& message)
 
 bool UISheetAreas::offer(const _UIWindowsMessage& message) const
 {
-    return std::any_of(m_offTabs.begin(), m_offTabs.end(), [&](const auto& offTab) {
-        return offTab->handleMessage(message);
-    });
+    return std::any_of(m_offTabs.begin(), m_offTabs.end(),
+                       [&](const auto& offTab) { return offTab->handleMessage(message); });
 }
 
 bool UISheetAreas::hasPendingInput() const

@@ -89,7 +89,8 @@ void UISheetGuide::end()
                                          kEverything, DataModelIds::kObserverFeature);
     m_key.reset();
     m_marks.reset();
-    if (m_lastPage && m_active < m_tabs.size())
+    // Who never left the first page leaves no trace.
+    if (m_lastPage && m_active < m_tabs.size() && (m_active != 0 || m_lastPage->get() != 0))
         m_lastPage->set(m_tabs[m_active]->getPageId());
     m_sheet = nullptr;
     m_page = nullptr;

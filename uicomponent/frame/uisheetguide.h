@@ -42,7 +42,7 @@ public:
     UISheetGuide& operator=(const UISheetGuide&) = delete;
     ~UISheetGuide() override;
 
-    /// From now on the sheet opens on the page that it was closed on. For before the first page.
+    /// The sheet opens on the page that it was last closed on. An empty path keeps nothing.
     void rememberPage(const CXString& path, const CXString& printer, UIMode mode);
     /// From now on status lines and buttons in this container beside the pages are served like
     /// those on the pages. The container has to live as long as the guide.

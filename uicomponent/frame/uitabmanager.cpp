@@ -7,7 +7,6 @@
 #include "featureservices.h"
 #include "isolationaware.h"
 #include "optionfeatureref.h"
-#include "productdata.h"
 #include "productstringloader.h"
 #include "throworvik.h"
 #include "trace.h"
@@ -67,6 +66,7 @@ UITabManager::UITabManager(UIServices& services, UIMessageManager& messageManage
       m_services(services),
       m_mode(mode),
       m_option(option),
+      m_features(featureServices.GetFullListOfFeatures()),
       m_areas(moduleInstance, featureServices, context, services, messageManager),
       m_guide(std::make_unique<UISheetGuide>(featureServices, context.strings, m_tabs)),
       m_applyButton(featureServices, [this] { return hasPendingInput(); }),
@@ -89,9 +89,9 @@ UITab* UITabManager::buildTab(const UIContainerData& description, HANDLE activat
                               Page& page)
 {
     auto tab = std::make_unique<UITab>(m_featureServices, m_context, m_eventProcessor, m_services,
-                                       m_featureServices.GetFullListOfFeatures(), m_productData,
-                                       m_tabFlag);
-    const UINT_PTR tabId = m_tabs.size() + 1;
+                                       m_features, m_productData, m_tabFlag);
+    // Unique among all managers: a popup's page is offered to the sheet's tabs as well.
+    const auto tabId = reinterpret_cast<UINT_PTR>(tab.get());
     if (!tab->build(description, tabId)) {
         o7::trace(tab->getMisfit());
         return nullptr;
@@ -192,13 +192,12 @@ void UITabManager::createPagesForCPSUI(const Descriptions& descriptions, HANDLE 
     }
 }
 
-void UITabManager::rememberLastPage(const CXString& path)
+void UITabManager::rememberLastPage(const CXString& path, const CXString& printer)
 {
-    const CXString printer = m_featureServices.GetFullListOfFeatures()
-                                 .GetOptionFeature(FeatureId(DataModelIds::kFeaturePrinterName))
-                                 .GetValue()
-                                 .GetDisplayString();
-    m_guide->rememberPage(path, printer.IsEmpty() ? m_productData.GetModelName() : printer, m_mode);
+    const auto name = m_featureServices.GetFullListOfFeatures().GetOptionFeature(
+        FeatureId(DataModelIds::kFeaturePrinterName));
+    m_guide->rememberPage(path, printer.IsEmpty() ? name.GetValue().GetDisplayString() : printer,
+                          m_mode);
 }
 
 void UITabManager::buildTabs(const Descriptions&)
@@ -209,11 +208,12 @@ void UITabManager::buildTabs(const Descriptions&)
 
 bool UITabManager::handleMessage(const _UIWindowsMessage& message)
 {
-    if (message.kind == UIMessageKind::TabPage)
-        return m_wanted.wants(message.message) && handlePageMessage(message);
-    if (message.kind == UIMessageKind::OffTab)
-        return handleOffTabMessage(message);
-    return false;
+    const bool ofPage = message.kind == UIMessageKind::TabPage;
+    if (ofPage ? !m_wanted.wants(message.message) : message.kind != UIMessageKind::OffTab)
+        return false;
+    // Controls are created while the page initialises, and marks at any time later.
+    const IsolationAware::CallerContext callerContext(m_activationContext);
+    return ofPage ? handlePageMessage(message) : handleOffTabMessage(message);
 }
 
 bool UITabManager::offerToTabs(const _UIWindowsMessage& message) const
@@ -226,8 +226,6 @@ bool UITabManager::offerToTabs(const _UIWindowsMessage& message) const
 
 bool UITabManager::handlePageMessage(const _UIWindowsMessage& message)
 {
-    // Controls are created while the page initialises, and marks at any time later.
-    const IsolationAware::CallerContext callerContext(m_activationContext);
     if (m_guide->handleMessage(message))
         return true;
     switch (message.message) {
@@ -265,7 +263,6 @@ void UITabManager::buildOffTabs(const Descriptions& descriptions)
 
 bool UITabManager::handleOffTabMessage(const _UIWindowsMessage& message)
 {
-    const IsolationAware::CallerContext callerContext(m_activationContext);
     if (message.kind == UIMessageKind::TabPage) {
         if (m_areas.open(message.window))
             areasOpened(message.window);
@@ -284,11 +281,16 @@ void UITabManager::areasOpened(HWND page)
     m_eventProcessor.notifyDataModel(DataModelIds::kEventSheetSubclassed, page);
 }
 
-bool UITabManager::initializePage(const _UIWindowsMessage& message)
+void UITabManager::prepareSheet(const _UIWindowsMessage& message)
 {
     m_services.getDialogConversion().initDialogConversions(message.window);
     if (!m_areas.isEmpty())
         handleOffTabMessage(message);
+}
+
+bool UITabManager::initializePage(const _UIWindowsMessage& message)
+{
+    prepareSheet(message);
     if (!offerToTabs(message))
         return false;
     m_eventProcessor.incrementVisitedTabCount();

@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 
+#include "listoffeaturesref.h"
 #include "uiapplybutton.h"
 #include "uidatalist.h"
 #include "uimessagehandler.h"
@@ -70,9 +71,8 @@ public:
     /// windows with the first page. To be called before pages are created, once.
     void buildOffTabs(const Descriptions& descriptions);
 
-    /// From now on the sheet opens on the page that the person left it on: per printer and mode, in
-    /// the current user's hive. For before the first page. @param path  the key above the printers'
-    void rememberLastPage(const CXString& path);
+    /// See UIManager::setPersonalSettings. For before the first page has its window.
+    void rememberLastPage(const CXString& path, const CXString& printer);
 
     long getLargestWidth() const { return m_largestWidth; }   ///< dialog units
     long getLargestHeight() const { return m_largestHeight; } ///< dialog units
@@ -87,6 +87,14 @@ protected:
 
     /// Offers a message to the tabs in creation order, up to the first that claims it.
     bool offerToTabs(const _UIWindowsMessage& message) const;
+    /// For a page's WM_INITDIALOG: measures the page's dialog units and opens the areas.
+    void prepareSheet(const _UIWindowsMessage& message);
+
+    /// The list of features that pages made from now on work on; the full one otherwise.
+    void workOn(const ListOfFeaturesRef& features) { m_features = features; }
+    /// Pages made from now on send no event when Cancel is queried.
+    void suppressCancelEvent() { m_tabFlag = true; }
+    const UIContext& getContext() const { return m_context; }
 
 private:
     struct Page;
@@ -113,6 +121,7 @@ private:
     UIMode m_mode;
     unsigned long m_option;
     HANDLE m_activationContext = nullptr; ///< the caller's, for what the pages create
+    ListOfFeaturesRef m_features;
     bool m_tabFlag = false;
     bool m_firstPaintPending = true;
     UISheetAreas m_areas;

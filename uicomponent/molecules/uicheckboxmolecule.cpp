@@ -134,13 +134,13 @@ void UICheckBoxMolecule::CreateControls(UIPageWindow& page)
                                                   m_threeState);
     if (m_checkLines > 1)
         m_check->setMultiline();
-    SetWindowTextW(m_check->getHwnd(), LoadText(m_checkText).c_str());
+    m_check->setLabelText(LoadText(m_checkText));
     if (m_secondTextNumber) {
         const auto [textY, textHeight] = centred(m_secondLines, 0);
         m_secondText = std::make_unique<UITextControl>(
             page.window, page.takeId(), services, page.font, POINT{x + checkWidth, textY},
             SIZE{room - checkWidth, textHeight}, SS_NOTIFY, true, page.boldFont);
-        SetWindowTextW(m_secondText->getHwnd(), LoadText(m_secondTextNumber).c_str());
+        m_secondText->setLabelText(LoadText(m_secondTextNumber));
     }
     if (m_imageData) {
         const POINT corner{x + room + kImageGap, top + (height - m_boxHeight) / 2};

@@ -33,6 +33,7 @@ void UIMoleculeContainer::buildFrom(const UIContainerData& data, long extraHeigh
     m_molecules = m_container->getMolecules();
     m_wanted.clear();
     m_wanted.add(WM_MOUSEMOVE);
+    m_wanted.add(WM_SETCURSOR);
     for (const UIMolecule* molecule : m_molecules)
         molecule->CollectWantedMessages(m_wanted);
 }
@@ -161,15 +162,15 @@ bool UIMoleculeContainer::offerToMolecules(const _UIWindowsMessage& message) con
 {
     if (!m_wanted.wants(message.message))
         return false;
+    if (message.message == WM_MOUSEMOVE || message.message == WM_SETCURSOR) {
+        if (m_toolTips) // over a disabled control the mouse belongs to the page
+            m_toolTips->relayMouse(message);
+        return false;
+    }
     // Without a window it comes from a menu or an accelerator. A control that could not be created
     // has no window either, and must not take it for its own.
     if (message.message == WM_COMMAND && !message.lParam)
         return false;
-    if (message.message == WM_MOUSEMOVE &&
-        m_toolTips) { // over a disabled control it comes to the page
-        m_toolTips->relayMouse(message);
-        return false;
-    }
     for (UIMolecule* molecule : m_molecules)
         if (molecule->HandleMessage(message))
             return true;

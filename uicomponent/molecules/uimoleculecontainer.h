@@ -72,8 +72,7 @@ protected:
     void releaseMolecules();
 
     /// Places what buildFrom has built.
-    const UILayoutManager& getLayout() const { return *m_layout; }
-    const UIContainer* getContainer() const { return m_container.get(); }
+    UILayoutManager& getLayout() const { return *m_layout; }
     UIPageWindow& getPage() { return m_page; }
     UIServices& getServices() const { return m_site.services; }
     FeatureServices& getFeatureServices() const { return m_site.featureServices; }

@@ -45,8 +45,8 @@ constexpr struct
     { UIMoleculeKind::Slider,         make<UISliderMolecule> },
     { UIMoleculeKind::Edit,           make<UIEditMolecule> },
     { UIMoleculeKind::RangeOfInteger, make<UIRangeOfIntegerMolecule> },
-    { UIMoleculeKind::DimensionSpin,  make<UIDimensionSpinMolecule> },
     { UIMoleculeKind::Text,           make<UITextMolecule> },
+    { UIMoleculeKind::DimensionSpin,  make<UIDimensionSpinMolecule> },
     { UIMoleculeKind::Status,         make<UIStatusMolecule> },
     { UIMoleculeKind::Button,         make<UIButtonMolecule> },
 };

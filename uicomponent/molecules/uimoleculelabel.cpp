@@ -62,7 +62,7 @@ void UIMoleculeLabel::Create(UIPageWindow& page, UIServices& services, POINT pla
     m_control = std::make_unique<UITextControl>(page.window, page.takeId(), services, page.font,
                                                 POINT{place.x, place.y + drop}, size, style, true,
                                                 page.boldFont);
-    SetWindowTextW(m_control->getHwnd(), m_text.c_str());
+    m_control->setLabelText(m_text);
 }
 
 void UIMoleculeLabel::Move(POINT delta)

@@ -44,7 +44,7 @@ void UIMoleculeSwitch::Create(UIPageWindow& page, POINT place, long width)
         return;
     m_check = std::make_unique<UICheckBoxControl>(page.window, page.takeId(), m_site.services,
                                                   page.font, place, SIZE{width, kHeight}, false);
-    SetWindowTextW(m_check->getHwnd(), m_text.c_str());
+    m_check->setLabelText(m_text);
 }
 
 void UIMoleculeSwitch::Move(POINT delta)

@@ -46,7 +46,7 @@ void UITextMolecule::CreateControls(UIPageWindow& page)
     m_text = std::make_unique<UITextControl>(
         page.window, page.takeId(), GetSite().services, page.font, GetPosition(),
         SIZE{GetWidth(), GetMinimumHeight()}, SS_NOPREFIX, true, page.boldFont);
-    SetWindowTextW(m_text->getHwnd(), LoadText(m_number).c_str());
+    m_text->setLabelText(LoadText(m_number));
     if (m_bold)
         m_text->boldText(true);
 }

@@ -67,6 +67,6 @@ void o7::addWholeTextTips(const UIPageWindow& page, UIToolTips& toolTips)
         if (isOfClass(child, WC_STATICW)) // ignores the mouse otherwise
             SetWindowLongPtrW(child, GWL_STYLE,
                               GetWindowLongPtrW(child, GWL_STYLE) | LONG_PTR{SS_NOTIFY});
-        toolTips.setWholeText(child, withoutMnemonics(text));
+        toolTips.setTip(child, withoutMnemonics(text));
     }
 }

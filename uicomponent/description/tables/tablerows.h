@@ -151,11 +151,11 @@ constexpr UIMoleculeRecord edit()
 template <tagFeatureEnum Feature, std::uint32_t Label, std::uint32_t Limit>
 constexpr UIMoleculeRecord pin()
 {
-    return {
-        .kind = UIMoleculeKind::Edit,
-        .controls = rows::kBoxControls<UIControlKind::Edit, Feature, Label, &rows::kPinEdit<Limit>>,
-        .featureState = 1,
-        .labelWidth = kNarrowBoxLabel};
+    return {.kind = UIMoleculeKind::Edit,
+            .controls =
+                rows::kBoxControls<UIControlKind::Edit, Feature, Label, &rows::kPinEdit<Limit>>,
+            .featureState = 1,
+            .labelWidth = kNarrowBoxLabel};
 }
 
 /// A field for a whole number, without arrows.
