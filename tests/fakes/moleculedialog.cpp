@@ -1,6 +1,7 @@
 #include "moleculedialog.h"
 
 #include "featureservices.h"
+#include "input.h"
 #include "isolationaware.h"
 #include "productstringloader.h"
 #include "uicontext.h"
@@ -35,7 +36,7 @@ MoleculeDialog::MoleculeDialog(ProductData& productData, FeatureServices& featur
                                           reinterpret_cast<LPARAM>(&m_record));
     ShowWindow(m_window, SW_SHOW);
     SetForegroundWindow(m_window);
-    UpdateWindow(m_window);
+    pumpMessages(); // shown, and the focus where the dialog wants it at first
 }
 
 MoleculeDialog::~MoleculeDialog()
