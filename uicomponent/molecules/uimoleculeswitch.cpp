@@ -59,10 +59,12 @@ void UIMoleculeSwitch::Show(bool shown)
         m_check->setShow(shown);
 }
 
-void UIMoleculeSwitch::Enable(bool enabled)
+// A switch of its own goes by its own feature alone: what it switches may be disabled just because
+// it is off.
+void UIMoleculeSwitch::Enable(bool enabled, bool forceDisabled)
 {
     if (m_check)
-        m_check->setEnable(enabled && !OwnState().IsDisabled());
+        m_check->setEnable(m_ownFeature ? !forceDisabled && !OwnState().IsDisabled() : enabled);
 }
 
 InterpretedState UIMoleculeSwitch::OwnState() const

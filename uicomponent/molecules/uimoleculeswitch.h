@@ -42,8 +42,8 @@ public:
     void Create(UIPageWindow& page, POINT place, long width);
     void Move(POINT delta);
     void Show(bool shown);
-    /// @param enabled  what the molecule allows; the box is also grey while its feature is disabled
-    void Enable(bool enabled);
+    /// @param enabled  whether the molecule's feature is; counts for a switch that stands for it
+    void Enable(bool enabled, bool forceDisabled);
     /// Adds why the box is grey by its own feature to what the molecule says of itself.
     void AddReason(InterpretedState& state) const;
     /// Reads and shows the value.

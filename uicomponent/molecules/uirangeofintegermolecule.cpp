@@ -285,7 +285,7 @@ void UIRangeOfIntegerMolecule::EnableEnds(bool enabled)
 void UIRangeOfIntegerMolecule::ShowState(const InterpretedState& state, bool enabled)
 {
     m_cleared = !enabled && state.IsCleared();
-    m_switch.Enable(enabled);
+    m_switch.Enable(enabled, IsForceDisabled());
     LoadValue();
 }
 

@@ -225,7 +225,7 @@ void UISliderMolecule::ShowState(const InterpretedState& state, bool enabled)
 {
     m_cleared = !enabled && state.IsCleared();
     m_label.Enable(enabled);
-    m_switch.Enable(enabled);
+    m_switch.Enable(enabled, IsForceDisabled());
     LoadValue();
 }
 
