@@ -404,6 +404,13 @@ TEST_F(NumberMoleculesTest, ModelsValuesAndStatesAreShownAndNothingIsWrittenBack
     EXPECT_EQ(shown(), "1 0.41 5.92 0 100 job 12 2 5 50 ");
     enter(boxOf(dialog->window(), Margin), L"0.4");
     enter(boxOf(dialog->window(), Margin), L"0.41"); // what stood there is what was there
+    wchar_t separator[4] = L"";
+    GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, separator, 4);
+    SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, L",");
+    SendMessageW(dialog->window(), WM_SETTINGCHANGE, 0, 0);
+    SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, separator);
+    EXPECT_EQ(shown(), "1 0,41 5,92 0 100 job 12 2 5 50 ");
+    SendMessageW(dialog->window(), WM_SETTINGCHANGE, 0, 0);
     setOption(kMeasurementUnits, 5230);
     EXPECT_EQ(value(kMargin), "10.30");
     set(kMargin, Dimension(10.3, Dimension::UnitsEnum::Millimetre));

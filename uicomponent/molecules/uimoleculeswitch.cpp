@@ -11,7 +11,9 @@
 
 namespace {
 
-constexpr long kMarkWidth = 12; // dialog units; the check mark and its gap
+// Dialog units.
+constexpr long kMarkWidth = 12; // the check mark and its gap
+constexpr long kAroundLines = 2;
 
 } // namespace
 
@@ -33,6 +35,16 @@ void UIMoleculeSwitch::SetMoleculeFeature(const FeatureIdWithContext& feature)
     m_ownFeature = !(m_feature == feature);
 }
 
+void UIMoleculeSwitch::Fit(const UITextRuler& ruler, long width)
+{
+    m_lines = m_exists ? ruler.LinesOf(m_text, width - kMarkWidth) : 1;
+}
+
+long UIMoleculeSwitch::GetHeight() const
+{
+    return m_lines * UITextRuler::kLineHeight + kAroundLines;
+}
+
 long UIMoleculeSwitch::GetWantedWidth(const UITextRuler& ruler) const
 {
     return m_exists ? ruler.WidthOf(m_text) + kMarkWidth : 0;
@@ -43,7 +55,9 @@ void UIMoleculeSwitch::Create(UIPageWindow& page, POINT place, long width)
     if (!m_exists)
         return;
     m_check = std::make_unique<UICheckBoxControl>(page.window, page.takeId(), m_site.services,
-                                                  page.font, place, SIZE{width, kHeight}, false);
+                                                  page.font, place, SIZE{width, GetHeight()}, false);
+    if (m_lines > 1)
+        m_check->setMultiline();
     m_check->setLabelText(m_text);
 }
 

@@ -35,6 +35,9 @@ public:
     bool HasOwnFeature() const { return m_exists && m_ownFeature; }
     const FeatureIdWithContext& GetFeature() const { return m_feature; }
     const CXString& GetText() const { return m_text; }
+    /// Counts the lines of the text for the width that box and text get.
+    void Fit(const UITextRuler& ruler, long width);
+    long GetHeight() const;
     /// The width that the box with its text wants.
     long GetWantedWidth(const UITextRuler& ruler) const;
 
@@ -56,8 +59,6 @@ public:
     /// One line.
     void Dump() const;
 
-    static constexpr long kHeight = 10; ///< dialog units
-
 private:
     bool Read() const;
     InterpretedState OwnState() const;
@@ -65,6 +66,7 @@ private:
     const UIMoleculeSite& m_site;
     FeatureIdWithContext m_feature;
     CXString m_text;
+    long m_lines = 1;
     bool m_exists = false;
     bool m_ownFeature = true;
     bool m_on = false;

@@ -102,7 +102,7 @@ void UIRangeOfIntegerMolecule::InitializeFromDescription()
     m_switch.SetMoleculeFeature(GetBoundFeature());
     if (m_switch.HasOwnFeature())
         AddFurtherFeature(m_switch.GetFeature());
-    const long above = m_switch.Exists() ? UIMoleculeSwitch::kHeight + kSwitchGap : 0;
+    const long above = m_switch.Exists() ? m_switch.GetHeight() + kSwitchGap : 0;
     SetMinimumExtent({0, above + UINumberField::kHeight});
 }
 
@@ -142,6 +142,7 @@ UINumberRules UIRangeOfIntegerMolecule::MakeRules(const End& end) const
 
 void UIRangeOfIntegerMolecule::FitTexts(const UITextRuler& ruler, long width)
 {
+    m_switch.Fit(ruler, width - kInfoLane);
     for (End& end : m_ends)
         end.labelWidth = end.label.IsEmpty() ? 0 : ruler.WidthOf(end.label) + kLabelGap;
     Arrange(width - kInfoLane);
@@ -160,7 +161,7 @@ void UIRangeOfIntegerMolecule::Arrange(long contentWidth)
         wanted += end.labelWidth + field.GetWantedWidth(true);
     }
     m_twoRows = wanted > contentWidth;
-    const long above = m_switch.Exists() ? UIMoleculeSwitch::kHeight + kSwitchGap : 0;
+    const long above = m_switch.Exists() ? m_switch.GetHeight() + kSwitchGap : 0;
     const long rows =
         m_twoRows ? 2 * UINumberField::kHeight + kRowGap : long{UINumberField::kHeight};
     SetMinimumExtent({0, above + rows});
@@ -176,7 +177,7 @@ void UIRangeOfIntegerMolecule::CreateControls(UIPageWindow& page)
     const long indent = m_switch.Exists() ? kIndent : 0;
     const long width = GetContentWidth() - indent;
     POINT at{place.x + indent,
-             place.y + (m_switch.Exists() ? UIMoleculeSwitch::kHeight + kSwitchGap : 0)};
+             place.y + (m_switch.Exists() ? m_switch.GetHeight() + kSwitchGap : 0)};
     if (m_twoRows) {
         const long labels = std::max(m_ends[kLow].labelWidth, m_ends[kHigh].labelWidth);
         m_ends[kLow].labelWidth = m_ends[kHigh].labelWidth = labels;
