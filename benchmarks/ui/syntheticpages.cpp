@@ -26,7 +26,7 @@ constexpr int kFirstText = 500;
 constexpr int kFirstRadio = 600;
 constexpr int kOfEachKind = 20;
 constexpr int kListOptions = 6;
-constexpr int kRadioOptions = 4;
+constexpr int kRadioOptions = 3;
 constexpr int kFirstOption = 5110; // whose names the real product knows
 constexpr int kFirstOfKinds[] = {kFirstCheck, kFirstList, kFirstNumber, kFirstText, kFirstRadio};
 constexpr int kGreyedOfKind = SyntheticPages::kGreyed / std::size(kFirstOfKinds);
@@ -143,7 +143,8 @@ SyntheticPages::SyntheticPages(const std::wstring& textFolder, int pages, int wi
     std::vector<std::vector<UIMoleculeRecord>> columns(kColumns);
     for (int number = 0; number < windows / kBlock; ++number)
         for (UIMoleculeRecord& molecule : block(number))
-            columns[static_cast<std::size_t>(number % kColumns)].push_back(molecule);
+            columns[static_cast<std::size_t>((number + number / kColumns) % kColumns)].push_back(
+                molecule); // each column gets blocks of every kind
     describe(pages, columns);
 }
 
@@ -252,10 +253,9 @@ std::vector<UIMoleculeRecord> SyntheticPages::block(int number)
     case 2:
         return {molecule(kFirstList + even), text(), check(kFirstCheck + even),
                 check(kFirstCheck + even + 1)};
-    case 3:
-        return {molecule(kFirstNumber + even + 1), molecule(kFirstList + even + 1),
-                check(kFirstCheck + even)};
-    default: // a heading and four buttons
+    case 3: // label, slider and its number; label and list
+        return {molecule(kFirstNumber + even + 1), molecule(kFirstList + even + 1)};
+    default: // a heading, the start of the group, three buttons
         return {molecule(kFirstRadio + even)};
     }
 }
