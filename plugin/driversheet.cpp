@@ -13,6 +13,9 @@ namespace {
 constexpr DataModelIds::EventEnum kAcceptingEvents[] = {DataModelIds::kEventOk,
                                                         DataModelIds::kEventApply};
 
+/// Where the person's own choices about the pages are kept, a key for each printer.
+constexpr wchar_t kPersonalSettings[] = L"Software\\Orvik\\Printers";
+
 /// The sheets of this process. The print system's callback has no room for a context of the
 /// caller's, so the sheet is found by the handle that comes with every call.
 SRWLOCK g_lock = SRWLOCK_INIT;
@@ -45,6 +48,7 @@ DriverSheet::DriverSheet(std::unique_ptr<ProductSession> session, UIMode mode,
                          const wchar_t* printerName, Accepted accepted)
     : m_session(std::move(session)),
       m_accepted(std::move(accepted)),
+      m_printer(printerName != nullptr ? CXString(printerName) : CXString()),
       m_title(captionOf(*m_session, mode, printerName)),
       m_manager(std::make_unique<UIManager>(m_session->productData(), nullptr, mode, 0,
                                             Workflow::Standard))
@@ -86,6 +90,9 @@ DriverSheet* DriverSheet::ofHandle(HANDLE comPropSheet) noexcept
 
 void DriverSheet::addPages(const PROPSHEETUI_INFO& info)
 {
+    if (printerStandIn() == nullptr) { // which has a person and a place of its own
+        m_manager->setPersonalSettings(kPersonalSettings, m_printer);
+    }
     m_comPropSheet = info.hComPropSheet;
     m_callback = reinterpret_cast<ComPropSheetCallback>(info.pfnComPropSheet);
     try {

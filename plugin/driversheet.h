@@ -49,6 +49,7 @@ private:
 
     std::unique_ptr<ProductSession> m_session;
     Accepted m_accepted;
+    CXString m_printer; ///< empty when the print system names none
     std::wstring m_title;
     HANDLE m_comPropSheet = nullptr;
     ComPropSheetCallback m_callback = nullptr;

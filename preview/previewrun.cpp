@@ -11,6 +11,7 @@
 #include "console.h"
 #include "datamodelids.h"
 #include "displayedexceptions.h"
+#include "orvikutilities.h"
 #include "pluginentry.h"
 #include "productcatalogue.h"
 #include "productsession.h"
@@ -167,6 +168,7 @@ void PreviewRun::openEntry()
     }
     UIManager manager(m_session->productData(), nullptr, mode(), 0, Workflow::Standard);
     m_manager = &manager;
+    manager.setPersonalSettings(personalSettings());
     FeatureServices& model = m_session->featureServices();
     ProductStringLoader& strings = m_session->strings();
     switch (m_options.entry) {
@@ -194,6 +196,7 @@ void PreviewRun::openPlugin()
     }
     m_accepted = PluginEntry(*m_session, m_package, mode(), [this](UIManager& manager) {
                      m_manager = &manager;
+                     manager.setPersonalSettings(personalSettings());
                  }).run(nullptr);
 }
 
@@ -222,6 +225,21 @@ std::filesystem::path PreviewRun::jobTicketPath() const
         directory = std::filesystem::path(User::GetUserApplicationDirectory().c_str()) / "Orvik";
     }
     return m_session->jobTicketPath(directory);
+}
+
+/// The registry key for the last page. What is saved for looking at does not depend on what
+/// somebody did before, and each user directory has a key of its own.
+CXString PreviewRun::personalSettings() const
+{
+    if (m_options.unattended()) {
+        return {};
+    }
+    if (m_options.userDirectory.empty()) {
+        return CXString(L"Software\\Orvik\\Printers");
+    }
+    const CXString directory(std::filesystem::absolute(m_options.userDirectory).wstring());
+    return L"Software\\Orvik\\Preview\\" +
+           OrvikUtilities::ConvertPrinterNameToRegistryKey(directory);
 }
 
 std::wstring PreviewRun::aboutText() const

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "cxstring.h"
 #include "previewoptions.h"
 #include "uimode.h"
 
@@ -48,6 +49,7 @@ private:
     void openDialog(UIManager& manager);
     UIMode mode() const;
     std::filesystem::path jobTicketPath() const;
+    CXString personalSettings() const;
     std::wstring aboutText() const;
     std::wstring snapshotHeading() const;
 

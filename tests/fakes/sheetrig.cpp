@@ -10,6 +10,7 @@
 #include "uieventprocessor.h"
 #include "uimessagemanager.h"
 #include "uipopuplauncher.h"
+#include "uipopupsheet.h"
 #include "uiservices.h"
 #include "uitab.h"
 #include "uitabmanager.h"
@@ -32,6 +33,10 @@ SheetRig::SheetRig(ProductData& productData, FeatureServices& featureServices,
     m_popups->setEventProcessor(m_events.get());
     m_tabs = std::make_unique<UITabManager>(*m_services, *m_messages, instance, featureServices,
                                             *m_context, productData, *m_events, mode, 0UL);
+    m_popupSheet =
+        std::make_unique<UIPopupSheet>(*m_services, *m_messages, instance, featureServices,
+                                       *m_context, productData, *m_events, mode, 0UL, nullptr);
+    m_popups->setSheetRunner(m_popupSheet.get());
 }
 
 SheetRig::~SheetRig()
@@ -43,9 +48,14 @@ SheetRig::~SheetRig()
 
 INT_PTR SheetRig::run(DWORD flags)
 {
-    UITabManager::Descriptions descriptions;
-    for (const auto& tab : m_description.getTabs())
-        descriptions.push_back(tab.get());
+    const auto listed = [](const UIDataList<UIContainerData>& containers) {
+        UITabManager::Descriptions descriptions;
+        for (const auto& container : containers)
+            descriptions.push_back(container.get());
+        return descriptions;
+    };
+    m_tabs->buildOffTabs(listed(m_description.getOffTabs()));
+    const auto descriptions = listed(m_description.getTabs());
     std::array<HPROPSHEETPAGE, 16> pages{};
     PROPSHEETHEADERW header{};
     header.dwSize = sizeof header;

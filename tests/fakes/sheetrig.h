@@ -13,6 +13,7 @@ class UIData;
 class UIEventProcessor;
 class UIMessageManager;
 class UIPopupLauncher;
+class UIPopupSheet;
 class UIServices;
 class UITabManager;
 struct UIContext;
@@ -49,6 +50,7 @@ private:
     std::unique_ptr<UIPopupLauncher> m_popups;
     std::unique_ptr<UIEventProcessor> m_events;
     std::unique_ptr<UITabManager> m_tabs;
+    std::unique_ptr<UIPopupSheet> m_popupSheet;
 };
 
 } // namespace o7::test

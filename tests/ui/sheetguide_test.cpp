@@ -38,7 +38,10 @@ constexpr UIMoleculeRecord kPaperRows[] = {combo<kPaperTray, O7STR_L_PAPER_TRAY>
                                            check<kTonerSaving, O7STR_L_TONER_SAVING>(),
                                            combo<kPaperType, O7STR_L_PAPER_TYPE>()};
 constexpr UIMoleculeRecord kLayoutRows[] = {check<kPageBorders, O7STR_L_PAGE_BORDERS>(),
-                                            check<kCollate, O7STR_L_COLLATE>()};
+                                            check<kCollate, O7STR_L_COLLATE>(),
+                                            combo<kOptimiseFor, O7STR_L_OPTIMISE_FOR>(),
+                                            {.kind = UIMoleculeKind::Status},
+                                            kDefaultsRows[0]};
 constexpr UIMoleculeRecord kImageRows[] = {combo<kPaperSize, O7STR_L_PAPER_SIZE>(),
                                            check<kAccounting, O7STR_L_ACCOUNTING>()};
 constexpr UIColumnRecord kPaperColumns[] = {left(kPaperRows)};
@@ -128,19 +131,23 @@ protected:
             model().GetFullListOfFeatures().GetBooleanFeature(FeatureId(feature)).SetValue(value));
     }
 
+    std::wstring nameOf(tagFeatureEnum feature)
+    {
+        return session().strings().GetStringForFeature(feature).c_str();
+    }
+
     void runSheet(Steps steps)
     {
         SheetRig rig(session().productData(), session().featureServices(), session().strings(),
                      m_data);
-        if (m_personalKey)
-            rig.tabs().rememberLastPage(m_personalKey);
+        rig.tabs().rememberLastPage(m_personalKey, L"Printer\\One");
         const IdleDriver driver(std::move(steps));
         rig.run(PSH_NOAPPLYNOW);
         EXPECT_EQ(driver.failure(), "");
     }
 
     UIData m_data;
-    const wchar_t* m_personalKey = nullptr;
+    const wchar_t* m_personalKey = L"";
 };
 
 TEST_F(SheetGuideTest, TabsAreMarkedAsLongAsTheirPageHasAConflict)
@@ -189,6 +196,77 @@ TEST_F(SheetGuideTest, F8GoesFromConflictToConflictThroughAllPages)
     runSheet(std::move(steps));
 }
 
+TEST_F(SheetGuideTest, ThePageSaysWhatIsChangedAndGoesBackToItsDefaultsAlone)
+{
+    HWND button = nullptr;
+    const auto says = [&](const wchar_t* start, std::initializer_list<tagFeatureEnum> features) {
+        std::wstring text = start;
+        for (const auto feature : features)
+            text += (feature == *features.begin() ? L"" : L", ") + nameOf(feature);
+        return until([=](HWND sheet) { return findControl(sheet, L"STATIC", text.c_str()); });
+    };
+    const auto isOffered = [&](bool offered) {
+        return until([&, offered](HWND) { return (IsWindowEnabled(button) != FALSE) == offered; });
+    };
+    setBoolean(kSkipBlankPages, true);
+    model().CommitAccepted();
+    runSheet({
+        selectPage(1),
+        until([&](HWND sheet) {
+            return (button = findControl(sheet, L"BUTTON", L"Page Defaults")) != nullptr;
+        }),
+        says(L"Changed from the default: ", {kSkipBlankPages}), // which has no control
+        isOffered(true),
+        act([&](HWND) {
+            setBoolean(kPageBorders, false);
+            setBoolean(kTonerSaving, true);
+            setBoolean(kCollate, false);
+        }),
+        says(L"Changed from the default: ", {kTonerSaving, kCollate, kSkipBlankPages}),
+        act([](HWND) { sendKey('D', {VK_MENU}); }),
+        says(L"Changed from the default: ", {kTonerSaving}),
+        isOffered(false),
+        act([&](HWND sheet) {
+            EXPECT_TRUE(boolean(kCollate));
+            EXPECT_FALSE(boolean(kSkipBlankPages));
+            EXPECT_NE(GetFocus(), button) << "a greyed button has the keyboard";
+            EXPECT_TRUE(IsChild(sheet, GetFocus()));
+            makeConflicts();
+        }),
+        says(L"In conflict (F8 shows the next): ", {kPaperTray, kPaperType, kAccounting}),
+        key(VK_ESCAPE),
+    });
+    EXPECT_TRUE(boolean(kSkipBlankPages)) << "Cancel brings everything back";
+    EXPECT_FALSE(boolean(kTonerSaving));
+}
+
+TEST_F(SheetGuideTest, ASettingThatIsNotShownIsExplainedBesideTheStatus)
+{
+    std::wstring reason;
+    const auto isExplained = [&](HWND sheet) {
+        return findControl(sheet, L"BUTTON", reason.c_str()) != nullptr;
+    };
+    runSheet({
+        selectPage(1),
+        act([&](HWND) {
+            setOption(DataModelIds::kFeatureControllerFamily, DataModelIds::kValueFamily8432);
+            const auto state = model()
+                                   .GetFeatureRef(FeatureIdWithContext(kOptimiseFor))
+                                   ->GetCapabilities()
+                                   ->GetInterpretedState();
+            ASSERT_TRUE(state.IsHidden());
+            reason = nameOf(kOptimiseFor) + L": " + state.GetReason().c_str();
+        }),
+        until(isExplained),
+        selectPage(0), // which shows no such setting
+        selectPage(1),
+        until(isExplained),
+        act([&](HWND) { model().RevertToAccepted(); }),
+        until([&](HWND sheet) { return !isExplained(sheet); }),
+        key(VK_ESCAPE),
+    });
+}
+
 TEST_F(SheetGuideTest, ADialogOverTheSheetHasItsOwnConflicts)
 {
     makeConflicts();
@@ -218,7 +296,7 @@ TEST_F(SheetGuideTest, TheLastPageIsKeptForPrinterAndModeAndByNumber)
     m_personalKey = kKey;
     opensOn(0, {selectPage(2)});
     opensOn(2);
-    RegistryKey printer(HKEY_CURRENT_USER, kKey + CXString(L"\\") + L"Orvik Office C430");
+    RegistryKey printer(HKEY_CURRENT_USER, kKey + CXString(L"\\Printer%5COne"));
     EXPECT_EQ(printer.GetLongValue(L"LastPage1", 0), 13);
     printer.SetLongValue(L"LastPage1", 12);
     opensOn(1);

@@ -35,7 +35,8 @@ public:
 
 private:
     friend o7::SubclassedWindow<UIInfoButtonControl>;
-    static constexpr const wchar_t* kProcedureName = L"UIInfoButtonControl::subclassWindowProcedure";
+    static constexpr const wchar_t* kProcedureName =
+        L"UIInfoButtonControl::subclassWindowProcedure";
     static constexpr const wchar_t* kSource = L"uiinfobuttoncontrol";
 
     using UIControl::forgetWindow;

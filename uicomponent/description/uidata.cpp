@@ -35,3 +35,13 @@ const UIContainerData* UIData::findDialog(DialogId id) const
     }
     return nullptr;
 }
+
+std::vector<const UIContainerData*> UIData::findTabSet(DialogId id) const
+{
+    std::vector<const UIContainerData*> pages;
+    for (const auto& dialog : m_dialogs) {
+        if (dialog->getId() == static_cast<std::uint32_t>(id))
+            pages.push_back(dialog.get());
+    }
+    return pages;
+}

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "cxstring.h"
 #include "datamodelids.h"
 #include "dialogid.h"
@@ -37,6 +39,8 @@ public:
 
     /// The dialog of that number, or null when this interface has none.
     const UIContainerData* findDialog(DialogId id) const;
+    /// The pages of the popup tab set of that number: all dialogs that have it.
+    std::vector<const UIContainerData*> findTabSet(DialogId id) const;
 
     /// String number of the sheet's caption; 0 when the description is empty.
     std::uint32_t getCaption() const { return m_root != nullptr ? m_root->caption : 0; }

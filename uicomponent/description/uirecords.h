@@ -89,7 +89,8 @@ struct UIFeatureObserverRecord
 /// One page: a tab, a dialog or the inside of a Container molecule.
 struct UIContainerRecord
 {
-    std::uint32_t id = 0; ///< Tab number, unique in its root; for a dialog its DialogId.
+    std::uint32_t id = 0; ///< Tab number, unique in its root; a dialog's DialogId,
+                          ///< which the pages of a popup tab set share.
     std::uint32_t title = 0;
     std::int32_t width = 0;
     std::int32_t height = 0;

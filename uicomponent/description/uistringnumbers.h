@@ -408,4 +408,13 @@
 
 // The sheet around the pages (34200 to 34299)
 #define O7STR_L_PAGE_DEFAULTS 34200 // "Page &Defaults"
+#define O7STR_S_IN_CONFLICT 34201 // "In conflict (F8 shows the next): %s"
+#define O7STR_S_CHANGED 34202 // "Changed from the default: %s"
+#define O7STR_S_ALL_DEFAULT 34203 // "All settings have their default values."
+#define O7STR_S_SEPARATOR 34204 // ", "
+#define O7STR_S_CONFLICTS_TITLE 34205 // "Settings in Conflict"
+#define O7STR_S_HIDDEN_TITLE 34206 // "Not Shown on This Page"
+
+// Messages of the sheet when it is applied
+#define O7STR_M_VALUE_MISSING 34250 // "“%s” has no value yet. Enter or choose one..."
 // clang-format on

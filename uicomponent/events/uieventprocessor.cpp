@@ -41,6 +41,12 @@ bool UIEventProcessor::displayCustomDialog(DialogId id, const ListOfFeaturesRef&
     return m_popupLauncher.launch(id, features, parent, param);
 }
 
+bool UIEventProcessor::displayPropertySheet(DialogId id, const ListOfFeaturesRef& features,
+                                            HWND parent) const
+{
+    return m_popupLauncher.launchPropertySheet(id, features, parent);
+}
+
 void UIEventProcessor::notifyDataModel(DataModelIds::EventEnum event, void* data)
 {
     m_featureServices.GetNotificationSink().SendNotification(

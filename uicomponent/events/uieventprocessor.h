@@ -40,6 +40,9 @@ public:
     bool displayCustomDialog(DialogId id, const ListOfFeaturesRef& features, HWND parent,
                              void* param) const;
 
+    /// Shows a popup tab set over a list of features. @return as displayDialog().
+    bool displayPropertySheet(DialogId id, const ListOfFeaturesRef& features, HWND parent) const;
+
     /// Sends an event to the data model. @param data  borrowed for the duration of the call; its
     /// type is fixed by the event.
     void notifyDataModel(DataModelIds::EventEnum event, void* data);

@@ -9,6 +9,7 @@
 #include "uidialogtemplate.h"
 #include "uimessagemanager.h"
 #include "uipopupdialog.h"
+#include "uipopupsheetrunner.h"
 #include "uiservices.h"
 
 namespace {
@@ -93,6 +94,18 @@ bool UIPopupLauncher::launch(DialogId id, const ListOfFeaturesRef& features, HWN
     const INT_PTR result = runModal(m_moduleInstance, dialogTemplate, parent, record);
     // A dialog that could not be shown (-1) has accepted nothing.
     const bool accepted = result != 0 && result != -1;
+    transaction->Close(accepted);
+    return accepted;
+}
+
+bool UIPopupLauncher::launchPropertySheet(DialogId id, const ListOfFeaturesRef& features,
+                                          HWND parent)
+{
+    const auto pages = m_uiData.findTabSet(id);
+    if (pages.empty() || !m_sheetRunner)
+        return false;
+    const auto transaction = m_featureServices.OpenTransaction(CXString(L"popup tab set"));
+    const bool accepted = m_sheetRunner->runPopupSheet(pages, features, parent);
     transaction->Close(accepted);
     return accepted;
 }

@@ -11,6 +11,7 @@ class ProductData;
 class UIData;
 class UIEventProcessor;
 class UIMessageManager;
+class UIPopupSheetRunner;
 class UIServices;
 struct UIContext;
 
@@ -31,6 +32,9 @@ public:
 
     void setEventProcessor(UIEventProcessor* eventProcessor) { m_eventProcessor = eventProcessor; }
 
+    /// Who shows popup tab sets; without one there are none.
+    void setSheetRunner(UIPopupSheetRunner* runner) { m_sheetRunner = runner; }
+
     /// Stores the launch flag and launches without a parameter.
     /// @param wholeUi  the dialog is the whole user interface, not a popup of a page: it is centred
     ///                 on the screen and appears in the task bar.
@@ -40,6 +44,9 @@ public:
     /// has no description, and when the dialog could not be shown.
     bool launch(DialogId id, const ListOfFeaturesRef& features, HWND parent, void* param);
 
+    /// Shows the popup tab set of that number in a sheet, modal. @return as launch().
+    bool launchPropertySheet(DialogId id, const ListOfFeaturesRef& features, HWND parent);
+
 private:
     UIMessageManager& m_messageManager;
     HINSTANCE m_moduleInstance;
@@ -48,6 +55,7 @@ private:
     ProductData& m_productData;
     const UIData& m_uiData;
     UIEventProcessor* m_eventProcessor;
+    UIPopupSheetRunner* m_sheetRunner = nullptr;
     UIServices& m_services;
     HANDLE m_activationContext;
     UIMode m_mode;

@@ -7,7 +7,7 @@ UIDataValidator::UIDataValidator(FeatureServices& featureServices, UIEventProces
 {
 }
 
-bool UIDataValidator::validate(const NMHDR&) const
+bool UIDataValidator::validate(const NMHDR&)
 {
     const auto list = m_featureServices.GetFullListOfFeatures();
     const auto& node = list.GetNode();
@@ -17,9 +17,13 @@ bool UIDataValidator::validate(const NMHDR&) const
         if (!feature || feature->IsSpecified())
             continue;
         const auto capabilities = feature->GetCapabilities();
-        if (capabilities && capabilities->IsRequired() &&
-            !capabilities->GetInterpretedState().IsCleared())
-            return false;
+        if (!capabilities || !capabilities->IsRequired())
+            continue;
+        const InterpretedState state = capabilities->GetInterpretedState();
+        if (state.IsCleared() || state.IsDisabled() || state.IsHidden())
+            continue; // the person could not give it one
+        m_missing = feature->GetId();
+        return false;
     }
     return true;
 }

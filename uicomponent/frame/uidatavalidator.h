@@ -2,11 +2,14 @@
 
 #include <windows.h>
 
+#include "featureidwithcontext.h"
+
 class FeatureServices;
 class UIEventProcessor;
 
-/// Looks at the data model as a whole before an Apply is completed: a required feature without a
-/// value keeps the sheet open. What one molecule alone can tell is validated by the molecule.
+/// Looks at the data model as a whole before an Apply is completed: a required feature that could
+/// have a value and has none keeps the sheet open. What one molecule alone can tell is validated by
+/// the molecule.
 class UIDataValidator
 {
 public:
@@ -14,8 +17,11 @@ public:
 
     /// @param apply  the PSN_APPLY notification. @return false when the settings cannot be
     /// accepted.
-    bool validate(const NMHDR& apply) const;
+    bool validate(const NMHDR& apply);
+    /// The required feature without a value, after validate() has failed.
+    const FeatureIdWithContext& getMissing() const { return m_missing; }
 
 private:
     FeatureServices& m_featureServices;
+    FeatureIdWithContext m_missing;
 };

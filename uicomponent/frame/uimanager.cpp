@@ -23,6 +23,7 @@
 #include "uimruhandler.h"
 #include "uioffsethandler.h"
 #include "uipopuplauncher.h"
+#include "uipopupsheet.h"
 #include "uiservices.h"
 #include "uispecialfeaturehandler.h"
 #include "uitabmanager.h"
@@ -33,12 +34,17 @@ namespace {
 constexpr std::size_t kMostPages = 16;
 constexpr auto kRootGroup = static_cast<DataModelIds::tagFeatureEnum>(2);
 
+UITabManager::Descriptions listed(const UIDataList<UIContainerData>& containers)
+{
+    UITabManager::Descriptions descriptions;
+    for (const auto& container : containers)
+        descriptions.push_back(container.get());
+    return descriptions;
+}
+
 UITabManager::Descriptions tabsOf(const UIData& data)
 {
-    UITabManager::Descriptions tabs;
-    for (const auto& tab : data.getTabs())
-        tabs.push_back(tab.get());
-    return tabs;
+    return listed(data.getTabs());
 }
 
 HINSTANCE instanceOf(void* moduleHandle)
@@ -77,6 +83,7 @@ UIManager::~UIManager()
     m_tvTabManager.reset();
     m_tabManager.reset();
     m_popupLauncher.reset();
+    m_popupSheet.reset();
     m_eventProcessor.reset();
     m_messageManager.reset();
     m_uiData.reset();
@@ -103,18 +110,25 @@ void UIManager::initializePartI(FeatureServices& featureServices, ProductStringL
     m_popupLauncher->setEventProcessor(m_eventProcessor.get());
     m_dataSource->setEventProcessor(m_eventProcessor.get());
     m_specialFeatureHandler->setEventProcessor(m_eventProcessor.get());
+    m_popupSheet = std::make_unique<UIPopupSheet>(
+        *m_services, *m_messageManager, m_moduleInstance, featureServices, *m_context,
+        m_productData, *m_eventProcessor, m_mode, m_option, activationContext);
+    m_popupLauncher->setSheetRunner(m_popupSheet.get());
     if (!wantsPages)
         return;
     m_tabManager = std::make_unique<UITabManager>(*m_services, *m_messageManager, m_moduleInstance,
                                                   featureServices, *m_context, m_productData,
                                                   *m_eventProcessor, m_mode, m_option);
-    if (!m_personalSettings.IsEmpty())
-        m_tabManager->rememberLastPage(m_personalSettings);
+    m_tabManager->buildOffTabs(listed(m_uiData->getOffTabs()));
+    m_tabManager->rememberLastPage(m_personalSettings, m_printer);
 }
 
-void UIManager::setPersonalSettings(const CXString& registryPath)
+void UIManager::setPersonalSettings(const CXString& registryPath, const CXString& printer)
 {
     m_personalSettings = registryPath;
+    m_printer = printer;
+    if (m_tabManager)
+        m_tabManager->rememberLastPage(registryPath, printer);
 }
 
 void UIManager::initializePartII(FeatureServices& featureServices)

@@ -23,6 +23,7 @@ class UIMessageManager;
 class UIMRUHandler;
 class UIOffsetHandler;
 class UIPopupLauncher;
+class UIPopupSheet;
 class UIServices;
 class UISpecialFeatureHandler;
 class UITabManager;
@@ -77,10 +78,12 @@ public:
     void initialize(HWND parent, FeatureServices& featureServices, ProductStringLoader& strings,
                     void* activationContext);
 
-    /// Has the pages open where the person left them: the last page is kept per printer and mode
-    /// under this key of the current user's hive. For before the entry operation; without it, or
-    /// with an empty path, every sheet opens on its first page and nothing is kept.
-    void setPersonalSettings(const CXString& registryPath);
+    /// Has the pages open where the person left them: the last page is kept for each mode, in the
+    /// current user's hive under `registryPath`, in a key of the printer's. For before the sheet is
+    /// on screen; without it, or with an empty path, every sheet opens on its first page and
+    /// nothing is kept.
+    /// @param printer  its name; empty: as the product calls itself (feature 255)
+    void setPersonalSettings(const CXString& registryPath, const CXString& printer = {});
 
     /// Appends the observers that the manager owns, for registration with the data model.
     void addDataSources(std::vector<DataSource*>& sources) const;
@@ -116,4 +119,6 @@ private:
     unsigned long m_option;
     ProductData& m_productData;
     CXString m_personalSettings;
+    std::unique_ptr<UIPopupSheet> m_popupSheet; ///< an addition, after the fixed order
+    CXString m_printer;
 };

@@ -7,7 +7,10 @@
 #include "featureservices.h"
 #include "productstringloader.h"
 #include "setofsettingids.h"
-#include "uimolecule.h"
+#include "uibuttonaction.h"
+#include "uibuttonmolecule.h"
+#include "uimoleculedata.h"
+#include "uistringnumbers.h"
 #include "uitab.h"
 #include "uiwindowsmessage.h"
 
@@ -32,6 +35,12 @@ UISheetGuide::~UISheetGuide()
 void UISheetGuide::rememberPage(const CXString& path, const CXString& printer, UIMode mode)
 {
     m_lastPage.emplace(path, printer, mode);
+}
+
+void UISheetGuide::serve(const UIMoleculeContainer& container)
+{
+    m_served.push_back(&container);
+    requestUpdate();
 }
 
 bool UISheetGuide::handleMessage(const _UIWindowsMessage& message)
@@ -80,7 +89,8 @@ void UISheetGuide::end()
                                          kEverything, DataModelIds::kObserverFeature);
     m_key.reset();
     m_marks.reset();
-    if (m_lastPage && m_active < m_tabs.size())
+    // Who never left the first page leaves no trace.
+    if (m_lastPage && m_active < m_tabs.size() && (m_active != 0 || m_lastPage->get() != 0))
         m_lastPage->set(m_tabs[m_active]->getPageId());
     m_sheet = nullptr;
     m_page = nullptr;
@@ -124,6 +134,74 @@ void UISheetGuide::update()
     std::erase_if(conflicts,
                   [&](const auto& feature) { return !m_featureServices.TestFeature(feature); });
     markTabs(conflicts);
+    for (const auto& tab : m_tabs)
+        serveMolecules(*tab, conflicts);
+    for (const UIMoleculeContainer* container : m_served)
+        serveMolecules(*container, conflicts);
+}
+
+// Found anew each time: a page may have lost its molecules, with its window, meanwhile.
+void UISheetGuide::serveMolecules(const UIMoleculeContainer& container,
+                                  const std::vector<FeatureIdWithContext>& conflicts)
+{
+    if (!container.getWindow())
+        return;
+    for (UIMolecule* molecule : container.getMolecules()) {
+        const UIMoleculeKind kind = molecule->GetData().getKind();
+        if (kind == UIMoleculeKind::Status) {
+            static_cast<UIStatusMolecule*>(molecule)->SetStatus(describe(conflicts));
+        } else if (kind == UIMoleculeKind::Button) {
+            auto& button = static_cast<UIButtonMolecule&>(*molecule);
+            if (button.GetAction() != o7::kActionPageDefaults)
+                continue;
+            button.SetPressed([this] { restorePageDefaults(); });
+            button.SetEnabled(settings()[m_active].isChanged());
+        }
+    }
+}
+
+UIStatusMolecule::Status UISheetGuide::describe(const std::vector<FeatureIdWithContext>& conflicts)
+{
+    UIStatusMolecule::Status status;
+    status.reasons = settings()[m_active].hiddenReasons(m_strings);
+    status.reasonsTitle = m_strings.LoadStringW(O7STR_S_HIDDEN_TITLE);
+    status.inConflict = !conflicts.empty();
+    if (status.inConflict) {
+        status.text = CXString::Formatted(m_strings.LoadStringW(O7STR_S_IN_CONFLICT).c_str(),
+                                          namesOf(conflicts).c_str());
+        status.reasons = reasonsOf(conflicts) + status.reasons;
+        status.reasonsTitle = m_strings.LoadStringW(O7STR_S_CONFLICTS_TITLE);
+        return status;
+    }
+    std::vector<FeatureIdWithContext> changed;
+    for (const UIPageSettings& page : settings())
+        page.addChanged(changed);
+    status.text = changed.empty()
+                      ? m_strings.LoadStringW(O7STR_S_ALL_DEFAULT)
+                      : CXString::Formatted(m_strings.LoadStringW(O7STR_S_CHANGED).c_str(),
+                                            namesOf(changed).c_str());
+    return status;
+}
+
+CXString UISheetGuide::namesOf(const std::vector<FeatureIdWithContext>& features) const
+{
+    CXString names;
+    for (const FeatureIdWithContext& feature : features) {
+        if (!names.IsEmpty())
+            names += m_strings.LoadStringW(O7STR_S_SEPARATOR);
+        names += m_strings.GetStringForFeature(feature.GetFeatureEnum());
+    }
+    return names;
+}
+
+CXString UISheetGuide::reasonsOf(const std::vector<FeatureIdWithContext>& conflicts) const
+{
+    CXString reasons;
+    for (const FeatureIdWithContext& id : conflicts) {
+        const auto feature = m_featureServices.GetFeatureRef(id);
+        reasons += feature->GetCapabilities()->GetInterpretedState().GetCbrBtnMsg() + L"\n";
+    }
+    return reasons;
 }
 
 void UISheetGuide::reopenLastPage()
@@ -196,6 +274,18 @@ void UISheetGuide::goToConflict(bool backwards)
         MessageBeep(MB_OK);
     else if (selectPage(static_cast<std::size_t>(next->container)))
         walk.moleculeAt(*next).Focus();
+}
+
+void UISheetGuide::goTo(const FeatureIdWithContext& feature)
+{
+    for (std::size_t page = 0; page < m_tabs.size(); ++page) {
+        for (UIMolecule* molecule : m_tabs[page]->getMolecules()) {
+            if (!(molecule->GetBoundFeature() == feature) || !selectPage(page))
+                continue;
+            molecule->Focus();
+            return;
+        }
+    }
 }
 
 void UISheetGuide::restorePageDefaults()

@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
-#include <string>
 #include <vector>
 
 #include "iobserver.h"
@@ -13,6 +12,7 @@
 #include "uifunctionkey.h"
 #include "uilastpage.h"
 #include "uipagesettings.h"
+#include "uistatusmolecule.h"
 #include "uitabmarks.h"
 
 class FeatureServices;
@@ -42,10 +42,10 @@ public:
     UISheetGuide& operator=(const UISheetGuide&) = delete;
     ~UISheetGuide() override;
 
-    /// From now on the sheet opens on the page that it was closed on. For before the first page.
+    /// The sheet opens on the page that it was last closed on. An empty path keeps nothing.
     void rememberPage(const CXString& path, const CXString& printer, UIMode mode);
-    /// Gives the status texts and buttons of a container their work. The container has to have its
-    /// controls, and stays until the pages are gone.
+    /// From now on status lines and buttons in this container beside the pages are served like
+    /// those on the pages. The container has to live as long as the guide.
     void serve(const UIMoleculeContainer& container);
 
     /// Has to see every message of the pages before they do. @return true for messages of its own.
@@ -53,6 +53,10 @@ public:
 
     /// Gives every setting of the page that is shown its default value.
     void restorePageDefaults();
+
+    /// Brings the page that shows the setting to the front and the keyboard to its control; nothing
+    /// when no page shows it.
+    void goTo(const FeatureIdWithContext& feature);
 
     void ProcessNotification(const INotification& notification, unsigned int kind) override;
     CXString GetObserverClassNameHeirarchy() const override;
@@ -65,6 +69,11 @@ private:
     void update();
     void reopenLastPage();
     void markTabs(const std::vector<FeatureIdWithContext>& conflicts);
+    void serveMolecules(const UIMoleculeContainer& container,
+                        const std::vector<FeatureIdWithContext>& conflicts);
+    UIStatusMolecule::Status describe(const std::vector<FeatureIdWithContext>& conflicts);
+    CXString namesOf(const std::vector<FeatureIdWithContext>& features) const;
+    CXString reasonsOf(const std::vector<FeatureIdWithContext>& conflicts) const;
     void goToConflict(bool backwards);
     bool selectPage(std::size_t page);
     int firstTab() const;
@@ -77,7 +86,8 @@ private:
     HWND m_sheet = nullptr;
     HWND m_page = nullptr; ///< the one whose messages serve the guide
     std::size_t m_active = 0;
-    std::vector<UIPageSettings> m_settings; ///< by page; collected when first needed
+    std::vector<const UIMoleculeContainer*> m_served; ///< beside the pages
+    std::vector<UIPageSettings> m_settings;           ///< by page; collected when first needed
     std::optional<UIFunctionKey> m_key;
     std::optional<UITabMarks> m_marks;
     std::optional<UILastPage> m_lastPage;

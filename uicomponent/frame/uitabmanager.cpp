@@ -2,23 +2,21 @@
 
 #include <algorithm>
 
-#include "booleanfeatureref.h"
 #include "dialogconversion.h"
 #include "exceptiontabcreationfailure.h"
 #include "featureservices.h"
 #include "isolationaware.h"
 #include "optionfeatureref.h"
-#include "productdata.h"
 #include "productstringloader.h"
 #include "throworvik.h"
 #include "trace.h"
 #include "uicontainerdata.h"
 #include "uicontext.h"
-#include "uidatavalidator.h"
 #include "uidialogprocedure.h"
 #include "uidialogtemplate.h"
 #include "uieventprocessor.h"
 #include "uimessagemanager.h"
+#include "uiofftab.h"
 #include "uiservices.h"
 #include "uisheetguide.h"
 #include "uitab.h"
@@ -28,17 +26,13 @@ namespace {
 constexpr UINT kFirstPaintMessage = WM_APP + 7;
 constexpr UINT kAddPropSheetPage = 1; // function index of the print system's callback
 
-// String resources of the warning that keeps the sheet open.
-constexpr unsigned kWarningCaption = 35000;
-constexpr unsigned kWarningText = 35001;
-constexpr unsigned kWarningAdvice = 35002;
-
 // What the manager and the tabs handle themselves, besides what molecules want.
 constexpr UINT kOwnMessages[] = {WM_INITDIALOG,
                                  WM_PAINT,
                                  WM_NOTIFY,
                                  WM_DESTROY,
                                  kFirstPaintMessage,
+                                 UIApplyButton::kModelChanged,
                                  UISheetGuide::kUpdateMessage,
                                  UIConflictWalk::kMessage};
 
@@ -71,15 +65,22 @@ UITabManager::UITabManager(UIServices& services, UIMessageManager& messageManage
       m_eventProcessor(eventProcessor),
       m_services(services),
       m_mode(mode),
-      m_option(option)
+      m_option(option),
+      m_features(featureServices.GetFullListOfFeatures()),
+      m_areas(moduleInstance, featureServices, context, services, messageManager),
+      m_guide(std::make_unique<UISheetGuide>(featureServices, context.strings, m_tabs)),
+      m_applyButton(featureServices, [this] { return hasPendingInput(); }),
+      m_apply(featureServices, context.strings, services, eventProcessor, m_mode, m_areas, *m_guide,
+              m_applyButton)
 {
     for (const UINT message : kOwnMessages)
         m_wanted.add(message);
-    m_guide = std::make_unique<UISheetGuide>(featureServices, context.strings, m_tabs);
 }
 
 UITabManager::~UITabManager()
 {
+    if (!m_areas.isEmpty())
+        m_messageManager.removeLast(UIMessageKind::OffTab);
     if (!m_tabs.empty())
         m_messageManager.removeLast(UIMessageKind::TabPage);
 }
@@ -88,9 +89,9 @@ UITab* UITabManager::buildTab(const UIContainerData& description, HANDLE activat
                               Page& page)
 {
     auto tab = std::make_unique<UITab>(m_featureServices, m_context, m_eventProcessor, m_services,
-                                       m_featureServices.GetFullListOfFeatures(), m_productData,
-                                       m_tabFlag);
-    const UINT_PTR tabId = m_tabs.size() + 1;
+                                       m_features, m_productData, m_tabFlag);
+    // Unique among all managers: a popup's page is offered to the sheet's tabs as well.
+    const auto tabId = reinterpret_cast<UINT_PTR>(tab.get());
     if (!tab->build(description, tabId)) {
         o7::trace(tab->getMisfit());
         return nullptr;
@@ -191,13 +192,12 @@ void UITabManager::createPagesForCPSUI(const Descriptions& descriptions, HANDLE 
     }
 }
 
-void UITabManager::rememberLastPage(const CXString& path)
+void UITabManager::rememberLastPage(const CXString& path, const CXString& printer)
 {
-    const CXString printer = m_featureServices.GetFullListOfFeatures()
-                                 .GetOptionFeature(FeatureId(DataModelIds::kFeaturePrinterName))
-                                 .GetValue()
-                                 .GetDisplayString();
-    m_guide->rememberPage(path, printer.IsEmpty() ? m_productData.GetModelName() : printer, m_mode);
+    const auto name = m_featureServices.GetFullListOfFeatures().GetOptionFeature(
+        FeatureId(DataModelIds::kFeaturePrinterName));
+    m_guide->rememberPage(path, printer.IsEmpty() ? name.GetValue().GetDisplayString() : printer,
+                          m_mode);
 }
 
 void UITabManager::buildTabs(const Descriptions&)
@@ -208,11 +208,12 @@ void UITabManager::buildTabs(const Descriptions&)
 
 bool UITabManager::handleMessage(const _UIWindowsMessage& message)
 {
-    if (message.kind == UIMessageKind::TabPage)
-        return m_wanted.wants(message.message) && handlePageMessage(message);
-    if (message.kind == UIMessageKind::OffTab)
-        return handleOffTabMessage(message);
-    return false;
+    const bool ofPage = message.kind == UIMessageKind::TabPage;
+    if (ofPage ? !m_wanted.wants(message.message) : message.kind != UIMessageKind::OffTab)
+        return false;
+    // Controls are created while the page initialises, and marks at any time later.
+    const IsolationAware::CallerContext callerContext(m_activationContext);
+    return ofPage ? handlePageMessage(message) : handleOffTabMessage(message);
 }
 
 bool UITabManager::offerToTabs(const _UIWindowsMessage& message) const
@@ -225,8 +226,6 @@ bool UITabManager::offerToTabs(const _UIWindowsMessage& message) const
 
 bool UITabManager::handlePageMessage(const _UIWindowsMessage& message)
 {
-    // Controls are created while the page initialises, and marks at any time later.
-    const IsolationAware::CallerContext callerContext(m_activationContext);
     if (m_guide->handleMessage(message))
         return true;
     switch (message.message) {
@@ -244,27 +243,59 @@ bool UITabManager::handlePageMessage(const _UIWindowsMessage& message)
         return true;
     case WM_COMMAND: {
         const bool claimed = offerToTabs(message);
-        if (claimed)
-            updateApplyButton(message.window);
+        m_applyButton.update();
         return claimed;
     }
+    case UIApplyButton::kModelChanged:
+        m_applyButton.modelChanged();
+        return true;
     default:
         return offerToTabs(message);
     }
 }
 
-bool UITabManager::handleOffTabMessage(const _UIWindowsMessage&)
+void UITabManager::buildOffTabs(const Descriptions& descriptions)
 {
-    return false;
+    m_areas.build(descriptions);
+    if (!m_areas.isEmpty())
+        m_messageManager.append(UIMessageKind::OffTab, *this);
+}
+
+bool UITabManager::handleOffTabMessage(const _UIWindowsMessage& message)
+{
+    if (message.kind == UIMessageKind::TabPage) {
+        if (m_areas.open(message.window))
+            areasOpened(message.window);
+        return false; // the page itself is still to be made
+    }
+    const bool claimed = m_areas.handleMessage(message);
+    if (message.message == WM_COMMAND)
+        m_applyButton.update();
+    return claimed;
+}
+
+void UITabManager::areasOpened(HWND page)
+{
+    for (const auto& offTab : m_areas.getOffTabs())
+        m_guide->serve(*offTab);
+    m_eventProcessor.notifyDataModel(DataModelIds::kEventSheetSubclassed, page);
+}
+
+void UITabManager::prepareSheet(const _UIWindowsMessage& message)
+{
+    m_services.getDialogConversion().initDialogConversions(message.window);
+    if (!m_areas.isEmpty())
+        handleOffTabMessage(message);
 }
 
 bool UITabManager::initializePage(const _UIWindowsMessage& message)
 {
-    m_services.getDialogConversion().initDialogConversions(message.window);
-    const bool claimed = offerToTabs(message);
-    if (claimed)
-        m_eventProcessor.incrementVisitedTabCount();
-    return claimed;
+    prepareSheet(message);
+    if (!offerToTabs(message))
+        return false;
+    m_eventProcessor.incrementVisitedTabCount();
+    m_applyButton.pageInitialized(message.window);
+    return true;
 }
 
 void UITabManager::postFirstPaint(const _UIWindowsMessage& message)
@@ -279,67 +310,20 @@ bool UITabManager::applyPage(const _UIWindowsMessage& message)
 {
     if (!offerToTabs(message))
         return false;
-    const LONG_PTR result = GetWindowLongPtrW(message.window, DWLP_MSGRESULT);
-    const UIDataValidator validator(m_featureServices, m_eventProcessor);
-    const auto& notification = *reinterpret_cast<const NMHDR*>(message.lParam);
-    if (result == PSNRET_INVALID || !validator.validate(notification))
-        rejectApply();
-    else if (result == PSNRET_NOERROR && m_eventProcessor.incrementNotificationCount())
-        completeApply(message);
+    m_apply.pageAnswered(message);
     return true;
 }
 
-void UITabManager::rejectApply()
+bool UITabManager::hasPendingInput() const
 {
-    m_eventProcessor.resetNotificationCount();
-    m_featureServices.GetFullListOfFeatures()
-        .GetBooleanFeature(FeatureId(DataModelIds::kFeatureApplyIsValid))
-        .SetValue(false);
-}
-
-void UITabManager::completeApply(const _UIWindowsMessage& message)
-{
-    const bool closing = reinterpret_cast<const PSHNOTIFY*>(message.lParam)->lParam != 0;
-    m_eventProcessor.notifyDataModel(closing ? DataModelIds::kEventOk : DataModelIds::kEventApply,
-                                     &m_mode);
-    m_modifiedShown = false; // the sheet greys Apply by itself
-    if (showApplyWarning(message.window))
-        SetWindowLongPtrW(message.window, DWLP_MSGRESULT, PSNRET_INVALID);
-}
-
-bool UITabManager::showApplyWarning(HWND page) const
-{
-    ValueId value;
-    const auto feature = m_featureServices.GetFullListOfFeatures().GetOptionFeature(
-        FeatureId(DataModelIds::kFeatureApplyResult));
-    if (!feature.GetValue(value, FeatureRef::kDoNotAssertIfUnsupported) ||
-        value.GetValueEnum() != DataModelIds::kValueApplyRejected)
-        return false;
-    const auto& strings = m_context.strings;
-    const CXString text =
-        strings.LoadStringW(kWarningText) + L"\n\n" + strings.LoadStringW(kWarningAdvice);
-    m_services.showMessage(page, text, strings.LoadStringW(kWarningCaption), MB_ICONWARNING);
-    return true;
-}
-
-void UITabManager::updateApplyButton(HWND page)
-{
-    const bool modified = m_featureServices.IsModified();
-    if (modified == m_modifiedShown)
-        return;
-    m_modifiedShown = modified;
-    const HWND sheet = GetParent(page);
-    if (modified) {
-        SendMessageW(sheet, PSM_CHANGED, reinterpret_cast<WPARAM>(page), 0);
-        return;
-    }
-    for (const auto& tab : m_tabs)
-        if (tab->getWindow())
-            SendMessageW(sheet, PSM_UNCHANGED, reinterpret_cast<WPARAM>(tab->getWindow()), 0);
+    return m_areas.hasPendingInput() ||
+           std::any_of(m_tabs.begin(), m_tabs.end(),
+                       [](const auto& tab) { return tab->hasPendingInput(); });
 }
 
 void UITabManager::dump() const
 {
     for (const auto& tab : m_tabs)
         tab->dump();
+    m_areas.dump();
 }

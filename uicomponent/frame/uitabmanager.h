@@ -7,10 +7,14 @@
 #include <memory>
 #include <vector>
 
+#include "listoffeaturesref.h"
+#include "uiapplybutton.h"
 #include "uidatalist.h"
 #include "uimessagehandler.h"
 #include "uimessagemask.h"
 #include "uimode.h"
+#include "uisheetapply.h"
+#include "uisheetareas.h"
 
 class CXString;
 class FeatureServices;
@@ -42,7 +46,7 @@ public:
     ~UITabManager() override;
 
     bool handleMessage(const _UIWindowsMessage& message) override;
-    /// Dumps every tab, in creation order.
+    /// Dumps every tab, in creation order, and then the areas under them.
     void dump() const override;
 
     /// Pages for PropertySheetW. @return how many; their handles are written to `pages`, and belong
@@ -63,9 +67,12 @@ public:
     /// Called when the data model has settled: what is on screen already is brought up to date.
     virtual void buildTabs(const Descriptions& descriptions);
 
-    /// From now on the sheet opens on the page that the person left it on: per printer and mode, in
-    /// the current user's hive. For before the first page. @param path  the key above the printers'
-    void rememberLastPage(const CXString& path);
+    /// Makes the areas that stand in the sheet's own window, under the pages. They get their
+    /// windows with the first page. To be called before pages are created, once.
+    void buildOffTabs(const Descriptions& descriptions);
+
+    /// See UIManager::setPersonalSettings. For before the first page has its window.
+    void rememberLastPage(const CXString& path, const CXString& printer);
 
     long getLargestWidth() const { return m_largestWidth; }   ///< dialog units
     long getLargestHeight() const { return m_largestHeight; } ///< dialog units
@@ -74,12 +81,20 @@ public:
 protected:
     /// Messages of the pages.
     virtual bool handlePageMessage(const _UIWindowsMessage& message);
-    /// Messages of the sheet window. Without off-tab areas the sheet is not subclassed and none
-    /// arrive.
+    /// Messages of the sheet window and of the areas in it, and each page's WM_INITDIALOG: with the
+    /// first one the areas are opened. Without areas the sheet is not subclassed and none arrive.
     virtual bool handleOffTabMessage(const _UIWindowsMessage& message);
 
     /// Offers a message to the tabs in creation order, up to the first that claims it.
     bool offerToTabs(const _UIWindowsMessage& message) const;
+    /// For a page's WM_INITDIALOG: measures the page's dialog units and opens the areas.
+    void prepareSheet(const _UIWindowsMessage& message);
+
+    /// The list of features that pages made from now on work on; the full one otherwise.
+    void workOn(const ListOfFeaturesRef& features) { m_features = features; }
+    /// Pages made from now on send no event when Cancel is queried.
+    void suppressCancelEvent() { m_tabFlag = true; }
+    const UIContext& getContext() const { return m_context; }
 
 private:
     struct Page;
@@ -89,16 +104,13 @@ private:
     bool initializePage(const _UIWindowsMessage& message);
     void postFirstPaint(const _UIWindowsMessage& message);
     bool applyPage(const _UIWindowsMessage& message);
-    void rejectApply();
-    void completeApply(const _UIWindowsMessage& message);
-    bool showApplyWarning(HWND page) const;
-    void updateApplyButton(HWND page);
+    bool hasPendingInput() const;
+    void areasOpened(HWND page);
 
     std::vector<HPROPSHEETPAGE> m_pages;
     HANDLE m_cpsuiSheet = nullptr;
     UIComPropSheetCallback m_cpsuiCallback = nullptr;
     std::vector<std::unique_ptr<UITab>> m_tabs;
-    std::unique_ptr<UISheetGuide> m_guide; ///< goes before the tabs
     HINSTANCE m_moduleInstance;
     UIMessageManager& m_messageManager;
     FeatureServices& m_featureServices;
@@ -109,9 +121,13 @@ private:
     UIMode m_mode;
     unsigned long m_option;
     HANDLE m_activationContext = nullptr; ///< the caller's, for what the pages create
+    ListOfFeaturesRef m_features;
     bool m_tabFlag = false;
     bool m_firstPaintPending = true;
-    bool m_modifiedShown = false;
+    UISheetAreas m_areas;
+    std::unique_ptr<UISheetGuide> m_guide; ///< goes before the tabs and the areas
+    UIApplyButton m_applyButton;
+    UISheetApply m_apply;
     long m_largestWidth = 0;
     long m_largestHeight = 0;
     UIMessageMask m_wanted;

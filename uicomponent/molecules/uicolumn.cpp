@@ -21,7 +21,9 @@ constexpr UIColumnFit kFits[] = {
 } // namespace
 
 UIColumn::UIColumn(const UIColumnData& data, const UIMoleculeSite& site)
-    : m_data(data), m_molecules(UIMoleculeFactory::createAll(data.getMolecules(), site))
+    : m_data(data),
+      m_width(data.getWidth()),
+      m_molecules(UIMoleculeFactory::createAll(data.getMolecules(), site))
 {
     for (const auto& molecule : m_molecules) {
         molecule->SetLabelWidth(data.getLabelWidth());
@@ -41,7 +43,7 @@ long UIColumn::labelWidthFor(const UITextRuler& ruler) const
     const long described = m_data.getLabelWidth();
     if (!described)
         return 0; // labels stand above their boxes
-    const long most = std::max<long>(described, m_data.getWidth() / 2);
+    const long most = std::max<long>(described, m_width / 2);
     return std::clamp(UIMoleculeStack::wantedLabelWidth(m_molecules, ruler), described, most);
 }
 
@@ -50,7 +52,7 @@ void UIColumn::fitTexts(const UITextRuler& ruler, UIColumnFit fit)
     fit.labelWidth = labelWidthFor(ruler);
     m_gaps = fit.gaps;
     const UITextRuler own = ruler.ForColumn(fit);
-    UIMoleculeStack::fitTexts(m_molecules, own, m_data.getWidth());
+    UIMoleculeStack::fitTexts(m_molecules, own, m_width);
     if (own.HasCut())
         ruler.NoteCut();
 }
@@ -71,5 +73,5 @@ void UIColumn::fitTexts(const UITextRuler& ruler, long room)
 
 void UIColumn::place(POINT corner) const
 {
-    UIMoleculeStack::place(m_molecules, corner, m_data.getWidth(), m_gaps);
+    UIMoleculeStack::place(m_molecules, corner, m_width, m_gaps);
 }

@@ -22,6 +22,8 @@ public:
 
     const std::vector<std::unique_ptr<UIMolecule>>& getMolecules() const { return m_molecules; }
     const UIColumnData& getData() const { return m_data; }
+    /// Makes the column wider than described, or narrower. Before anything is fitted or placed.
+    void widen(long dialogUnits) { m_width += dialogUnits; }
     /// Height of the content in dialog units.
     long getHeight() const;
     /// Lets the molecules take the heights that their texts need in the page's font. When that is
@@ -39,6 +41,7 @@ private:
     long labelWidthFor(const UITextRuler& ruler) const;
 
     const UIColumnData& m_data;
+    long m_width; ///< dialog units
     std::vector<std::unique_ptr<UIMolecule>> m_molecules;
     UIMoleculeGaps m_gaps;
 };

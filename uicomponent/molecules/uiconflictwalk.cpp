@@ -10,14 +10,6 @@
 
 namespace {
 
-/// The child of the page that is the window or holds it; null when it is not on the page.
-HWND childOfPage(HWND page, HWND window)
-{
-    while (window && GetAncestor(window, GA_PARENT) != page)
-        window = GetAncestor(window, GA_PARENT);
-    return window;
-}
-
 bool showsOneOf(const UIMolecule& molecule, const std::vector<FeatureIdWithContext>& features)
 {
     SetOfSettingIds settings;
@@ -58,23 +50,15 @@ std::optional<UIConflictWalk::Place> UIConflictWalk::next(const Place& from, boo
     return notBefore == m_stops.begin() ? m_stops.back() : *std::prev(notBefore);
 }
 
-// Controls are created in the order of the molecules, so the focus belongs to the last molecule
-// whose anchor does not stand behind it.
 UIConflictWalk::Place UIConflictWalk::placeOfFocus(std::size_t container) const
 {
-    Place place{static_cast<std::ptrdiff_t>(container), -1};
-    const UIMoleculeContainer& page = *m_containers[container];
-    const auto& molecules = page.getMolecules();
-    HWND window = childOfPage(page.getWindow(), GetFocus());
-    for (; window && place.molecule < 0; window = GetWindow(window, GW_HWNDPREV)) {
-        const auto found =
-            std::find_if(molecules.begin(), molecules.end(), [=](const UIMolecule* molecule) {
-                return molecule->InfoAnchor() == window;
-            });
-        if (found != molecules.end())
-            place.molecule = found - molecules.begin();
-    }
-    return place;
+    const auto& molecules = m_containers[container]->getMolecules();
+    const HWND focus = GetFocus();
+    const auto found =
+        std::find_if(molecules.begin(), molecules.end(),
+                     [=](const UIMolecule* molecule) { return molecule->OwnsControl(focus); });
+    const auto molecule = found == molecules.end() ? -1 : found - molecules.begin();
+    return {static_cast<std::ptrdiff_t>(container), molecule};
 }
 
 UIMolecule& UIConflictWalk::moleculeAt(const Place& place) const

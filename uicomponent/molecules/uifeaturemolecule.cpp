@@ -110,7 +110,8 @@ void UIFeatureMolecule::LoadState()
     const bool enabled = !m_state.IsDisabled();
     const bool shown = !m_state.IsHidden() && IsShownOnPage() && !IsHiddenBySetting();
     // Windows takes the focus from a window that it disables, and then nobody has it.
-    const bool losesFocus = m_enabled && m_shown && !(enabled && shown) && GetPage() && OwnsControl(GetFocus());
+    const bool losesFocus =
+        m_enabled && m_shown && !(enabled && shown) && GetPage() && OwnsControl(GetFocus());
     m_enabled = enabled;
     ShowState(m_state, m_enabled);
     UpdateInfoButton(GetBoundFeature(), m_state);

@@ -15,6 +15,14 @@ long UILayoutManager::getRoom() const
     return m_container.getData().getHeight() - 2 * kMargin - m_extraHeight;
 }
 
+void UILayoutManager::fillArea(long width)
+{
+    m_margin = 0;
+    m_widening = width - (m_container.getData().getWidth() - 2 * kMargin);
+    if (!m_container.getColumns().empty())
+        m_container.getColumns().front()->widen(m_widening);
+}
+
 CXString UILayoutManager::findMisfit() const
 {
     const UIContainerData& page = m_container.getData();
@@ -38,8 +46,11 @@ CXString UILayoutManager::findMisfit() const
 
 void UILayoutManager::layOut() const
 {
-    for (const auto& column : m_container.getColumns())
-        column->place({column->getData().getX(), kMargin});
+    long shift = m_margin - kMargin;
+    for (const auto& column : m_container.getColumns()) {
+        column->place({column->getData().getX() + shift, m_margin});
+        shift = m_margin - kMargin + m_widening;
+    }
 }
 
 bool UILayoutManager::fitTexts(const UITextRuler& ruler) const

@@ -22,6 +22,10 @@ public:
     /// @param extraHeight  room at the lower edge that is not the content's (a row of buttons).
     explicit UILayoutManager(const UIContainer& container, long extraHeight = 0);
 
+    /// Lets the content fill an area of this width without margins: the first column takes up the
+    /// difference to the described width. Before anything is placed.
+    void fillArea(long width);
+
     /// What does not fit the page, named by its molecule; empty when everything fits.
     CXString findMisfit() const;
     /// Gives every molecule its place and width.
@@ -36,4 +40,6 @@ private:
 
     const UIContainer& m_container;
     long m_extraHeight;
+    long m_margin = kMargin;
+    long m_widening = 0; ///< of the first column
 };

@@ -137,8 +137,7 @@ bool UIMolecule::ColourControl(const _UIWindowsMessage& message) const
 {
     const auto control = reinterpret_cast<HWND>(message.lParam);
     if (message.kind != UIMessageKind::TabPage || !m_look || !m_look->isThemed() ||
-        !OwnsControl(control) ||
-        (SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL))
+        !OwnsControl(control) || (SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL))
         return false;
     const auto dc = reinterpret_cast<HDC>(message.wParam);
     SetTextColor(dc, GetSysColor(COLOR_WINDOWTEXT));
@@ -192,9 +191,8 @@ void UIMolecule::UpdateInfoButton(const FeatureIdWithContext& feature,
     if (!m_infoButton)
         CreateInfoButton();
     if (m_infoButton)
-        m_infoButton->setMessage(
-            static_cast<std::uint32_t>(m_infoStyle), m_infoText,
-            m_site.strings.GetStringForFeature(feature.GetFeatureEnum()));
+        m_infoButton->setMessage(static_cast<std::uint32_t>(m_infoStyle), m_infoText,
+                                 GetInfoTitle(feature));
 }
 
 void UIMolecule::CreateInfoButton()
@@ -340,6 +338,11 @@ void UIMolecule::Show(bool shown)
     ShowInfoButton(shown);
 }
 
+CXString UIMolecule::GetInfoTitle(const FeatureIdWithContext& feature) const
+{
+    return m_site.strings.GetStringForFeature(feature.GetFeatureEnum());
+}
+
 HWND UIMolecule::InfoAnchor() const
 {
     return nullptr;
@@ -354,8 +357,7 @@ bool UIMolecule::Focus()
 {
     HWND target = InfoAnchor();
     // Not IsWindowVisible: the page itself may be about to be shown.
-    if (!target || !IsWindowEnabled(target) ||
-        !(GetWindowLongPtrW(target, GWL_STYLE) & WS_VISIBLE))
+    if (!target || !IsWindowEnabled(target) || !(GetWindowLongPtrW(target, GWL_STYLE) & WS_VISIBLE))
         target = m_infoButton ? m_infoButton->getHwnd() : nullptr;
     if (!m_page || !target)
         return false;

@@ -127,6 +127,9 @@ public:
     /// The room that the label wants beside its box; 0 without a label.
     virtual long GetWantedLabelWidth(const UITextRuler& ruler) const;
 
+    /// What the messages of the info button are about; the name of the setting.
+    virtual CXString GetInfoTitle(const FeatureIdWithContext& feature) const;
+
     /// The child-window ids that CreateControls took: from the first up to, not including, the end.
     void SetControlIds(int first, int end);
     /// Whether a window is one of the molecule's own controls, or stands inside one.

@@ -1,5 +1,7 @@
 #include "uimoleculecontainer.h"
 
+#include <algorithm>
+
 #include "iuicontainercompanion.h"
 #include "textmeasure.h"
 #include "trace.h"
@@ -140,6 +142,12 @@ void UIMoleculeContainer::leavePageAll()
 {
     for (UIMolecule* molecule : m_molecules)
         molecule->LeavePage();
+}
+
+bool UIMoleculeContainer::hasPendingInput() const
+{
+    return std::any_of(m_molecules.begin(), m_molecules.end(),
+                       [](const UIMolecule* molecule) { return molecule->HasPendingInput(); });
 }
 
 bool UIMoleculeContainer::validateAll()

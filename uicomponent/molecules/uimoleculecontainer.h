@@ -46,6 +46,8 @@ public:
     /// The molecules' per-page hook: the page is being left.
     virtual void leavePageAll();
 
+    /// Whether something typed has not been taken into the model yet.
+    bool hasPendingInput() const;
     /// Asks the molecules in order, up to the first refusal.
     bool validateAll();
     /// Offers a message to the molecules in order, up to the first that claims it.
@@ -70,7 +72,7 @@ protected:
     void releaseMolecules();
 
     /// Places what buildFrom has built.
-    const UILayoutManager& getLayout() const { return *m_layout; }
+    UILayoutManager& getLayout() const { return *m_layout; }
     UIPageWindow& getPage() { return m_page; }
     UIServices& getServices() const { return m_site.services; }
     FeatureServices& getFeatureServices() const { return m_site.featureServices; }

@@ -2,6 +2,7 @@
 
 #include "cxstring.h"
 #include "trace.h"
+#include "uibuttonmolecule.h"
 #include "uicheckboxmolecule.h"
 #include "uicomboboxmolecule.h"
 #include "uicontainermolecule.h"
@@ -15,6 +16,7 @@
 #include "uirangeofintegermolecule.h"
 #include "uislidermolecule.h"
 #include "uispinmolecule.h"
+#include "uistatusmolecule.h"
 #include "uitextmolecule.h"
 
 namespace {
@@ -45,6 +47,8 @@ constexpr struct
     { UIMoleculeKind::RangeOfInteger, make<UIRangeOfIntegerMolecule> },
     { UIMoleculeKind::Text,           make<UITextMolecule> },
     { UIMoleculeKind::DimensionSpin,  make<UIDimensionSpinMolecule> },
+    { UIMoleculeKind::Status,         make<UIStatusMolecule> },
+    { UIMoleculeKind::Button,         make<UIButtonMolecule> },
 };
 // clang-format on
 

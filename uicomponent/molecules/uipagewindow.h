@@ -8,10 +8,10 @@ class UIPageLook;
 struct UIPageWindow
 {
     HWND window = nullptr;
-    HFONT font = nullptr;     ///< the dialog font; owned by the dialog
-    HFONT boldFont = nullptr; ///< owned by the container
+    HFONT font = nullptr;       ///< the dialog font; owned by the dialog
+    HFONT boldFont = nullptr;   ///< owned by the container
     UIPageLook* look = nullptr; ///< owned by the container; null only where there is no page
-    int nextId = kFirstId;    ///< child-window id of the next control
+    int nextId = kFirstId;      ///< child-window id of the next control
 
     int takeId() { return nextId++; }
 

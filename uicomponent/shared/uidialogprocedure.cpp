@@ -76,12 +76,24 @@ INT_PTR routeDialog(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     return 1;
 }
 
+/// For a sheet that has outlived us while somebody else stood before our procedure.
+LRESULT passOnToKept(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const auto kept =
+        reinterpret_cast<WNDPROC>(GetPropW(window, UIDialogProcedure::kKeptProcedureProperty));
+    if (!kept)
+        return 0;
+    if (message == WM_NCDESTROY)
+        RemovePropW(window, UIDialogProcedure::kKeptProcedureProperty);
+    return CallWindowProcW(kept, window, message, wParam, lParam);
+}
+
 LRESULT routeOffTab(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     const auto* manager =
         static_cast<const UIMessageManager*>(GetPropW(window, UIDialogProcedure::kManagerProperty));
     if (!manager)
-        return 0;
+        return passOnToKept(window, message, wParam, lParam);
     const auto packed = pack(UIMessageKind::OffTab, window, message, wParam, lParam);
     return manager->handleMessage(packed) ? packed.result : 0;
 }

@@ -30,10 +30,14 @@ public:
     /// Popup dialogs.
     static INT_PTR CALLBACK dialogProcedure(HWND window, UINT message, WPARAM wParam,
                                             LPARAM lParam) noexcept;
-    /// The property-sheet window itself, while it is subclassed for off-tab areas.
+    /// The property-sheet window itself, while it is subclassed for off-tab areas, and the windows
+    /// of these areas.
     static LRESULT CALLBACK offTabDialogProcedure(HWND window, UINT message, WPARAM wParam,
                                                   LPARAM lParam) noexcept;
 
     /// Name of the window property that holds the message manager of a subclassed sheet.
     static constexpr wchar_t kManagerProperty[] = L"O7UIMessageManager";
+    /// Name of the window property that holds a sheet's own procedure after we have gone, when ours
+    /// could not be taken out of the chain.
+    static constexpr wchar_t kKeptProcedureProperty[] = L"O7UIKeptProcedure";
 };

@@ -21,6 +21,7 @@ constexpr Layout kExtended{4, 6, 11, 12};
 constexpr Layout kPlain{2, 0, 7, 8};
 
 constexpr DWORD kPageStyles = WS_CHILD | WS_DISABLED | DS_CONTROL;
+constexpr DWORD kAreaStyles = WS_CHILD | DS_CONTROL;
 constexpr DWORD kPopupStyles = WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME;
 
 DWORD readLong(const WORD* at)
@@ -90,6 +91,18 @@ void UIDialogTemplate::addExtendedStyle(DWORD style)
 {
     WORD* const at = words() + (isExtended() ? kExtended : kPlain).exStyle;
     writeLong(at, readLong(at) | style);
+}
+
+void UIDialogTemplate::makeArea()
+{
+    if (!m_memory)
+        return;
+    const Layout& layout = isExtended() ? kExtended : kPlain;
+    WORD* const style = words() + layout.style;
+    // A sheet takes the caption off its pages and enables them; here nobody does.
+    writeLong(style, (readLong(style) & ~(kPageStyles | WS_CAPTION)) | kAreaStyles);
+    WORD* const exStyle = words() + layout.exStyle;
+    writeLong(exStyle, readLong(exStyle) | WS_EX_CONTROLPARENT);
 }
 
 const DLGTEMPLATE* UIDialogTemplate::get() const

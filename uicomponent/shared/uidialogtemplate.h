@@ -21,6 +21,9 @@ public:
     /// @param owned  false for a dialog that stands alone and so belongs into the task bar.
     void makePopup(bool owned);
 
+    /// Makes a plain child window that is no page: for an area of the sheet's own window.
+    void makeArea();
+
     /// Borrowed; null when the resource could not be copied.
     const DLGTEMPLATE* get() const;
 

@@ -1,5 +1,7 @@
 #include "uimessagemanager.h"
 
+#include <algorithm>
+
 int UIMessageManager::handleMessage(const _UIWindowsMessage& message) const
 {
     const auto index = static_cast<std::size_t>(message.kind);
@@ -37,9 +39,13 @@ const UIMessageManager::HandlerList& UIMessageManager::handlers(UIMessageKind ki
 
 void UIMessageManager::dump() const
 {
+    HandlerList dumped; // one that stands in two lists is written once
     for (const HandlerList& list : m_handlers) {
-        for (const UIMessageHandler* handler : list) {
-            handler->dump();
+        for (UIMessageHandler* handler : list) {
+            if (std::find(dumped.begin(), dumped.end(), handler) == dumped.end()) {
+                dumped.push_back(handler);
+                handler->dump();
+            }
         }
     }
 }

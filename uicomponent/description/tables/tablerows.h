@@ -2,6 +2,7 @@
 #pragma once
 
 #include "productids.h"
+#include "uibuttonaction.h"
 #include "uirecords.h"
 #include "uistringnumbers.h"
 
@@ -150,11 +151,11 @@ constexpr UIMoleculeRecord edit()
 template <tagFeatureEnum Feature, std::uint32_t Label, std::uint32_t Limit>
 constexpr UIMoleculeRecord pin()
 {
-    return {
-        .kind = UIMoleculeKind::Edit,
-        .controls = rows::kBoxControls<UIControlKind::Edit, Feature, Label, &rows::kPinEdit<Limit>>,
-        .featureState = 1,
-        .labelWidth = kNarrowBoxLabel};
+    return {.kind = UIMoleculeKind::Edit,
+            .controls =
+                rows::kBoxControls<UIControlKind::Edit, Feature, Label, &rows::kPinEdit<Limit>>,
+            .featureState = 1,
+            .labelWidth = kNarrowBoxLabel};
 }
 
 /// A field for a whole number, without arrows.
@@ -299,11 +300,34 @@ constexpr UIContainerRecord quick(std::int32_t height, UIRecords<UIColumnRecord>
     return dialog(DialogId::QuickSettings, O7STR_DIALOG_QUICK, height, columns, kOkCancel);
 }
 
+// The area under the pages of every sheet, without the margins of a page: how the settings stand,
+// and the defaults of the page that is shown.
+inline constexpr std::int32_t kDefaultsWidth = 90;
+inline constexpr UIMoleculeRecord kStatusRows[] = {{.kind = UIMoleculeKind::Status}};
+inline constexpr UIButtonRecord kDefaultsButton{.action = kActionPageDefaults};
+inline constexpr UIControlRecord kDefaultsControls[] = {
+    {.kind = UIControlKind::Button, .label = O7STR_L_PAGE_DEFAULTS, .extra = &kDefaultsButton}};
+inline constexpr UIMoleculeRecord kDefaultsRows[] = {
+    {.kind = UIMoleculeKind::Button, .controls = kDefaultsControls}};
+inline constexpr UIColumnRecord kStatusColumns[] = {
+    {.x = kMargin, .width = kWideColumnWidth - kDefaultsWidth - 4, .molecules = kStatusRows},
+    {.x = kMargin + kWideColumnWidth - kDefaultsWidth,
+     .width = kDefaultsWidth,
+     .molecules = kDefaultsRows}};
+inline constexpr UIContainerRecord kStatusArea[] = {
+    {.id = 1, .width = kPageWidth, .height = 14 + 2 * kMargin, .columns = kStatusColumns}};
+
 // The four interfaces of a family. Every one can open the family's dialogs.
 constexpr UIRootRecord root(tagValueEnum family, UIMode mode, std::uint32_t caption,
                             UIRecords<UIContainerRecord> tabs, UIRecords<UIContainerRecord> dialogs)
 {
-    return {.family = family, .mode = mode, .caption = caption, .tabs = tabs, .dialogs = dialogs};
+    return {.family = family,
+            .mode = mode,
+            .caption = caption,
+            .tabs = tabs,
+            .dialogs = dialogs,
+            .offTabs = tabs.size() ? UIRecords<UIContainerRecord>(kStatusArea)
+                                   : UIRecords<UIContainerRecord>()};
 }
 
 constexpr UIRootRecord preferences(tagValueEnum family, UIRecords<UIContainerRecord> tabs,

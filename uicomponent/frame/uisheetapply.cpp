@@ -1,0 +1,101 @@
+#include "uisheetapply.h"
+
+#include <prsht.h>
+
+#include "booleanfeatureref.h"
+#include "featureservices.h"
+#include "optionfeatureref.h"
+#include "productstringloader.h"
+#include "uiapplybutton.h"
+#include "uidatavalidator.h"
+#include "uieventprocessor.h"
+#include "uiservices.h"
+#include "uisheetareas.h"
+#include "uisheetguide.h"
+#include "uistringnumbers.h"
+#include "uiwindowsmessage.h"
+
+namespace {
+
+// String resources of the warning that keeps the sheet open.
+constexpr unsigned kWarningCaption = 35000;
+constexpr unsigned kWarningText = 35001;
+constexpr unsigned kWarningAdvice = 35002;
+
+} // namespace
+
+UISheetApply::UISheetApply(FeatureServices& featureServices, const ProductStringLoader& strings,
+                           const UIServices& services, UIEventProcessor& eventProcessor,
+                           UIMode& mode, const UISheetAreas& areas, UISheetGuide& guide,
+                           UIApplyButton& button)
+    : m_featureServices(featureServices),
+      m_strings(strings),
+      m_services(services),
+      m_eventProcessor(eventProcessor),
+      m_mode(mode),
+      m_areas(areas),
+      m_guide(guide),
+      m_button(button)
+{
+}
+
+void UISheetApply::pageAnswered(const _UIWindowsMessage& message) const
+{
+    const LONG_PTR result = GetWindowLongPtrW(message.window, DWLP_MSGRESULT);
+    if (result == PSNRET_INVALID || !isAcceptable(message))
+        reject();
+    else if (result == PSNRET_NOERROR && m_eventProcessor.incrementNotificationCount())
+        complete(message);
+}
+
+/// What no page can tell alone. The fault may lie on another page than the one that was asked, so
+/// the sheet is told to stay where it is.
+bool UISheetApply::isAcceptable(const _UIWindowsMessage& message) const
+{
+    UIDataValidator validator(m_featureServices, m_eventProcessor);
+    const bool isComplete = validator.validate(*reinterpret_cast<const NMHDR*>(message.lParam));
+    if (isComplete && m_areas.validate())
+        return true;
+    SetWindowLongPtrW(message.window, DWLP_MSGRESULT, PSNRET_INVALID_NOCHANGEPAGE);
+    if (isComplete)
+        return false; // the area has said it
+    const FeatureIdWithContext& missing = validator.getMissing();
+    m_guide.goTo(missing);
+    const CXString name = m_strings.GetStringForFeature(missing.GetFeatureEnum());
+    const CXString text =
+        CXString::Formatted(m_strings.LoadStringW(O7STR_M_VALUE_MISSING).c_str(), name.c_str());
+    m_services.showMessage(message.window, text, name, MB_ICONWARNING);
+    return false;
+}
+
+void UISheetApply::reject() const
+{
+    m_eventProcessor.resetNotificationCount();
+    m_featureServices.GetFullListOfFeatures()
+        .GetBooleanFeature(FeatureId(DataModelIds::kFeatureApplyIsValid))
+        .SetValue(false);
+}
+
+void UISheetApply::complete(const _UIWindowsMessage& message) const
+{
+    const bool closing = reinterpret_cast<const PSHNOTIFY*>(message.lParam)->lParam != 0;
+    m_eventProcessor.notifyDataModel(closing ? DataModelIds::kEventOk : DataModelIds::kEventApply,
+                                     &m_mode);
+    m_button.applied();
+    if (warn(message.window))
+        SetWindowLongPtrW(message.window, DWLP_MSGRESULT, PSNRET_INVALID);
+}
+
+bool UISheetApply::warn(HWND page) const
+{
+    ValueId value;
+    const auto feature = m_featureServices.GetFullListOfFeatures().GetOptionFeature(
+        FeatureId(DataModelIds::kFeatureApplyResult));
+    if (!feature.GetValue(value, FeatureRef::kDoNotAssertIfUnsupported) ||
+        value.GetValueEnum() != DataModelIds::kValueApplyRejected)
+        return false;
+    const CXString text =
+        m_strings.LoadStringW(kWarningText) + L"\n\n" + m_strings.LoadStringW(kWarningAdvice);
+    m_services.showMessage(page, text, m_strings.LoadStringW(kWarningCaption), MB_ICONWARNING);
+    return true;
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <windows.h>
+
+#include "uimode.h"
+
+class FeatureServices;
+class ProductStringLoader;
+class UIApplyButton;
+class UIEventProcessor;
+class UIServices;
+class UISheetAreas;
+class UISheetGuide;
+struct _UIWindowsMessage;
+
+/// OK and Apply of a whole sheet. Windows tells each page that was visited; this counts them and
+/// turns the last one into one event for the data model: 21002 for OK, 21004 for Apply. A page that
+/// refuses, and a required setting without a value, start the count anew and keep the sheet open.
+class UISheetApply
+{
+public:
+    /// Everything is borrowed and must outlive the object. @param mode  goes with the event.
+    UISheetApply(FeatureServices& featureServices, const ProductStringLoader& strings,
+                 const UIServices& services, UIEventProcessor& eventProcessor, UIMode& mode,
+                 const UISheetAreas& areas, UISheetGuide& guide, UIApplyButton& button);
+
+    /// A page has answered PSN_APPLY, and its answer stands in its message result. May change that
+    /// to keep the sheet open.
+    void pageAnswered(const _UIWindowsMessage& message) const;
+
+private:
+    bool isAcceptable(const _UIWindowsMessage& message) const;
+    void reject() const;
+    void complete(const _UIWindowsMessage& message) const;
+    bool warn(HWND page) const;
+
+    FeatureServices& m_featureServices;
+    const ProductStringLoader& m_strings;
+    const UIServices& m_services;
+    UIEventProcessor& m_eventProcessor;
+    UIMode& m_mode;
+    const UISheetAreas& m_areas;
+    UISheetGuide& m_guide;
+    UIApplyButton& m_button;
+};
