@@ -12,8 +12,8 @@
 #include "resourceguard.h"
 #include "tables/productids.h"
 #include "uidata.h"
-#include "uihandles.h"
 #include "uifixture.h"
+#include "uihandles.h"
 #include "uimolecule.h"
 #include "uistringnumbers.h"
 
@@ -85,8 +85,8 @@ HWND WINAPI createAllButOne(DWORD exStyle, const wchar_t* className, const wchar
     // By its address: the program's own way to it is the patched one.
     static const auto create = reinterpret_cast<decltype(&CreateWindowExW)>(reinterpret_cast<void*>(
         GetProcAddress(GetModuleHandleW(L"user32.dll"), "CreateWindowExW")));
-    return create(exStyle, className, text, style, x, y, width, height, parent, menu,
-                           instance, parameter);
+    return create(exStyle, className, text, style, x, y, width, height, parent, menu, instance,
+                  parameter);
 }
 
 /// In place of a message box.
@@ -114,10 +114,8 @@ protected:
     }
     void setBooklet(bool on)
     {
-        ASSERT_TRUE(model()
-                        .GetFullListOfFeatures()
-                        .GetBooleanFeature(FeatureId(kBooklet))
-                        .SetValue(on));
+        ASSERT_TRUE(
+            model().GetFullListOfFeatures().GetBooleanFeature(FeatureId(kBooklet)).SetValue(on));
     }
 };
 
@@ -213,11 +211,14 @@ TEST_F(MoleculeFrameworkTest, ColoursPalettesAndThemesAreAnsweredForOwnControls)
     const o7::WindowDc dc(own);
     LRESULT result = 0;
     const auto send = [&](UIMessageKind kind, UINT message, HWND window) {
-        const _UIWindowsMessage packed{kind, dialog.window(), message,
+        const _UIWindowsMessage packed{kind,
+                                       dialog.window(),
+                                       message,
                                        message == WM_PALETTECHANGED
                                            ? reinterpret_cast<WPARAM>(window)
                                            : reinterpret_cast<WPARAM>(dc.get()),
-                                       reinterpret_cast<LPARAM>(window), 0};
+                                       reinterpret_cast<LPARAM>(window),
+                                       0};
         const bool claimed = sides.ProcessCommonMessage(packed);
         result = packed.result;
         return claimed;
@@ -315,9 +316,10 @@ TEST_F(MoleculeFrameworkTest, ALanguageReadFromTheRightIsLaidOutThatWay)
     const auto arabic = o7::ProductSession::open(productsFolder() / kProduct, L"ar", errors);
     ASSERT_TRUE(arabic);
     const ImportPatch patch("MessageBoxW", reinterpret_cast<void*>(&rememberMessage));
-    const MoleculeDialog dialog(arabic->productData(), arabic->featureServices(),
-                                arabic->strings(), kDialog<kThree>);
-    for (const HWND window : {dialog.window(), dialog.child(0), dialog.molecules()[1]->InfoAnchor()})
+    const MoleculeDialog dialog(arabic->productData(), arabic->featureServices(), arabic->strings(),
+                                kDialog<kThree>);
+    for (const HWND window :
+         {dialog.window(), dialog.child(0), dialog.molecules()[1]->InfoAnchor()})
         EXPECT_TRUE(GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL);
     sendClick(dialog.child(0));
     dialog.molecules()[1]->Focus(); // its mark, by now
