@@ -197,6 +197,7 @@ TEST_F(MoleculeFrameworkTest, AMarkTellsItsReasonAndMayGoWhileItDoes)
         EXPECT_NE(s_message.find(L"Booklet"), std::wstring::npos) << CXString(s_message).ToUtf8();
         EXPECT_FALSE(IsWindow(mark));
         EXPECT_TRUE(IsWindowEnabled(sides));
+        EXPECT_EQ(GetFocus(), sides);
         EXPECT_FALSE(s_flags & MB_RTLREADING);
     }
     s_whileOpen = nullptr;
