@@ -58,5 +58,13 @@ void UIEditControl::selectAll()
 LRESULT UIEditControl::subclassWindowProcedure(HWND window, UINT message, WPARAM wParam,
                                                LPARAM lParam)
 {
-    return callSavedProcedure(window, message, wParam, lParam);
+    if (message != WM_PASTE) {
+        return callSavedProcedure(window, message, wParam, lParam);
+    }
+    // Cut off at the limit, a pasted text would be another one without a word about it.
+    const LRESULT limit = ::SendMessageW(window, EM_GETLIMITTEXT, 0, 0);
+    ::SendMessageW(window, EM_LIMITTEXT, 0, 0);
+    const LRESULT result = callSavedProcedure(window, message, wParam, lParam);
+    ::SendMessageW(window, EM_LIMITTEXT, static_cast<WPARAM>(limit), 0);
+    return result;
 }

@@ -12,7 +12,8 @@ class O7UI_API UIEditControl : public UIControl, private o7::SubclassedWindow<UI
 public:
     /// @param style      added to WS_VISIBLE (ES_... bits; WS_CHILD too, unless bordered)
     /// @param bordered   a child with a border that Tab stops at and that scrolls
-    /// @param textLimit  characters that can be typed (EM_LIMITTEXT); 0 is the system's own limit
+    /// @param textLimit  characters that can be typed (EM_LIMITTEXT); 0 is the system's own limit.
+    ///                   What is pasted comes whole, for the owner to judge.
     UIEditControl(HWND parent, int id, UIServices& services, HFONT font, POINT location, SIZE size,
                   DWORD style, bool bordered, int textLimit);
     ~UIEditControl() override;
