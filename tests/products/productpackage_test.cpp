@@ -185,6 +185,25 @@ TEST_P(Products, OpenWithoutAConflict)
     }
 }
 
+/// Lists, which wait for dialogs of their own, and what the device only tells.
+const std::set<int> kWithoutPlace{3105, 3165, 3214, 3220, 3260, 3266, 3307, 3330, 3331};
+
+TEST_P(Products, ShowEverySetting)
+{
+    Product product(GetParam().name);
+    ASSERT_TRUE(product.loaded());
+    std::set<int> placed;
+    for (const int mode : {1, 2, 3, 4}) {
+        const UIData data(static_cast<UIMode>(mode),
+                          static_cast<DataModelIds::tagValueEnum>(GetParam().family),
+                          Workflow::Standard);
+        o7::PageCheck(data).forEachFeature(
+            [&](DataModelIds::tagFeatureEnum feature, unsigned) { placed.insert(feature); });
+    }
+    for (const int feature : product.features())
+        EXPECT_NE(placed.contains(feature), kWithoutPlace.contains(feature)) << feature;
+}
+
 std::string nameOf(const testing::TestParamInfo<o7::ProductUnderTest>& product)
 {
     return "family" + std::to_string(product.param.family);

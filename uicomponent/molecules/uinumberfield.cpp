@@ -7,6 +7,7 @@
 
 #include "uidump.h"
 #include "uieditcontrol.h"
+#include "uiservices.h"
 #include "uispincontrol.h"
 #include "uistringnumbers.h"
 #include "uitextcontrol.h"
@@ -56,7 +57,7 @@ void UINumberField::SetRules(const UINumberRules& rules)
     if (!GetEdit())
         return;
     if (m_unit)
-        m_unit->setText(m_rules.unitText);
+        m_unit->setLabelText(m_rules.unitText);
     DropPending();
     PlaceArrows();
 }
@@ -72,22 +73,23 @@ void UINumberField::Create(UIPageWindow& page, const Surroundings& surroundings,
 {
     const long boxWidth = std::min(width, GetWantedWidth(hasArrows));
     const long editWidth = hasArrows ? boxWidth - kArrowsWidth : boxWidth;
-    CreateBox(page, surroundings, {location, {editWidth, kHeight}, 0, kTextLimit});
     UIServices& services = surroundings.site.services;
+    const DWORD alignment = services.isRightToLeft() ? ES_RIGHT : ES_LEFT;
+    CreateBox(page, surroundings, {location, {editWidth, kHeight}, alignment, kTextLimit});
+    GetEdit()->keepUnmirrored();
     if (hasArrows) {
-        m_arrows = std::make_unique<UISpinControl>(
-            page.window, page.takeId(), services, page.font,
-            POINT{location.x + editWidth, location.y}, SIZE{kArrowsWidth, kHeight}, 0, true, 0, 0);
-        m_arrows->setBuddy(GetHwnd());
+        m_arrows = std::make_unique<UISpinControl>(page.window, page.takeId(), services, page.font,
+                                                   POINT{location.x + editWidth, location.y},
+                                                   SIZE{kArrowsWidth, kHeight}, 0, true, 0, 0);
     }
     const long unitX = boxWidth + kUnitGap;
     if (m_rules.unitText.IsEmpty() || unitX >= width)
         return;
-    m_unit = std::make_unique<UITextControl>(
-        page.window, page.takeId(), services, page.font,
-        POINT{location.x + unitX, location.y + kUnitDrop}, SIZE{width - unitX, kTextHeight},
-        SS_NOTIFY | SS_NOPREFIX, true, page.boldFont);
-    m_unit->setText(m_rules.unitText);
+    m_unit = std::make_unique<UITextControl>(page.window, page.takeId(), services, page.font,
+                                             POINT{location.x + unitX, location.y + kUnitDrop},
+                                             SIZE{width - unitX, kTextHeight},
+                                             SS_NOTIFY | SS_NOPREFIX, true, page.boldFont);
+    m_unit->setLabelText(m_rules.unitText);
 }
 
 void UINumberField::Move(POINT delta)
@@ -138,6 +140,9 @@ void UINumberField::PlaceArrows()
                                       m_rules.position(m_rules.ranges.back().high));
     m_arrows->setRange(ends.first, ends.second);
     m_arrows->setPosition(m_rules.position(m_value.value_or(0)));
+    // The arrows stand before the box's procedure from now on, which makes each of its messages
+    // dearer; so they are not introduced before the box is made.
+    m_arrows->setBuddy(GetHwnd());
 }
 
 CXString UINumberField::PresentText() const
@@ -188,6 +193,7 @@ UITypedField::Verdict UINumberField::Take(const CXString& text)
         return {.taken = true};
     const auto reading = Read(text);
     if (reading.fault != UINumberRules::Fault::None) {
+        GiveBack();
         const bool outOfRange = reading.fault == UINumberRules::Fault::OutOfRange;
         return {.fault = FaultSentence(reading.fault, text),
                 .correction = outOfRange ? m_rules.text(reading.value) : CXString()};
@@ -203,6 +209,17 @@ UITypedField::Verdict UINumberField::Take(const CXString& text)
     return {.taken = true};
 }
 
+// On the way to a text that is no value, its beginning may have been one.
+void UINumberField::GiveBack()
+{
+    if (!m_origin || m_value == m_origin)
+        return;
+    const auto before = std::exchange(m_value, m_origin);
+    if (!m_write(*m_origin))
+        m_value = before;
+    PlaceArrows();
+}
+
 CXString UINumberField::FaultSentence(UINumberRules::Fault fault, const CXString& text) const
 {
     const auto* row =
@@ -210,8 +227,8 @@ CXString UINumberField::FaultSentence(UINumberRules::Fault fault, const CXString
                      [fault](const Sentence& sentence) { return sentence.fault == fault; });
     CXString sentence = CXString::Formatted(String(row->number).c_str(), quoted(text).c_str());
     if (!m_rules.ranges.empty())
-        sentence += L"\n" + CXString::Formatted(String(O7STR_M_ALLOWED).c_str(),
-                                                RangeText().c_str());
+        sentence +=
+            L"\n" + CXString::Formatted(String(O7STR_M_ALLOWED).c_str(), RangeText().c_str());
     return sentence;
 }
 
@@ -221,8 +238,8 @@ CXString UINumberField::RangeText() const
     for (const auto& range : m_rules.ranges) {
         if (!text.IsEmpty())
             text += L", ";
-        const CXString low = m_rules.isLength ? m_rules.textWithUnit(range.low)
-                                              : m_rules.text(range.low);
+        const CXString low =
+            m_rules.isLength ? m_rules.textWithUnit(range.low) : m_rules.text(range.low);
         text += CXString::Formatted(String(O7STR_M_RANGE_PART).c_str(), low.c_str(),
                                     m_rules.textWithUnit(range.high).c_str());
     }

@@ -53,6 +53,9 @@ protected:
     Verdict Take(const CXString& text) override;
     CXString PresentText() const override;
     CXString PresentTextInSentence() const override;
+    void KeepAsOrigin() override { m_origin = m_value; }
+    /// Brings the value that stood here before the person typed back into the model.
+    void GiveBack();
     /// The allowed value that the text stands for, if it does.
     std::optional<std::int64_t> ValueOf(const CXString& text) const;
 
@@ -69,6 +72,6 @@ private:
     std::unique_ptr<UISpinControl> m_arrows;
     std::unique_ptr<UITextControl> m_unit;
     std::optional<std::int64_t> m_value;
-    std::optional<std::int64_t> m_origin; ///< what the box showed before the person typed
+    std::optional<std::int64_t> m_origin; ///< what the person has settled on before
     mutable std::optional<UIUnitNames> m_names;
 };

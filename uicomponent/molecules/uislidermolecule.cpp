@@ -42,7 +42,7 @@ UISliderMolecule::~UISliderMolecule() = default;
 void UISliderMolecule::InitializeFromDescription()
 {
     for (const auto& control : GetData().getControls()) {
-        const FeatureIdWithContext feature{FeatureId(control->getFeature())};
+        const auto feature = InFeatureList(FeatureIdWithContext{FeatureId(control->getFeature())});
         switch (control->getKind()) {
         case UIControlKind::Slider:
             m_sliderData = static_cast<const UISliderControlData*>(control.get());
@@ -58,6 +58,7 @@ void UISliderMolecule::InitializeFromDescription()
             break;
         }
     }
+    m_switchWidth = GetLabelWidth();
     m_switch.SetMoleculeFeature(GetBoundFeature());
     if (m_switch.HasOwnFeature())
         AddFurtherFeature(m_switch.GetFeature());
@@ -66,13 +67,13 @@ void UISliderMolecule::InitializeFromDescription()
 
 long UISliderMolecule::BesideWidth() const
 {
-    return m_label.IsEmpty() && m_switch.Exists() ? GetLabelWidth() : m_label.GetBesideWidth();
+    return IsSwitchBeside() ? m_switchWidth : m_label.GetBesideWidth();
 }
 
 long UISliderMolecule::HeightAbove() const
 {
-    const bool ownLine = m_switch.Exists() && (!m_label.IsEmpty() || GetLabelWidth() == 0);
-    return m_label.GetHeightAbove() + (ownLine ? UIMoleculeSwitch::kHeight + kSwitchGap : 0);
+    const bool ownLine = m_switch.Exists() && !IsSwitchBeside();
+    return m_label.GetHeightAbove() + (ownLine ? m_switch.GetHeight() + kSwitchGap : 0);
 }
 
 long UISliderMolecule::EndsHeight() const
@@ -90,7 +91,22 @@ void UISliderMolecule::UpdateMinimumHeight()
 void UISliderMolecule::FitTexts(const UITextRuler& ruler, long width)
 {
     m_label.Fit(ruler, width - kInfoLane);
+    if (m_switchWidth && ruler.GetFit().labelWidth)
+        m_switchWidth = ruler.GetFit().labelWidth;
+    m_switch.Fit(ruler, IsSwitchBeside() ? m_switchWidth : width - kInfoLane);
+    FitEnds(ruler, width - kInfoLane - BesideWidth() - kNumberWidth);
     UpdateMinimumHeight();
+}
+
+void UISliderMolecule::FitEnds(const UITextRuler& ruler, long width)
+{
+    if (!EndsHeight())
+        return;
+    const long low = ruler.WidthOf(LoadText(m_sliderData->getLowLabel()));
+    const long high = ruler.WidthOf(LoadText(m_sliderData->getHighLabel()));
+    m_lowEndWidth = std::clamp(width / 2, std::min(low, width), std::max(low, width - high));
+    if (low + high > width)
+        ruler.NoteCut();
 }
 
 long UISliderMolecule::GetWantedLabelWidth(const UITextRuler& ruler) const
@@ -103,10 +119,9 @@ void UISliderMolecule::CreateControls(UIPageWindow& page)
     SetPage(page);
     const POINT place = GetPosition();
     const long beside = BesideWidth();
-    const bool switchBeside = beside != 0 && m_label.IsEmpty();
     const long top = place.y + GetMinimumHeight() - EndsHeight() - kSliderHeight;
-    m_switch.Create(page, {place.x, place.y + (switchBeside ? kSwitchDrop : 0)},
-                    switchBeside ? beside : GetContentWidth());
+    m_switch.Create(page, {place.x, place.y + (IsSwitchBeside() ? kSwitchDrop : 0)},
+                    IsSwitchBeside() ? beside : GetContentWidth());
     m_label.Create(page, GetSite().services, {place.x, top - m_label.GetHeightAbove()},
                    GetContentWidth());
     const POINT sliderPlace{place.x + beside, top};
@@ -148,11 +163,11 @@ void UISliderMolecule::CreateEnds(UIPageWindow& page, POINT place, long width)
 {
     if (!EndsHeight())
         return;
-    const long half = width / 2;
-    m_lowEnd = CreateText(page, place, half, SS_LEFT);
-    m_lowEnd->setText(LoadText(m_sliderData->getLowLabel()));
-    m_highEnd = CreateText(page, {place.x + half, place.y}, width - half, SS_RIGHT);
-    m_highEnd->setText(LoadText(m_sliderData->getHighLabel()));
+    const long lowWidth = m_lowEndWidth ? m_lowEndWidth : width / 2;
+    m_lowEnd = CreateText(page, place, lowWidth, SS_LEFT);
+    m_lowEnd->setLabelText(LoadText(m_sliderData->getLowLabel()));
+    m_highEnd = CreateText(page, {place.x + lowWidth, place.y}, width - lowWidth, SS_RIGHT);
+    m_highEnd->setLabelText(LoadText(m_sliderData->getHighLabel()));
 }
 
 template <class Do> void UISliderMolecule::ForTexts(Do&& act) const
@@ -175,11 +190,10 @@ void UISliderMolecule::SetPosition(POINT position)
 
 void UISliderMolecule::ReadRules()
 {
-    m_rules.ranges =
-        o7::numberRanges(*GetSite()
-                              .featureServices.GetListOfFeaturesFor(GetBoundFeature())
-                              .GetIntegerFeature(GetBoundFeature())
-                              .GetRangeCapabilities());
+    m_rules.ranges = o7::numberRanges(*GetSite()
+                                           .featureServices.GetListOfFeaturesFor(GetBoundFeature())
+                                           .GetIntegerFeature(GetBoundFeature())
+                                           .GetRangeCapabilities());
 }
 
 std::optional<int> UISliderMolecule::ReadNumber() const
@@ -196,7 +210,7 @@ std::optional<int> UISliderMolecule::ReadNumber() const
 void UISliderMolecule::ShowNumberText(const CXString& text)
 {
     if (m_number)
-        m_number->setText(text);
+        m_number->setLabelText(text);
 }
 
 void UISliderMolecule::ShowNumber(std::optional<int> value)
@@ -212,6 +226,7 @@ void UISliderMolecule::LoadValue()
 {
     m_switch.Load();
     ShowNumber(m_cleared ? std::nullopt : ReadNumber());
+    EnableSlider(IsEnabled() && m_switch.IsOn());
 }
 
 void UISliderMolecule::EnableSlider(bool enabled)
@@ -225,16 +240,21 @@ void UISliderMolecule::ShowState(const InterpretedState& state, bool enabled)
 {
     m_cleared = !enabled && state.IsCleared();
     m_label.Enable(enabled);
-    m_switch.Enable(enabled);
+    m_switch.Enable(enabled, IsForceDisabled());
     LoadValue();
-    EnableSlider(enabled && m_switch.IsOn());
+}
+
+void UISliderMolecule::CompleteState(const CapabilitiesNode& capabilities,
+                                     InterpretedState& state) const
+{
+    UIFeatureMolecule::CompleteState(capabilities, state);
+    m_switch.AddReason(state);
 }
 
 bool UISliderMolecule::HandleMessage(const _UIWindowsMessage& message)
 {
     if (m_switch.HandleMessage(message)) {
         LoadValue();
-        EnableSlider(IsEnabled() && m_switch.IsOn());
         return true;
     }
     if (message.message == WM_HSCROLL && m_slider &&
@@ -297,11 +317,11 @@ void UISliderMolecule::DumpControls() const
     if (!m_slider || !UIDump::isCollecting())
         return;
     const UIDump::Level inner;
-    UIDump::line((L"- " + CXString::Formatted(
-                              GetSite().strings.LoadStringW(O7STR_M_RANGE_PART).c_str(),
-                              m_rules.text(m_slider->getMinimum()).c_str(),
-                              m_rules.text(m_slider->getMaximum()).c_str()))
-                     .View());
+    UIDump::line(
+        (L"- " + CXString::Formatted(GetSite().strings.LoadStringW(O7STR_M_RANGE_PART).c_str(),
+                                     m_rules.text(m_slider->getMinimum()).c_str(),
+                                     m_rules.text(m_slider->getMaximum()).c_str()))
+            .View());
 }
 
 CXString UISliderMolecule::GetObserverClassNameHeirarchy() const

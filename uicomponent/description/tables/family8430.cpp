@@ -78,14 +78,14 @@ constexpr UIMoleculeRecord kInstalledFinishingGroup[] = {s::kFinisher, s::kPunch
 constexpr UIMoleculeRecord kInstalledLeft[] = {group(O7STR_G_PAPER_HANDLING, kHandlingGroup), group(O7STR_G_CONTROLLER, kControllerGroup)};
 constexpr UIMoleculeRecord kInstalledRight[] = {group(O7STR_G_FINISHING, kInstalledFinishingGroup), group(O7STR_G_SECURITY, kSecurityGroup)};
 constexpr UIColumnRecord kInstalledColumns[] = {left(kInstalledLeft), right(kInstalledRight)};
-constexpr UIContainerRecord kInstalledPage = page(1, O7STR_TAB_INSTALLED, kInstalledColumns);
+constexpr UIContainerRecord kInstalledPage = devicePage(1, O7STR_TAB_INSTALLED, kInstalledColumns);
 
 // Device settings: "Communication"
 constexpr UIMoleculeRecord kStateGroup[] = {s::kBidirectional, s::kStatusInterval, text<O7STR_T_CONNECTION, 2>()};
 constexpr UIMoleculeRecord kLinkLeft[] = {group(O7STR_G_CONNECTION, kStateGroup), group(O7STR_G_TRACKING, kTrackingGroup), group(O7STR_G_APPLY, kApplyGroup)};
 constexpr UIMoleculeRecord kLinkRight[] = {group(O7STR_G_DEVICE, kDeviceGroup), group(O7STR_G_UNITS, kUnitsGroup)};
 constexpr UIColumnRecord kLinkColumns[] = {left(kLinkLeft), right(kLinkRight)};
-constexpr UIContainerRecord kLinkPage = page(3, O7STR_TAB_COMMUNICATION, kLinkColumns);
+constexpr UIContainerRecord kLinkPage = devicePage(3, O7STR_TAB_COMMUNICATION, kLinkColumns);
 
 // Dialogs
 constexpr UIMoleculeRecord kQuickPaperGroup[] = {s::kPaperSize, s::kPaperTray, s::kSides, s::kOrientation, s::kCopies};
@@ -93,7 +93,7 @@ constexpr UIMoleculeRecord kQuickOutputGroup[] = {s::kColourMode, s::kPrintQuali
 constexpr UIMoleculeRecord kQuickLeft[] = {group(O7STR_G_PAPER, kQuickPaperGroup)};
 constexpr UIMoleculeRecord kQuickRight[] = {group(O7STR_G_OUTPUT, kQuickOutputGroup)};
 constexpr UIColumnRecord kQuickColumns[] = {left(kQuickLeft), right(kQuickRight)};
-constexpr UIContainerRecord kDialogs[] = {quick(190, kQuickColumns), kTrackingOffDialog};
+constexpr UIContainerRecord kDialogs[] = {quick(183, kQuickColumns), kTrackingOffDialog};
 
 // The four interfaces
 constexpr UIContainerRecord kPreferences[] = {kPaperPage, kLayoutPage, kImagePage, kSpecialPage, kWatermarkPage, kJobPage, kAdvancedPage};

@@ -18,18 +18,18 @@ constexpr UIColumnRecord kSheetsColumns[] = {left(kSheetsLeft), right(kSheetsRig
 constexpr UIContainerRecord kSheetsPage = page(1, O7STR_TAB_SHEETS, kSheetsColumns);
 
 // Page "Layout"
-constexpr UIMoleculeRecord kPageLayoutGroup[] = {s::kOrientation, s::kPagesPerSheet, s::kPageOrder, s::kPageBorders, s::kScaling, s::kBindingEdge, s::kCropMarks, s::kBleed};
+constexpr UIMoleculeRecord kPageLayoutGroup[] = {s::kOrientation, s::kPagesPerSheet, s::kPageOrder, s::kPageBorders, s::kScaling, s::kCropMarks, s::kBleed};
 constexpr UIMoleculeRecord kImpositionGroup[] = {s::kImposition, s::kImpositionCount};
-constexpr UIMoleculeRecord kBookletGroup[] = {s::kBooklet, s::kBookletDirection, s::kBookletSection, s::kBookletGutter, s::kBookletCreep};
+constexpr UIMoleculeRecord kBookletGroup[] = {s::kBindingEdge, s::kBooklet, s::kBookletDirection, s::kBookletSection, s::kBookletGutter, s::kBookletCreep};
 constexpr UIMoleculeRecord kLayoutLeft[] = {group(O7STR_G_PAGE_LAYOUT, kPageLayoutGroup)};
-constexpr UIMoleculeRecord kLayoutRight[] = {group(O7STR_G_IMPOSITION, kImpositionGroup), group(O7STR_G_BOOKLET, kBookletGroup)};
+constexpr UIMoleculeRecord kLayoutRight[] = {group(O7STR_G_IMPOSITION, kImpositionGroup), group(O7STR_G_BINDING, kBookletGroup)};
 constexpr UIColumnRecord kLayoutColumns[] = {left(kLayoutLeft), right(kLayoutRight)};
 constexpr UIContainerRecord kLayoutPage = page(2, O7STR_TAB_LAYOUT, kLayoutColumns);
 
 // Page "Finishing"
-constexpr UIMoleculeRecord kFinishingGroup[] = {s::kStaple, s::kPunch, s::kOutputBin, s::kOutputFace, s::kOffsetStacking, s::kTrim, s::kTrimAmount, s::kSquareSpine};
+constexpr UIMoleculeRecord kFinishingGroup[] = {s::kStaple, s::kPunch, s::kOutputBin, s::kOutputFace, s::kOffsetStacking, s::kTrim, s::kTrimAmount};
 constexpr UIMoleculeRecord kFoldingGroup[] = {s::kFold, s::kFoldSheets, s::kFoldPrintSide, s::kCrease};
-constexpr UIMoleculeRecord kBindingGroup[] = {s::kBinding, s::kSpineThickness};
+constexpr UIMoleculeRecord kBindingGroup[] = {s::kBinding, s::kSpineThickness, s::kSquareSpine};
 constexpr UIMoleculeRecord kFinishingLeft[] = {group(O7STR_G_FINISHING, kFinishingGroup)};
 constexpr UIMoleculeRecord kFinishingRight[] = {group(O7STR_G_FOLDING, kFoldingGroup), group(O7STR_G_BINDING, kBindingGroup)};
 constexpr UIColumnRecord kFinishingColumns[] = {left(kFinishingLeft), right(kFinishingRight)};
@@ -83,18 +83,17 @@ constexpr UIMoleculeRecord kFinishingUnitsGroup[] = {s::kFinisher, s::kPunchDie,
 constexpr UIMoleculeRecord kInstalledLeft[] = {group(O7STR_G_PAPER_HANDLING, kHandlingGroup), group(O7STR_G_FOLDING, kFoldingUnitsGroup)};
 constexpr UIMoleculeRecord kInstalledRight[] = {group(O7STR_G_FINISHING, kFinishingUnitsGroup)};
 constexpr UIColumnRecord kInstalledColumns[] = {left(kInstalledLeft), right(kInstalledRight)};
-constexpr UIContainerRecord kInstalledPage = page(1, O7STR_TAB_INSTALLED, kInstalledColumns);
+constexpr UIContainerRecord kInstalledPage = devicePage(1, O7STR_TAB_INSTALLED, kInstalledColumns);
 
 constexpr UIMoleculeRecord kColourUnitsGroup[] = {s::kSpecialColourStation, s::kColourController, s::kColourSensor, s::kCalibrationDays, text<O7STR_T_COLOUR_UNITS, 2>()};
-constexpr UIMoleculeRecord kColourUnitsLeft[] = {group(O7STR_G_COLOUR, kColourUnitsGroup)};
-constexpr UIMoleculeRecord kColourUnitsRight[] = {group(O7STR_G_SECURITY, kSecurityGroup)};
-constexpr UIColumnRecord kColourUnitsColumns[] = {left(kColourUnitsLeft), right(kColourUnitsRight)};
-constexpr UIContainerRecord kColourUnitsPage = page(5, O7STR_TAB_COLOUR, kColourUnitsColumns);
+constexpr UIMoleculeRecord kServiceLeft[] = {group(O7STR_G_COLOUR, kColourUnitsGroup), group(O7STR_G_SECURITY, kSecurityGroup)};
+constexpr UIMoleculeRecord kServiceRight[] = {group(O7STR_G_CONNECTION, kConnectionGroup), group(O7STR_G_UNITS, kUnitsGroup), group(O7STR_G_APPLY, kApplyGroup)};
+constexpr UIColumnRecord kServiceColumns[] = {left(kServiceLeft), right(kServiceRight)};
+constexpr UIContainerRecord kServicePage = devicePage(3, O7STR_TAB_SERVICE, kServiceColumns);
 
-constexpr UIMoleculeRecord kLinkLeft[] = {group(O7STR_G_CONNECTION, kConnectionGroup), group(O7STR_G_TRACKING, kTrackingGroup)};
-constexpr UIMoleculeRecord kLinkRight[] = {group(O7STR_G_UNITS, kUnitsGroup), group(O7STR_G_APPLY, kApplyGroup)};
-constexpr UIColumnRecord kLinkColumns[] = {left(kLinkLeft), right(kLinkRight)};
-constexpr UIContainerRecord kLinkPage = page(3, O7STR_TAB_COMMUNICATION, kLinkColumns);
+constexpr UIMoleculeRecord kRulesLeft[] = {group(O7STR_G_POLICIES, kPoliciesGroup), group(O7STR_G_TRACKING, kTrackingGroup)};
+constexpr UIColumnRecord kRulesColumns[] = {left(kRulesLeft), right(kPoliciesRight)};
+constexpr UIContainerRecord kRulesPage = devicePage(4, O7STR_TAB_POLICY, kRulesColumns);
 
 // Dialogs
 constexpr UIMoleculeRecord kQuickSheetGroup[] = {s::kPaperSize, s::kPaperType, s::kPaperWeight, s::kSides, s::kCopies};
@@ -102,11 +101,11 @@ constexpr UIMoleculeRecord kQuickFinishingGroup[] = {s::kStaple, s::kFold, s::kB
 constexpr UIMoleculeRecord kQuickLeft[] = {group(O7STR_G_PAPER, kQuickSheetGroup)};
 constexpr UIMoleculeRecord kQuickRight[] = {group(O7STR_G_FINISHING, kQuickFinishingGroup)};
 constexpr UIColumnRecord kQuickColumns[] = {left(kQuickLeft), right(kQuickRight)};
-constexpr UIContainerRecord kDialogs[] = {quick(181, kQuickColumns), kTrackingOffDialog};
+constexpr UIContainerRecord kDialogs[] = {quick(175, kQuickColumns), kTrackingOffDialog};
 
 // The four interfaces
 constexpr UIContainerRecord kPreferences[] = {kSheetsPage, kLayoutPage, kFinishingPage, kSpecialPage, kImagePage, kColourPage, kJobPage};
-constexpr UIContainerRecord kDevice[] = {kInstalledPage, kTraysPage, kColourUnitsPage, kLinkPage, kPoliciesPage};
+constexpr UIContainerRecord kDevice[] = {kInstalledPage, kTraysPage, kServicePage, kRulesPage};
 constexpr UIContainerRecord kDefaults[] = {kSheetsPage, kLayoutPage, kFinishingPage, kSpecialPage, kImagePage, kColourPage, kPolicyPage};
 
 constexpr UIRootRecord kRoots[] = {

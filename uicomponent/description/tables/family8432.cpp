@@ -18,12 +18,11 @@ constexpr UIColumnRecord kBasicsColumns[] = {left(kBasicsLeft), right(kBasicsRig
 constexpr UIContainerRecord kBasicsPage = page(1, O7STR_TAB_BASICS, kBasicsColumns);
 
 // Page "Layout"
-constexpr UIMoleculeRecord kPageLayoutGroup[] = {s::kOrientation, s::kPagesPerSheet, s::kPageOrder, s::kPageBorders, s::kPoster, s::kScaling, s::kScalePercent, s::kTargetSize};
-constexpr UIMoleculeRecord kBindingGroup[] = {s::kBindingEdge, s::kBindingMargin};
-constexpr UIMoleculeRecord kBookletGroup[] = {s::kBooklet, s::kBookletDirection};
-constexpr UIMoleculeRecord kPagesGroup[] = {s::kRotate180, s::kReverseOrder, s::kSkipBlankPages};
+constexpr UIMoleculeRecord kPageLayoutGroup[] = {s::kOrientation, s::kPagesPerSheet, s::kPageOrder, s::kPageBorders, s::kScaling, s::kScalePercent, s::kTargetSize};
+constexpr UIMoleculeRecord kBindingGroup[] = {s::kBindingEdge, s::kBindingMargin, s::kBooklet, s::kBookletDirection};
+constexpr UIMoleculeRecord kPagesGroup[] = {s::kPoster, s::kRotate180, s::kReverseOrder, s::kSkipBlankPages};
 constexpr UIMoleculeRecord kLayoutLeft[] = {group(O7STR_G_PAGE_LAYOUT, kPageLayoutGroup)};
-constexpr UIMoleculeRecord kLayoutRight[] = {group(O7STR_G_BINDING, kBindingGroup), group(O7STR_G_BOOKLET, kBookletGroup), group(O7STR_G_PAGES, kPagesGroup)};
+constexpr UIMoleculeRecord kLayoutRight[] = {group(O7STR_G_BINDING, kBindingGroup), group(O7STR_G_PAGES, kPagesGroup)};
 constexpr UIColumnRecord kLayoutColumns[] = {left(kLayoutLeft), right(kLayoutRight)};
 constexpr UIContainerRecord kLayoutPage = page(2, O7STR_TAB_LAYOUT, kLayoutColumns);
 
@@ -57,13 +56,13 @@ constexpr UIMoleculeRecord kControllerGroup[] = {s::kMemory, s::kStorageCard, s:
 constexpr UIMoleculeRecord kServiceLeft[] = {group(O7STR_G_PAPER_HANDLING, kHandlingGroup), group(O7STR_G_CONTROLLER, kControllerGroup)};
 constexpr UIMoleculeRecord kServiceRight[] = {group(O7STR_G_CONNECTION, kConnectionGroup), group(O7STR_G_TRACKING, kTrackingGroup), group(O7STR_G_DEVICE, kDeviceGroup)};
 constexpr UIColumnRecord kServiceColumns[] = {left(kServiceLeft), right(kServiceRight)};
-constexpr UIContainerRecord kServicePage = page(1, O7STR_TAB_SERVICE, kServiceColumns);
+constexpr UIContainerRecord kServicePage = devicePage(1, O7STR_TAB_SERVICE, kServiceColumns);
 
 constexpr UIMoleculeRecord kBypassGroup[] = {s::kBypassPrompt, text<O7STR_T_TRAYS, 2>()};
 constexpr UIMoleculeRecord kTrayContentsLeft[] = {group(O7STR_G_TRAY_1, kTray1Group), group(O7STR_G_FEEDING, kBypassGroup)};
 constexpr UIMoleculeRecord kTrayContentsRight[] = {group(O7STR_G_TRAY_2, kTray2Group), group(O7STR_G_REGION, kRegionGroup)};
 constexpr UIColumnRecord kTrayContentsColumns[] = {left(kTrayContentsLeft), right(kTrayContentsRight)};
-constexpr UIContainerRecord kTrayContentsPage = page(2, O7STR_TAB_TRAYS, kTrayContentsColumns);
+constexpr UIContainerRecord kTrayContentsPage = devicePage(2, O7STR_TAB_TRAYS, kTrayContentsColumns);
 
 // The two interfaces
 constexpr UIContainerRecord kPreferences[] = {kBasicsPage, kLayoutPage, kImagePage, kJobPage, kAdvancedPage};

@@ -62,7 +62,7 @@ constexpr UIMoleculeRecord kSuppliesGroup[] = {s::kLowSupplyWarning, s::kCalibra
 constexpr UIMoleculeRecord kServiceLeft[] = {group(O7STR_G_INSTALLED, kInstalledGroup), group(O7STR_G_CONTROLLER, kNoiseGroup)};
 constexpr UIMoleculeRecord kServiceRight[] = {group(O7STR_G_CONNECTION, kConnectionGroup), group(O7STR_G_REGION, kRegionGroup), group(O7STR_G_SUPPLIES, kSuppliesGroup)};
 constexpr UIColumnRecord kServiceColumns[] = {left(kServiceLeft), right(kServiceRight)};
-constexpr UIContainerRecord kServicePage = page(1, O7STR_TAB_SERVICE, kServiceColumns);
+constexpr UIContainerRecord kServicePage = devicePage(1, O7STR_TAB_SERVICE, kServiceColumns);
 
 // Dialogs
 constexpr UIMoleculeRecord kQuickPaperGroup[] = {s::kPaperSize, s::kPaperType, s::kPaperTray, s::kEdgeToEdge};
@@ -70,7 +70,7 @@ constexpr UIMoleculeRecord kQuickPictureGroup[] = {s::kPrintQualityList, s::kCol
 constexpr UIMoleculeRecord kQuickLeft[] = {group(O7STR_G_PAPER, kQuickPaperGroup)};
 constexpr UIMoleculeRecord kQuickRight[] = {group(O7STR_G_PICTURES, kQuickPictureGroup)};
 constexpr UIColumnRecord kQuickColumns[] = {left(kQuickLeft), right(kQuickRight)};
-constexpr UIContainerRecord kDialogs[] = {quick(158, kQuickColumns)};
+constexpr UIContainerRecord kDialogs[] = {quick(154, kQuickColumns)};
 
 // The four interfaces
 constexpr UIContainerRecord kPreferences[] = {kPicturesPage, kImagePage, kColourPage, kLayoutPage, kAdvancedPage};

@@ -66,13 +66,13 @@ constexpr UIMoleculeRecord kAccountGroup[] = {s::kAccountRequired};
 constexpr UIMoleculeRecord kInstalledLeft[] = {group(O7STR_G_INSTALLED, kInstalledGroup), group(O7STR_G_CONTROLLER, kControllerGroup)};
 constexpr UIMoleculeRecord kInstalledRight[] = {group(O7STR_G_CONNECTION, kConnectionGroup), group(O7STR_G_SECURITY, kSecurityGroup), group(O7STR_G_ACCOUNTING, kAccountGroup)};
 constexpr UIColumnRecord kInstalledColumns[] = {left(kInstalledLeft), right(kInstalledRight)};
-constexpr UIContainerRecord kInstalledPage = page(1, O7STR_TAB_INSTALLED, kInstalledColumns);
+constexpr UIContainerRecord kInstalledPage = devicePage(1, O7STR_TAB_INSTALLED, kInstalledColumns);
 
 constexpr UIMoleculeRecord kRollContentsGroup[] = {s::kRoll1Width, s::kRoll1Type, s::kRoll2Width, s::kRoll2Type, text<O7STR_T_ROLLS, 2>()};
 constexpr UIMoleculeRecord kSuppliesGroup[] = {s::kLowSupplyWarning, s::kCalibrationDays};
 constexpr UIMoleculeRecord kRollsLeft[] = {group(O7STR_G_ROLL, kRollContentsGroup), group(O7STR_G_SUPPLIES, kSuppliesGroup)};
 constexpr UIColumnRecord kRollsColumns[] = {left(kRollsLeft), right(kUnitsAndRegion)};
-constexpr UIContainerRecord kRollsPage = page(2, O7STR_TAB_ROLL, kRollsColumns);
+constexpr UIContainerRecord kRollsPage = devicePage(2, O7STR_TAB_ROLL, kRollsColumns);
 
 // Dialogs
 constexpr UIMoleculeRecord kQuickPaperGroup[] = {s::kPaperSize, s::kPaperTray, s::kOrientation, s::kScaling, s::kCopies};
@@ -80,7 +80,7 @@ constexpr UIMoleculeRecord kQuickOutputGroup[] = {s::kColourMode, s::kPrintQuali
 constexpr UIMoleculeRecord kQuickLeft[] = {group(O7STR_G_PAPER, kQuickPaperGroup)};
 constexpr UIMoleculeRecord kQuickRight[] = {group(O7STR_G_OUTPUT, kQuickOutputGroup)};
 constexpr UIColumnRecord kQuickColumns[] = {left(kQuickLeft), right(kQuickRight)};
-constexpr UIContainerRecord kDialogs[] = {quick(190, kQuickColumns), kTrackingOffDialog};
+constexpr UIContainerRecord kDialogs[] = {quick(183, kQuickColumns), kTrackingOffDialog};
 
 // The four interfaces
 constexpr UIContainerRecord kPreferences[] = {kPaperPage, kLayoutPage, kDrawingPage, kImagePage, kJobPage, kAdvancedPage};

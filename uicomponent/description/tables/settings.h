@@ -87,7 +87,7 @@ inline constexpr UIMoleculeRecord kScalePercent        = spin<o7::kScalePercent,
 inline constexpr UIMoleculeRecord kBindingMargin       = length<o7::kBindingMargin, O7STR_L_BINDING_MARGIN>();
 inline constexpr UIMoleculeRecord kBookletGutter       = length<o7::kBookletGutter, O7STR_L_BOOKLET_GUTTER>();
 inline constexpr UIMoleculeRecord kBookletCreep        = length<o7::kBookletCreep, O7STR_L_BOOKLET_CREEP, 1>();
-inline constexpr UIMoleculeRecord kBookletSection      = spin<o7::kBookletSection, O7STR_L_BOOKLET_SECTION, O7STR_U_SHEETS>();
+inline constexpr UIMoleculeRecord kBookletSection      = spin<o7::kBookletSection, O7STR_L_BOOKLET_SECTION>();
 inline constexpr UIMoleculeRecord kImpositionCount     = spin<o7::kImpositionCount, O7STR_L_IMPOSITION_COUNT>();
 inline constexpr UIMoleculeRecord kBleed               = length<o7::kBleed, O7STR_L_BLEED, 1>();
 inline constexpr UIMoleculeRecord kShiftFrontX         = length<o7::kShiftFrontX, O7STR_L_SHIFT_FRONT_X, 1>();
@@ -106,7 +106,7 @@ inline constexpr UIMoleculeRecord kBinding             = combo<o7::kBinding, O7S
 inline constexpr UIMoleculeRecord kFoldPrintSide       = combo<o7::kFoldPrintSide, O7STR_L_FOLD_PRINT_SIDE>();
 inline constexpr UIMoleculeRecord kSquareSpine         = check<o7::kSquareSpine, O7STR_L_SQUARE_SPINE>();
 inline constexpr UIMoleculeRecord kOutputFace          = combo<o7::kOutputFace, O7STR_L_OUTPUT_FACE>();
-inline constexpr UIMoleculeRecord kFoldSheets          = spin<o7::kFoldSheets, O7STR_L_FOLD_SHEETS, O7STR_U_SHEETS>();
+inline constexpr UIMoleculeRecord kFoldSheets          = spin<o7::kFoldSheets, O7STR_L_FOLD_SHEETS>();
 inline constexpr UIMoleculeRecord kTrimAmount          = length<o7::kTrimAmount, O7STR_L_TRIM_AMOUNT>();
 inline constexpr UIMoleculeRecord kSpineThickness      = length<o7::kSpineThickness, O7STR_L_SPINE_THICKNESS, 1>();
 

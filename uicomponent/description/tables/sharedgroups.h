@@ -50,7 +50,7 @@ inline constexpr UIMoleculeRecord kTraysLeft[] = {group(O7STR_G_TRAY_1, kTray1Gr
 inline constexpr UIMoleculeRecord kTraysRight[] = {group(O7STR_G_TRAY_3, kTray3Group),
                                                    group(O7STR_G_TRAY_4, kTray4Group)};
 inline constexpr UIColumnRecord kTraysColumns[] = {left(kTraysLeft), right(kTraysRight)};
-inline constexpr UIContainerRecord kTraysPage = page(2, O7STR_TAB_TRAYS, kTraysColumns);
+inline constexpr UIContainerRecord kTraysPage = devicePage(2, O7STR_TAB_TRAYS, kTraysColumns);
 
 // Device settings: page "Policies"
 inline constexpr UIMoleculeRecord kPoliciesGroup[] = {s::kColourPolicy, s::kSidesPolicy,
@@ -60,7 +60,7 @@ inline constexpr UIMoleculeRecord kPoliciesLeft[] = {group(O7STR_G_POLICIES, kPo
 inline constexpr UIMoleculeRecord kPoliciesRight[] = {
     group(O7STR_G_ACCOUNTING, kAccountPoliciesGroup), group(O7STR_G_REGION, kRegionGroup)};
 inline constexpr UIColumnRecord kPoliciesColumns[] = {left(kPoliciesLeft), right(kPoliciesRight)};
-inline constexpr UIContainerRecord kPoliciesPage = page(4, O7STR_TAB_POLICY, kPoliciesColumns);
+inline constexpr UIContainerRecord kPoliciesPage = devicePage(4, O7STR_TAB_POLICY, kPoliciesColumns);
 
 // The message that a job cannot be tracked
 inline constexpr UIMoleculeRecord kTrackingOffGroup[] = {text<O7STR_T_TRACKING_OFF, 2>(),

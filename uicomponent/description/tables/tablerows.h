@@ -12,6 +12,7 @@ namespace o7 {
 // enough for seven tabs in one row, and high enough for seven settings in each column.
 inline constexpr std::int32_t kPageWidth = 330;
 inline constexpr std::int32_t kPageHeight = 218;
+inline constexpr std::int32_t kDevicePageHeight = 200; // device settings are fewer
 inline constexpr std::int32_t kMargin = 7;
 inline constexpr std::int32_t kColumnWidth = 155;
 inline constexpr std::int32_t kSecondColumnX = 168;
@@ -19,8 +20,8 @@ inline constexpr std::int32_t kWideColumnWidth = 316;
 
 // Room for the label beside a narrow box (spin, length, number, PIN) and beside a slider. The boxes
 // of lists and texts need all of the width, so their labels stand above.
-inline constexpr std::int32_t kNarrowBoxLabel = 75;
-inline constexpr std::int32_t kSliderLabel = 45;
+inline constexpr std::int32_t kNarrowBoxLabel = 62;
+inline constexpr std::int32_t kSliderLabel = 50;
 
 namespace rows {
 
@@ -260,6 +261,16 @@ constexpr UIContainerRecord page(std::uint32_t id, std::uint32_t title,
 {
     return {
         .id = id, .title = title, .width = kPageWidth, .height = kPageHeight, .columns = columns};
+}
+
+constexpr UIContainerRecord devicePage(std::uint32_t id, std::uint32_t title,
+                                       UIRecords<UIColumnRecord> columns)
+{
+    return {.id = id,
+            .title = title,
+            .width = kPageWidth,
+            .height = kDevicePageHeight,
+            .columns = columns};
 }
 
 constexpr UIContainerRecord dialog(DialogId id, std::uint32_t title, std::int32_t height,
