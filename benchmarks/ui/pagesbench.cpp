@@ -63,10 +63,11 @@ Size measureSize(const std::wstring& folder, int pages, int controls)
 {
     const SyntheticPages synthetic(folder, pages, controls);
     const Run ours = [&] { synthetic.run(); };
-    std::vector<RawPage> recorded =
-        recordPages(ours, synthetic.data(), synthetic.session().strings(), kMostVisited);
-    if (recorded.front().windows.size() != static_cast<std::size_t>(controls))
-        throw std::logic_error("the page has " + std::to_string(recorded.front().windows.size()) +
+    const RawSheet recorded =
+        recordSheet(ours, synthetic.data(), synthetic.session().strings(), kMostVisited);
+    if (recorded.pages.front().windows.size() != static_cast<std::size_t>(controls))
+        throw std::logic_error("the page has " +
+                               std::to_string(recorded.pages.front().windows.size()) +
                                " windows instead of " + std::to_string(controls));
     const Run raw = [&] { runRawSheet(recorded); };
     measure(raw, pages); // what the first of a size sets up; ours has just been open
