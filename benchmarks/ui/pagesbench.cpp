@@ -19,7 +19,7 @@ namespace {
 /// Pages, and windows of each: every size alone, fewer sizes where there are more pages.
 constexpr struct
 {
-    int pages;
+    int pages = 0;
     std::initializer_list<int> controls;
 } kSheets[] = {{1, {5, 20, 50, 200}}, {6, {5, 50, 200}}, {16, {5, 200}}};
 constexpr int kMostVisited = 3; // further pages cost the same again
