@@ -73,6 +73,7 @@ void UINumberField::Create(UIPageWindow& page, const Surroundings& surroundings,
     const long boxWidth = std::min(width, GetWantedWidth(hasArrows));
     const long editWidth = hasArrows ? boxWidth - kArrowsWidth : boxWidth;
     CreateBox(page, surroundings, {location, {editWidth, kHeight}, 0, kTextLimit});
+    GetEdit()->readLeftToRight();
     UIServices& services = surroundings.site.services;
     if (hasArrows) {
         m_arrows = std::make_unique<UISpinControl>(page.window, page.takeId(), services, page.font,
