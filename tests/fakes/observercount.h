@@ -6,7 +6,7 @@ namespace o7::test {
 
 /// A data model that hands everything on to another one and counts who is registered with it, and
 /// the transactions that were opened.
-class ObserverCount final : public FeatureServices
+class ObserverCount : public FeatureServices
 {
 public:
     explicit ObserverCount(FeatureServices& model) : m_model(model) {}

@@ -12,6 +12,7 @@
 #include "resourceguard.h"
 #include "tables/productids.h"
 #include "uidata.h"
+#include "uihandles.h"
 #include "uifixture.h"
 #include "uimolecule.h"
 #include "uistringnumbers.h"
@@ -152,30 +153,33 @@ TEST_F(MoleculeFrameworkTest, APageLeavesNobodyRegisteredAndLoadingWritesNothing
 TEST_F(MoleculeFrameworkTest, NoStateIsSilent)
 {
     setBooklet(true);
-    setOption(DataModelIds::kFeatureControllerFamily, DataModelIds::kValueFamily8430);
-    int limited = 0;
+    setOption(DataModelIds::kFeatureControllerFamily, DataModelIds::kValueFamily8432); // hides some
+    int disabled = 0;
+    int hidden = 0;
     const UIData data(UIMode::PrintingPreferences, DataModelIds::kValueFamily8430,
                       Workflow::Standard);
     for (const auto& tab : data.getTabs()) {
         const MoleculeDialog dialog = open(tab->getRecord());
         std::wistringstream lines(dialog.dump());
         for (std::wstring line; std::getline(lines, line);) {
-            if (line.find(L"[disabled") == std::wstring::npos &&
-                line.find(L"[hidden") == std::wstring::npos)
-                continue;
-            ++limited;
-            EXPECT_NE(line.find(L"] because \""), std::wstring::npos) << CXString(line).ToUtf8();
+            const bool isDisabled = line.find(L"[disabled") != std::wstring::npos;
+            const bool isHidden = line.find(L"[hidden") != std::wstring::npos;
+            disabled += isDisabled;
+            hidden += isHidden;
+            EXPECT_EQ(line.find(L"] because \"") != std::wstring::npos || !(isDisabled || isHidden),
+                      true)
+                << CXString(line).ToUtf8();
         }
         for (UIMolecule* molecule : dialog.molecules()) {
             if (!molecule->InfoAnchor() || molecule->GetInfoText().IsEmpty())
                 continue;
-            ASSERT_TRUE(molecule->Focus());
-            if (IsWindowEnabled(molecule->InfoAnchor()))
-                continue;
-            EXPECT_TRUE(molecule->OwnsControl(GetFocus())) << "the mark is reached by keyboard";
+            EXPECT_TRUE(molecule->Focus());
+            EXPECT_TRUE(molecule->OwnsControl(GetFocus()) && IsWindowVisible(GetFocus()))
+                << CXString(molecule->GetDumpDisplayString(false)).ToUtf8();
         }
     }
-    EXPECT_GT(limited, 5);
+    EXPECT_GT(disabled, 5);
+    EXPECT_GT(hidden, 0);
 }
 
 TEST_F(MoleculeFrameworkTest, AMarkTellsItsReasonAndMayGoWhileItDoes)
@@ -198,6 +202,53 @@ TEST_F(MoleculeFrameworkTest, AMarkTellsItsReasonAndMayGoWhileItDoes)
         EXPECT_FALSE(s_flags & MB_RTLREADING);
     }
     s_whileOpen = nullptr;
+}
+
+TEST_F(MoleculeFrameworkTest, ColoursPalettesAndThemesAreAnsweredForOwnControls)
+{
+    const MoleculeDialog dialog = open(kDialog<kThree>);
+    UIMolecule& sides = *dialog.molecules()[1];
+    const HWND own = sides.InfoAnchor();
+    const HWND foreign = dialog.molecules()[0]->InfoAnchor();
+    const o7::WindowDc dc(own);
+    LRESULT result = 0;
+    const auto send = [&](UIMessageKind kind, UINT message, HWND window) {
+        const _UIWindowsMessage packed{kind, dialog.window(), message,
+                                       message == WM_PALETTECHANGED
+                                           ? reinterpret_cast<WPARAM>(window)
+                                           : reinterpret_cast<WPARAM>(dc.get()),
+                                       reinterpret_cast<LPARAM>(window), 0};
+        const bool claimed = sides.ProcessCommonMessage(packed);
+        result = packed.result;
+        return claimed;
+    };
+    const auto isDirty = [&] {
+        const bool dirty = GetUpdateRect(dialog.window(), nullptr, FALSE) != FALSE;
+        ValidateRect(dialog.window(), nullptr);
+        return dirty;
+    };
+    for (int round = 0; round < 2; ++round) {
+        ASSERT_TRUE(send(UIMessageKind::TabPage, WM_CTLCOLORSTATIC, own));
+        LOGBRUSH brush{};
+        ASSERT_TRUE(GetObjectW(reinterpret_cast<HBRUSH>(result), sizeof brush, &brush));
+        EXPECT_EQ(brush.lbColor, GetSysColor(COLOR_WINDOW));
+        const LRESULT kept = result;
+        send(UIMessageKind::TabPage, WM_CTLCOLORSTATIC, own);
+        EXPECT_EQ(result, kept);
+        EXPECT_FALSE(send(UIMessageKind::TabPage, WM_CTLCOLORSTATIC, foreign));
+        EXPECT_FALSE(send(UIMessageKind::Dialog, WM_CTLCOLORSTATIC, own));
+        // Every molecule has to hear of these.
+        EXPECT_FALSE(send(UIMessageKind::TabPage, WM_SYSCOLORCHANGE, nullptr));
+        EXPECT_FALSE(send(UIMessageKind::TabPage, WM_THEMECHANGED, nullptr));
+    }
+    isDirty();
+    EXPECT_TRUE(send(UIMessageKind::TabPage, WM_QUERYNEWPALETTE, nullptr));
+    EXPECT_EQ(result, 1);
+    EXPECT_TRUE(isDirty());
+    send(UIMessageKind::TabPage, WM_PALETTECHANGED, own);
+    EXPECT_FALSE(isDirty()) << "it was the page's own doing";
+    send(UIMessageKind::TabPage, WM_PALETTECHANGED, GetDesktopWindow());
+    EXPECT_TRUE(isDirty());
 }
 
 TEST_F(MoleculeFrameworkTest, AnUnknownKindAndAFailedControlLeaveTheRestOfThePage)

@@ -18,7 +18,10 @@ constexpr tagFeatureEnum kUnknownFeature{4999};
 constexpr UICheckRecord kTwoValues{DataModelIds::kValueJobTrackerOn, kJobTrackingOff};
 constexpr UICheckRecord kThreeStates{.threeState = true};
 constexpr UICheckRecord kToggledByText{.secondTextToggles = true};
-constexpr UIImageRecord kPicture{.minimumHeight = 30};
+// Pictures of pictures.rc.
+constexpr UIOptionRecord kPictures[] = {{UIOptionRecord::valueOf(true), 0, 501},
+                                        {UIOptionRecord::valueOf(false), 0, 502}};
+constexpr UIImageRecord kPicture{.minimumHeight = 30, .valueImages = kPictures};
 
 constexpr UIControlRecord kLabel{UIControlKind::Text, kCollate, O7STR_L_JOB_TYPE};
 constexpr UIControlRecord kSecondText{UIControlKind::Text, kCollate, O7STR_T_JOB_TYPE};
@@ -168,6 +171,21 @@ TEST_F(UICheckBoxMoleculeTest, TheHeightIsTheLargestThatAnythingAsksFor)
     const MoleculeDialog narrow = open(kDialog<kBooleanCheck, 50>);
     EXPECT_GT(heightOf(narrow.child(0)), oneLine) << "a long text takes a second line";
     EXPECT_TRUE(GetWindowLongW(narrow.child(0), GWL_STYLE) & BS_MULTILINE);
+}
+
+TEST_F(UICheckBoxMoleculeTest, APictureMirrorsTheSetting)
+{
+    collate().SetValue(true);
+    const MoleculeDialog dialog = open(kDialog<kPictured>);
+    const auto shows = [&](const wchar_t* number) {
+        EXPECT_NE(GetPropW(dialog.child(1), L"pIpic"), nullptr);
+        return dialog.dump().find(number) != std::wstring::npos;
+    };
+    EXPECT_TRUE(shows(L"501"));
+    sendClick(dialog.child(0));
+    EXPECT_TRUE(shows(L"502"));
+    collate().SetValue(true);
+    EXPECT_TRUE(shows(L"501"));
 }
 
 TEST_F(UICheckBoxMoleculeTest, AClearedOneShowsUncheckedAndItsMarkTakesTheFocus)

@@ -78,7 +78,7 @@ void UIControl::setShow(bool show)
     m_visible = show;
 }
 
-void UIControl::readLeftToRight() const noexcept
+void UIControl::keepUnmirrored() const noexcept
 {
     constexpr LONG_PTR kFromRight = WS_EX_LAYOUTRTL | WS_EX_RTLREADING;
     const LONG_PTR style = ::GetWindowLongPtrW(getHwnd(), GWL_EXSTYLE);
