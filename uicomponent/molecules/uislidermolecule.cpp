@@ -79,7 +79,7 @@ long UISliderMolecule::EndsHeight() const
 {
     const bool hasEnds =
         m_sliderData && (m_sliderData->getLowLabel() || m_sliderData->getHighLabel());
-    return hasEnds ? UITextRuler::kLineHeight : 0;
+    return hasEnds ? m_endLines * UITextRuler::kLineHeight : 0;
 }
 
 void UISliderMolecule::UpdateMinimumHeight()
@@ -90,7 +90,22 @@ void UISliderMolecule::UpdateMinimumHeight()
 void UISliderMolecule::FitTexts(const UITextRuler& ruler, long width)
 {
     m_label.Fit(ruler, width - kInfoLane);
+    if (m_sliderData && EndsHeight())
+        FitEnds(ruler, width - kInfoLane - BesideWidth() - kNumberWidth);
     UpdateMinimumHeight();
+}
+
+/// Each end takes half of the slider's width, or what the other leaves it.
+void UISliderMolecule::FitEnds(const UITextRuler& ruler, long width)
+{
+    const CXString low = LoadText(m_sliderData->getLowLabel());
+    const CXString high = LoadText(m_sliderData->getHighLabel());
+    const long lowWidth = ruler.WidthOf(low);
+    const long highWidth = ruler.WidthOf(high);
+    m_lowWidth = width / 2;
+    if (lowWidth + highWidth <= width)
+        m_lowWidth = std::clamp(m_lowWidth, lowWidth, width - highWidth);
+    m_endLines = std::max(ruler.LinesOf(low, m_lowWidth), ruler.LinesOf(high, width - m_lowWidth));
 }
 
 long UISliderMolecule::GetWantedLabelWidth(const UITextRuler& ruler) const
@@ -117,10 +132,11 @@ void UISliderMolecule::CreateControls(UIPageWindow& page)
 }
 
 std::unique_ptr<UITextControl> UISliderMolecule::CreateText(UIPageWindow& page, POINT place,
-                                                            long width, DWORD style) const
+                                                            long width, DWORD style,
+                                                            long lines) const
 {
     return std::make_unique<UITextControl>(page.window, page.takeId(), GetSite().services,
-                                           page.font, place, SIZE{width, UITextRuler::kLineHeight},
+                                           page.font, place, SIZE{width, lines * UITextRuler::kLineHeight},
                                            style | SS_NOTIFY | SS_NOPREFIX, true, page.boldFont);
 }
 
@@ -148,10 +164,10 @@ void UISliderMolecule::CreateEnds(UIPageWindow& page, POINT place, long width)
 {
     if (!EndsHeight())
         return;
-    const long half = width / 2;
-    m_lowEnd = CreateText(page, place, half, SS_LEFT);
+    const long half = m_lowWidth ? m_lowWidth : width / 2;
+    m_lowEnd = CreateText(page, place, half, SS_LEFT, m_endLines);
     m_lowEnd->setText(LoadText(m_sliderData->getLowLabel()));
-    m_highEnd = CreateText(page, {place.x + half, place.y}, width - half, SS_RIGHT);
+    m_highEnd = CreateText(page, {place.x + half, place.y}, width - half, SS_RIGHT, m_endLines);
     m_highEnd->setText(LoadText(m_sliderData->getHighLabel()));
 }
 

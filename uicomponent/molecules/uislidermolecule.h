@@ -47,7 +47,8 @@ private:
     void CreateSlider(UIPageWindow& page, POINT place, long width);
     void CreateEnds(UIPageWindow& page, POINT place, long width);
     std::unique_ptr<UITextControl> CreateText(UIPageWindow& page, POINT place, long width,
-                                              DWORD style) const;
+                                              DWORD style, long lines = 1) const;
+    void FitEnds(const UITextRuler& ruler, long width);
     std::optional<int> ReadNumber() const;
     void ReadRules();
     void Slid(int code);
@@ -64,6 +65,8 @@ private:
     std::unique_ptr<UITextControl> m_number;
     std::unique_ptr<UITextControl> m_lowEnd;
     std::unique_ptr<UITextControl> m_highEnd;
+    long m_lowWidth = 0; ///< dialog units of the text under the low end; 0: half of the slider
+    long m_endLines = 1;
     std::optional<int> m_value;
     bool m_cleared = false;
 };

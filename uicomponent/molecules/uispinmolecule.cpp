@@ -11,6 +11,7 @@
 #include "uiservices.h"
 #include "uispincontroldata.h"
 #include "uivaluewriter.h"
+#include "uitextruler.h"
 
 namespace {
 
@@ -73,6 +74,7 @@ void UISpinMolecule::UpdateMinimumHeight()
 void UISpinMolecule::FitTexts(const UITextRuler& ruler, long width)
 {
     m_label.Fit(ruler, width - kInfoLane);
+    m_field.SetUnitWidth(ruler.WidthOf(MakeRules().unitText));
     UpdateMinimumHeight();
 }
 
