@@ -14,7 +14,10 @@ class LongerStringLoader : public ProductStringLoader
 public:
     using ProductStringLoader::ProductStringLoader;
 
-    CXString LoadStringW(unsigned id) const override { return longerText(ProductStringLoader::LoadStringW(id)); }
+    CXString LoadStringW(unsigned id) const override
+    {
+        return longerText(ProductStringLoader::LoadStringW(id));
+    }
 };
 
 } // namespace o7

@@ -14,7 +14,8 @@ namespace {
 /// What a box or a frame needs beside its text, in pixels.
 constexpr LONG kCheckMark = 17;
 constexpr LONG kFrameEnds = 16;
-constexpr LONG kDrawnWider = 50; // some displays draw wider than they measure: one part of that many
+constexpr LONG kDrawnWider =
+    50; // some displays draw wider than they measure: one part of that many
 constexpr LONG kButtonEdges = 4;
 
 std::string sized(const RECT& place)
@@ -111,8 +112,8 @@ bool GeometryRules::mayOverlap(const Piece& first, const Piece& second)
     const auto holds = [](const Piece& frame, const Piece& other) {
         return isFrame(frame) && contains(frame.place, other.place);
     };
-    return holds(first, second) || holds(second, first) ||
-           first.kind == UPDOWN_CLASSW || second.kind == UPDOWN_CLASSW;
+    return holds(first, second) || holds(second, first) || first.kind == UPDOWN_CLASSW ||
+           second.kind == UPDOWN_CLASSW;
 }
 
 std::size_t GeometryRules::columnOf(const Piece& piece) const

@@ -15,7 +15,8 @@ constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | CBS_D
                          CBS_OWNERDRAWFIXED | CBS_HASSTRINGS;
 static_assert(kStyle == 0x50210213);
 
-constexpr LONG kDrawnWider = 50; // some displays draw wider than they measure: one part of that many
+constexpr LONG kDrawnWider =
+    50; // some displays draw wider than they measure: one part of that many
 
 /// Its width keeps the longest entry off the edge of the dropped list.
 constexpr wchar_t kReferenceCharacter[] = L"M";

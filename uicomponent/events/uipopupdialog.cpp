@@ -107,8 +107,8 @@ void UIPopupDialog::createButtons()
         width = std::max(width, ruler.WidthOf(getStrings().LoadStringW(action->getLabel())) +
                                     kButtonPadding);
     const auto count = static_cast<long>(actions.size());
-    long x = m_data.getWidth() - UILayoutManager::kMargin - count * width -
-             (count - 1) * kButtonGap;
+    long x =
+        m_data.getWidth() - UILayoutManager::kMargin - count * width - (count - 1) * kButtonGap;
     const long y = m_data.getHeight() - UILayoutManager::kMargin - kButtonHeight;
     for (const auto& action : actions) {
         auto button = std::make_unique<UIButtonControl>(

@@ -78,18 +78,18 @@ void UINumberField::Create(UIPageWindow& page, const Surroundings& surroundings,
     CreateBox(page, surroundings, {location, {editWidth, kHeight}, 0, kTextLimit});
     UIServices& services = surroundings.site.services;
     if (hasArrows) {
-        m_arrows = std::make_unique<UISpinControl>(
-            page.window, page.takeId(), services, page.font,
-            POINT{location.x + editWidth, location.y}, SIZE{kArrowsWidth, kHeight}, 0, true, 0, 0);
+        m_arrows = std::make_unique<UISpinControl>(page.window, page.takeId(), services, page.font,
+                                                   POINT{location.x + editWidth, location.y},
+                                                   SIZE{kArrowsWidth, kHeight}, 0, true, 0, 0);
         m_arrows->setBuddy(GetHwnd());
     }
     const long unitX = boxWidth + kUnitGap;
     if (m_rules.unitText.IsEmpty() || unitX >= width)
         return;
-    m_unit = std::make_unique<UITextControl>(
-        page.window, page.takeId(), services, page.font,
-        POINT{location.x + unitX, location.y + kUnitDrop}, SIZE{width - unitX, kTextHeight},
-        SS_NOTIFY | SS_NOPREFIX, true, page.boldFont);
+    m_unit = std::make_unique<UITextControl>(page.window, page.takeId(), services, page.font,
+                                             POINT{location.x + unitX, location.y + kUnitDrop},
+                                             SIZE{width - unitX, kTextHeight},
+                                             SS_NOTIFY | SS_NOPREFIX, true, page.boldFont);
     m_unit->setText(m_rules.unitText);
 }
 
@@ -213,8 +213,8 @@ CXString UINumberField::FaultSentence(UINumberRules::Fault fault, const CXString
                      [fault](const Sentence& sentence) { return sentence.fault == fault; });
     CXString sentence = CXString::Formatted(String(row->number).c_str(), quoted(text).c_str());
     if (!m_rules.ranges.empty())
-        sentence += L"\n" + CXString::Formatted(String(O7STR_M_ALLOWED).c_str(),
-                                                RangeText().c_str());
+        sentence +=
+            L"\n" + CXString::Formatted(String(O7STR_M_ALLOWED).c_str(), RangeText().c_str());
     return sentence;
 }
 
@@ -224,8 +224,8 @@ CXString UINumberField::RangeText() const
     for (const auto& range : m_rules.ranges) {
         if (!text.IsEmpty())
             text += L", ";
-        const CXString low = m_rules.isLength ? m_rules.textWithUnit(range.low)
-                                              : m_rules.text(range.low);
+        const CXString low =
+            m_rules.isLength ? m_rules.textWithUnit(range.low) : m_rules.text(range.low);
         text += CXString::Formatted(String(O7STR_M_RANGE_PART).c_str(), low.c_str(),
                                     m_rules.textWithUnit(range.high).c_str());
     }

@@ -136,7 +136,8 @@ std::unique_ptr<UITextControl> UISliderMolecule::CreateText(UIPageWindow& page, 
                                                             long lines) const
 {
     return std::make_unique<UITextControl>(page.window, page.takeId(), GetSite().services,
-                                           page.font, place, SIZE{width, lines * UITextRuler::kLineHeight},
+                                           page.font, place,
+                                           SIZE{width, lines * UITextRuler::kLineHeight},
                                            style | SS_NOTIFY | SS_NOPREFIX, true, page.boldFont);
 }
 
@@ -191,11 +192,10 @@ void UISliderMolecule::SetPosition(POINT position)
 
 void UISliderMolecule::ReadRules()
 {
-    m_rules.ranges =
-        o7::numberRanges(*GetSite()
-                              .featureServices.GetListOfFeaturesFor(GetBoundFeature())
-                              .GetIntegerFeature(GetBoundFeature())
-                              .GetRangeCapabilities());
+    m_rules.ranges = o7::numberRanges(*GetSite()
+                                           .featureServices.GetListOfFeaturesFor(GetBoundFeature())
+                                           .GetIntegerFeature(GetBoundFeature())
+                                           .GetRangeCapabilities());
 }
 
 std::optional<int> UISliderMolecule::ReadNumber() const
@@ -313,11 +313,11 @@ void UISliderMolecule::DumpControls() const
     if (!m_slider || !UIDump::isCollecting())
         return;
     const UIDump::Level inner;
-    UIDump::line((L"- " + CXString::Formatted(
-                              GetSite().strings.LoadStringW(O7STR_M_RANGE_PART).c_str(),
-                              m_rules.text(m_slider->getMinimum()).c_str(),
-                              m_rules.text(m_slider->getMaximum()).c_str()))
-                     .View());
+    UIDump::line(
+        (L"- " + CXString::Formatted(GetSite().strings.LoadStringW(O7STR_M_RANGE_PART).c_str(),
+                                     m_rules.text(m_slider->getMinimum()).c_str(),
+                                     m_rules.text(m_slider->getMaximum()).c_str()))
+            .View());
 }
 
 CXString UISliderMolecule::GetObserverClassNameHeirarchy() const
