@@ -5,6 +5,7 @@
 #include <commctrl.h>
 #include <prsht.h>
 
+#include "booleanfeatureref.h"
 #include "eventid.h"
 #include "eventnotification.h"
 #include "idledriver.h"
@@ -12,7 +13,7 @@
 #include "notificationbundle.h"
 #include "orvikexception.h"
 #include "sheetrig.h"
-#include "tables/productids.h"
+#include "tables/tablerows.h"
 #include "uidata.h"
 #include "uifixture.h"
 #include "uimessagemanager.h"
@@ -34,12 +35,18 @@ constexpr UIMoleculeRecord kChecks[] = {
 constexpr UIColumnRecord kColumns[] = {{7, 200, 0, kChecks}};
 // Too low for its content, so it is described but not shown.
 constexpr UIContainerRecord kLowPage = {99, O7STR_TAB_LAYOUT, 220, 12, kColumns};
+// The fields of this one can refuse what is typed.
+constexpr UIMoleculeRecord kFields[] = {spin<kCopies, O7STR_L_COPIES>(),
+                                        check<kCollate, O7STR_L_COLLATE>()};
+constexpr UIColumnRecord kFieldColumns[] = {{7, 200, 0, kFields}};
+constexpr UIContainerRecord kFieldPage = {2, O7STR_TAB_LAYOUT, 220, 90, kFieldColumns};
+constexpr int kFieldPageIndex = 1;
 
 constexpr UIContainerRecord page(std::uint32_t id)
 {
     return {id, O7STR_TAB_PAPER, 220, 60, kColumns};
 }
-constexpr UIContainerRecord kThreePages[] = {page(1), kLowPage, page(2), page(3)};
+constexpr UIContainerRecord kThreePages[] = {page(1), kLowPage, kFieldPage, page(3)};
 constexpr UIContainerRecord kSixteenPages[] = {
     page(1), page(2),  page(3),  page(4),  page(5),  page(6),  page(7),  page(8),
     page(9), page(10), page(11), page(12), page(13), page(14), page(15), page(16)};
@@ -96,6 +103,22 @@ IdleDriver::Step press(int button)
     };
 }
 
+constexpr wchar_t kCopiesLabel[] = L"Copies:";
+
+/// Replaces what stands in the box of the copies.
+IdleDriver::Step type(const wchar_t* text)
+{
+    return [=](HWND sheet) {
+        const HWND field = sheet ? findListBehind(sheet, kCopiesLabel) : nullptr;
+        if (!field)
+            return false;
+        SetFocus(field);
+        SendMessageW(field, EM_SETSEL, 0, -1);
+        SendMessageW(field, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(text));
+        return true;
+    };
+}
+
 std::string s_shownText;
 void rememberShown(const ExceptionDisplay& display)
 {
@@ -131,30 +154,86 @@ protected:
     }
 };
 
-TEST_F(SheetApplyTest, OneApplyOfThreeVisitedPagesIsOneEvent)
+/// Every way through three pages: only the visited ones are counted, a page that refuses starts the
+/// count anew, comes to the front, and its field gets the keyboard.
+TEST_F(SheetApplyTest, OneRoundOverTheVisitedPagesIsOneEvent)
 {
+    constexpr struct
+    {
+        std::vector<int> (*visited)();
+        bool refuses;
+        int button;
+    } kRows[] = {
+        {[] { return std::vector<int>{}; }, false, PSBTN_APPLYNOW},
+        {[] { return std::vector<int>{}; }, false, PSBTN_OK},
+        {[] { return std::vector<int>{2}; }, false, PSBTN_APPLYNOW},
+        {[] {
+             return std::vector<int>{1, 2};
+         },
+         false, PSBTN_APPLYNOW},
+        {[] {
+             return std::vector<int>{1, 2};
+         },
+         false, PSBTN_OK},
+        {[] { return std::vector<int>{1}; }, true, PSBTN_APPLYNOW},
+        {[] {
+             return std::vector<int>{1, 0};
+         },
+         true, PSBTN_OK},
+        {[] {
+             return std::vector<int>{1, 2};
+         },
+         true, PSBTN_APPLYNOW},
+        {[] {
+             return std::vector<int>{2, 1, 0};
+         },
+         true, PSBTN_OK},
+    };
     const UIData data(kThree, UIMode::PrintingPreferences, Workflow::Standard);
-    SheetRig rig(session().productData(), model(), session().strings(), data);
-    const EventCounter counter(model(), {DataModelIds::kEventOk, DataModelIds::kEventApply});
-    std::size_t afterApply = 0;
-    run(rig, {show(1), show(2),
-              [&](HWND sheet) {
-                  // The page that does not fit has left no gap.
-                  EXPECT_EQ(TabCtrl_GetItemCount(reinterpret_cast<HWND>(
-                                SendMessageW(sheet, PSM_GETTABCONTROL, 0, 0))),
-                            3);
-                  PropSheet_Changed(sheet, currentPage(sheet));
-                  return true;
-              },
-              press(PSBTN_APPLYNOW),
-              [&](HWND) {
-                  afterApply = counter.seen.size();
-                  return true;
-              },
-              press(PSBTN_OK)});
-    EXPECT_EQ(afterApply, 1U);
-    const std::vector<int> expected{DataModelIds::kEventApply, DataModelIds::kEventOk};
-    EXPECT_EQ(counter.seen, expected);
+    int number = 0;
+    for (const auto& row : kRows) {
+        SCOPED_TRACE(number++);
+        SheetRig rig(session().productData(), model(), session().strings(), data);
+        const EventCounter counter(model(), {DataModelIds::kEventOk, DataModelIds::kEventApply});
+        std::vector<IdleDriver::Step> steps{[&](HWND sheet) {
+            // The page that does not fit has left no gap.
+            const auto tabs = reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETTABCONTROL, 0, 0));
+            EXPECT_EQ(TabCtrl_GetItemCount(tabs), 3);
+            return true;
+        }};
+        for (const int index : row.visited()) {
+            steps.push_back(show(index));
+            if (row.refuses && index == kFieldPageIndex)
+                steps.push_back(type(L"0"));
+        }
+        HWND sheetWindow = nullptr;
+        if (row.refuses) {
+            steps.push_back([&](HWND sheet) { return (sheetWindow = sheet) != nullptr; });
+            steps.push_back(press(row.button));
+            steps.push_back([&](HWND box) {
+                return box && box != sheetWindow && PostMessageW(box, WM_COMMAND, IDOK, 0);
+            });
+            steps.push_back([&](HWND sheet) {
+                return sheet == sheetWindow && GetFocus() == findListBehind(sheet, kCopiesLabel);
+            });
+            steps.push_back([&](HWND sheet) {
+                EXPECT_TRUE(counter.seen.empty());
+                EXPECT_FALSE(boolean(DataModelIds::kFeatureApplyIsValid));
+                EXPECT_TRUE(IsChild(currentPage(sheet), GetFocus()));
+                return true;
+            });
+            steps.push_back(type(L"7"));
+        }
+        steps.push_back(press(row.button));
+        if (row.button == PSBTN_APPLYNOW) {
+            steps.push_back([&](HWND) { return !counter.seen.empty(); });
+            steps.push_back(press(PSBTN_CANCEL));
+        }
+        run(rig, std::move(steps));
+        const int event =
+            row.button == PSBTN_OK ? DataModelIds::kEventOk : DataModelIds::kEventApply;
+        EXPECT_EQ(counter.seen, std::vector<int>{event});
+    }
 }
 
 TEST_F(SheetApplyTest, PagesTellActivationFirstPaintAndCancelOnce)
@@ -170,24 +249,68 @@ TEST_F(SheetApplyTest, PagesTellActivationFirstPaintAndCancelOnce)
     EXPECT_EQ(counter.seen, expected);
 }
 
+/// Whatever the cause, and back again.
 TEST_F(SheetApplyTest, ApplyIsEnabledExactlyWhileSomethingDiffers)
 {
-    const UIData data(kThree, UIMode::PrintingPreferences, Workflow::Standard);
-    SheetRig rig(session().productData(), model(), session().strings(), data);
     constexpr int kApplyId = 0x3021;
-    std::vector<bool> enabled;
-    const auto look = [&](HWND sheet) {
-        enabled.push_back(IsWindowEnabled(GetDlgItem(sheet, kApplyId)) != FALSE);
-        return true;
-    };
     const auto tick = [](HWND sheet) {
         const HWND box = findControl(sheet, L"BUTTON", L"Collate copies");
-        if (box)
-            PostMessageW(box, BM_CLICK, 0, 0);
-        return box != nullptr;
+        return box && PostMessageW(box, BM_CLICK, 0, 0);
     };
-    run(rig, {look, tick, look, tick, look, press(PSBTN_CANCEL)});
-    EXPECT_EQ(enabled, (std::vector<bool>{false, true, false}));
+    const auto arrow = [](int delta) {
+        return [=](HWND sheet) {
+            const HWND arrows = GetWindow(findListBehind(sheet, kCopiesLabel), GW_HWNDNEXT);
+            NMUPDOWN notification{{arrows, 0, UDN_DELTAPOS}, 1, delta};
+            notification.hdr.idFrom = static_cast<UINT_PTR>(GetDlgCtrlID(arrows));
+            SendMessageW(currentPage(sheet), WM_NOTIFY, notification.hdr.idFrom,
+                         reinterpret_cast<LPARAM>(&notification));
+            return arrows != nullptr;
+        };
+    };
+    const auto write = [this](bool value) {
+        return [=, this](HWND) {
+            return model()
+                .GetFullListOfFeatures()
+                .GetBooleanFeature(FeatureId(kTonerSaving))
+                .SetValue(value);
+        };
+    };
+    const bool toner = boolean(kTonerSaving);
+    const struct
+    {
+        const char* cause;
+        IdleDriver::Step step;
+        bool enabled;
+    } kRows[] = {
+        {"nothing", [](HWND sheet) { return sheet != nullptr; }, false},
+        {"another page", show(kFieldPageIndex), false},
+        {"a click", tick, true},
+        {"a click back", tick, false},
+        {"typing", type(L"3"), true},
+        {"typing the old value", type(L"1"), false},
+        {"typing what is not allowed", type(L"0"), true},
+        {"typing the old value over it", type(L"1"), false},
+        {"an arrow", arrow(1), true},
+        {"an arrow back", arrow(-1), false},
+        {"a write of somebody else", write(!toner), true},
+        {"the same undone", write(toner), false},
+        {"a click before Apply", tick, true},
+        {"Apply", press(PSBTN_APPLYNOW), false},
+        {"a click after Apply", tick, true},
+    };
+    const UIData data(kThree, UIMode::PrintingPreferences, Workflow::Standard);
+    SheetRig rig(session().productData(), model(), session().strings(), data);
+    std::vector<IdleDriver::Step> steps;
+    for (const auto& row : kRows) {
+        steps.push_back(row.step);
+        steps.push_back([&](HWND sheet) {
+            const bool enabled = IsWindowEnabled(GetDlgItem(sheet, kApplyId)) != FALSE;
+            EXPECT_EQ(enabled, row.enabled) << row.cause;
+            return true;
+        });
+    }
+    steps.push_back(press(PSBTN_CANCEL));
+    run(rig, std::move(steps));
 }
 
 TEST_F(SheetApplyTest, TheWarningKeepsTheSheetOpenEachTime)

@@ -39,9 +39,7 @@ constexpr UIMoleculeRecord kPaperRows[] = {combo<kPaperTray, O7STR_L_PAPER_TRAY>
                                            combo<kPaperType, O7STR_L_PAPER_TYPE>()};
 constexpr UIMoleculeRecord kLayoutRows[] = {check<kPageBorders, O7STR_L_PAGE_BORDERS>(),
                                             check<kCollate, O7STR_L_COLLATE>(),
-                                            combo<kOptimiseFor, O7STR_L_OPTIMISE_FOR>(),
-                                            {.kind = UIMoleculeKind::Status},
-                                            kDefaultsRows[0]};
+                                            combo<kOptimiseFor, O7STR_L_OPTIMISE_FOR>()};
 constexpr UIMoleculeRecord kImageRows[] = {combo<kPaperSize, O7STR_L_PAPER_SIZE>(),
                                            check<kAccounting, O7STR_L_ACCOUNTING>()};
 constexpr UIColumnRecord kPaperColumns[] = {left(kPaperRows)};

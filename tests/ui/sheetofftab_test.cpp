@@ -17,6 +17,7 @@
 #include "uifixture.h"
 #include "uimessagemanager.h"
 #include "uirecords.h"
+#include "uisheetwindow.h"
 #include "uistringnumbers.h"
 #include "uitabmanager.h"
 #include "windowtext.h"
@@ -186,6 +187,28 @@ TEST_F(SheetOffTabTest, RoomIsMadeUnderThePagesAndGivenBack)
         EXPECT_EQ(GetPropW(sheet, UIDialogProcedure::kManagerProperty), nullptr);
         DestroyWindow(sheet);
     }
+}
+
+TEST_F(SheetOffTabTest, AGrownSheetStaysOnItsScreenOrDoesNotGrow)
+{
+    auto rig = makeRig(kWithout);
+    const HWND sheet = open(*rig);
+    RECT screen{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
+    const Place start(sheet, nullptr);
+    SetWindowPos(sheet, nullptr, start.left, screen.bottom - start.height() - 5, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER);
+    const auto low = placesOf(sheet);
+    for (const LONG growth : {LONG{30}, screen.bottom - screen.top}) {
+        UISheetWindow window;
+        ASSERT_TRUE(window.adopt(sheet));
+        const bool grows = window.enlarge(growth);
+        EXPECT_EQ(grows, growth == 30);
+        EXPECT_EQ(Place(sheet, nullptr).bottom, grows ? screen.bottom : screen.bottom - 5);
+        window.restore();
+        EXPECT_EQ(placesOf(sheet), low);
+    }
+    DestroyWindow(sheet);
 }
 
 TEST_F(SheetOffTabTest, AStrangerInFrontOfOurProcedureKeepsHisChain)

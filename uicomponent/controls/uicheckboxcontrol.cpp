@@ -13,7 +13,7 @@ static_assert((kStyle | BS_AUTO3STATE) == 0x50010006);
 
 UICheckBoxControl::UICheckBoxControl(HWND parent, int id, UIServices& services, HFONT font,
                                      POINT location, SIZE size, bool threeState)
-    : UIControl(parent, id, services, font, location, size, false)
+    : UIControl(parent, id, services, font, location, size, false), m_threeState(threeState)
 {
     setVisibleFlag(true);
     createControlWindow(L"BUTTON", kStyle | (threeState ? BS_AUTO3STATE : BS_AUTOCHECKBOX));
@@ -39,5 +39,13 @@ int UICheckBoxControl::getCheck() const
 
 void UICheckBoxControl::setCheck(int state)
 {
+    // Without the third state the system would show a tick instead.
+    const bool needsThird = m_threeState || state == BST_INDETERMINATE;
+    const LONG_PTR style = ::GetWindowLongPtrW(getHwnd(), GWL_STYLE);
+    const LONG_PTR wanted =
+        (style & ~LONG_PTR{BS_TYPEMASK}) | (needsThird ? BS_AUTO3STATE : BS_AUTOCHECKBOX);
+    if (wanted != style) {
+        ::SetWindowLongPtrW(getHwnd(), GWL_STYLE, wanted);
+    }
     o7::setCheckState(getHwnd(), state);
 }

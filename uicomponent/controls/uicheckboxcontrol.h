@@ -18,6 +18,10 @@ public:
 
     /// BST_UNCHECKED, BST_CHECKED or BST_INDETERMINATE.
     int getCheck() const;
-    /// Shows the state without a notification; nothing happens when it is shown already.
+    /// Shows the state without a notification; nothing happens when it is shown already. Also a box
+    /// of two states can show BST_INDETERMINATE: it then has three until it shows another one.
     void setCheck(int state);
+
+private:
+    bool m_threeState;
 };

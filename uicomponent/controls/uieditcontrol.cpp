@@ -42,6 +42,14 @@ void UIEditControl::setText(const CXString& text)
     o7::setWindowTextIfDifferent(getHwnd(), text);
 }
 
+void UIEditControl::keepUnmirrored()
+{
+    const LONG_PTR style = ::GetWindowLongPtrW(getHwnd(), GWL_EXSTYLE);
+    if ((style & WS_EX_LAYOUTRTL) != 0) {
+        ::SetWindowLongPtrW(getHwnd(), GWL_EXSTYLE, style & ~LONG_PTR{WS_EX_LAYOUTRTL});
+    }
+}
+
 void UIEditControl::selectAll()
 {
     ::SendMessageW(getHwnd(), EM_SETSEL, 0, -1);
@@ -50,5 +58,13 @@ void UIEditControl::selectAll()
 LRESULT UIEditControl::subclassWindowProcedure(HWND window, UINT message, WPARAM wParam,
                                                LPARAM lParam)
 {
-    return callSavedProcedure(window, message, wParam, lParam);
+    if (message != WM_PASTE) {
+        return callSavedProcedure(window, message, wParam, lParam);
+    }
+    // Cut off at the limit, a pasted text would be another one without a word about it.
+    const LRESULT limit = ::SendMessageW(window, EM_GETLIMITTEXT, 0, 0);
+    ::SendMessageW(window, EM_LIMITTEXT, 0, 0);
+    const LRESULT result = callSavedProcedure(window, message, wParam, lParam);
+    ::SendMessageW(window, EM_LIMITTEXT, static_cast<WPARAM>(limit), 0);
+    return result;
 }

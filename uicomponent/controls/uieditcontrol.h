@@ -12,7 +12,8 @@ class O7UI_API UIEditControl : public UIControl, private o7::SubclassedWindow<UI
 public:
     /// @param style      added to WS_VISIBLE (ES_... bits; WS_CHILD too, unless bordered)
     /// @param bordered   a child with a border that Tab stops at and that scrolls
-    /// @param textLimit  characters that can be typed (EM_LIMITTEXT); 0 is the system's own limit
+    /// @param textLimit  characters that can be typed (EM_LIMITTEXT); 0 is the system's own limit.
+    ///                   What is pasted comes whole, for the owner to judge.
     UIEditControl(HWND parent, int id, UIServices& services, HFONT font, POINT location, SIZE size,
                   DWORD style, bool bordered, int textLimit);
     ~UIEditControl() override;
@@ -24,6 +25,9 @@ public:
     /// Sets the text, which may be longer than what can be typed. When it stands there already
     /// nothing happens: no repaint, no EN_CHANGE, and the caret stays where it is.
     void setText(const CXString& text);
+    /// For numbers: on a mirrored page the field itself is not, so that its digits and separators
+    /// keep their order. Right after creation.
+    void keepUnmirrored();
     /// Selects all of the text, so that typing replaces it.
     void selectAll();
 

@@ -2,6 +2,7 @@
 
 #include "entrydrawing.h"
 #include "itemrecord.h"
+#include "textmeasure.h"
 #include "uitooltips.h"
 #include "uiwindowsmessage.h"
 #include "windowtext.h"
@@ -320,9 +321,8 @@ bool UIEntryListControl::filterPointing(HWND list, UINT message, LPARAM lParam)
     case WM_LBUTTONDBLCLK:
     case WM_LBUTTONUP: {
         const int index = entryAt(list, lParam);
-        const bool isOverGrey = index >= 0 && isGrey(index);
-        pointAt(list, lParam, isOverGrey, index);
-        return isOverGrey;
+        pointAt(list, lParam, index);
+        return index >= 0 && isGrey(index);
     }
     case WM_WINDOWPOSCHANGED:
         if ((reinterpret_cast<const WINDOWPOS*>(lParam)->flags & SWP_HIDEWINDOW) != 0) {
@@ -341,13 +341,13 @@ bool UIEntryListControl::filterPointing(HWND list, UINT message, LPARAM lParam)
 
 /// A move that goes nowhere is none: Windows sends one whenever a window appears, and the reason of
 /// an entry that a key has passed over would go with it.
-void UIEntryListControl::pointAt(HWND list, LPARAM position, bool isOverGrey, int index)
+void UIEntryListControl::pointAt(HWND list, LPARAM position, int index)
 {
     if (position == m_pointed) {
         return;
     }
     m_pointed = position;
-    if (!isOverGrey) {
+    if (index < 0 || !(isGrey(index) || isCut(index))) {
         hideReason();
         return;
     }
@@ -374,13 +374,33 @@ int UIEntryListControl::entryAt(HWND list, LPARAM position) const
     return known != LB_ERR && ::PtInRect(&entry, point) != FALSE ? nearest : -1;
 }
 
+/// Whether the entry is drawn with an ellipsis in place of its end.
+bool UIEntryListControl::isCut(int index) const
+{
+    const HWND list = entryWindow();
+    RECT room{};
+    ::GetClientRect(list, &room);
+    ::InflateRect(&room, -::GetSystemMetrics(SM_CXEDGE), 0); // as it is drawn
+    const auto font = reinterpret_cast<HFONT>(::SendMessageW(list, WM_GETFONT, 0, 0));
+    return o7::TextMeasure(font).measure(textOf(index).View()).cx > room.right - room.left;
+}
+
+CXString UIEntryListControl::tipFor(int index) const
+{
+    const CXString reason = isGrey(index) ? m_reasonOf(index) : CXString();
+    if (!isCut(index)) {
+        return reason;
+    }
+    return reason.IsEmpty() ? textOf(index) : textOf(index) + L"\n" + reason;
+}
+
 void UIEntryListControl::showReason(int index)
 {
     if (index == m_reasonIndex || m_toolTips == nullptr || !m_reasonOf) {
         return;
     }
     hideReason();
-    const CXString reason = m_reasonOf(index);
+    const CXString reason = tipFor(index);
     if (reason.IsEmpty()) {
         return;
     }

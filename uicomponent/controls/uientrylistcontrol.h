@@ -74,7 +74,8 @@ public:
     void draw(const DRAWITEMSTRUCT& item) const;
 
     /// Where the reasons of grey entries come from; asked only when one is to be shown. An empty
-    /// text shows none.
+    /// text shows none. In the same tip, an entry that is wider than the list shows all of its
+    /// text.
     /// @param toolTips  borrowed, may be null; must outlive the control
     void setUnavailableReasons(UIToolTips* toolTips, std::function<CXString(int index)> reasonOf);
 
@@ -127,7 +128,9 @@ private:
     int findAvailable(const CXString& beginning, int start) const;
     void select(int index);
     int entryAt(HWND list, LPARAM position) const;
-    void pointAt(HWND list, LPARAM position, bool isOverGrey, int index);
+    void pointAt(HWND list, LPARAM position, int index);
+    bool isCut(int index) const;
+    CXString tipFor(int index) const;
     void showReason(int index);
 
     const o7::EntryListMessages& m_messages;

@@ -1,7 +1,10 @@
 #include "uiradiobuttoncontrol.h"
 
+#include "buttonpicture.h"
 #include "checkstate.h"
 #include "cxstring.h"
+#include "dialogconversion.h"
+#include "isolationaware.h"
 #include "windowtext.h"
 
 #include <algorithm>
@@ -11,6 +14,7 @@ namespace {
 
 constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | BS_RADIOBUTTON;
 static_assert(kStyle == 0x50000004);
+constexpr SIZE kPictureMargin{4, 4}; // dialog units that a picture is smaller by, each way
 
 bool hasStyle(HWND window, LONG_PTR bit)
 {
@@ -83,15 +87,45 @@ int UIRadioButtonControl::getCheck() const
 void UIRadioButtonControl::setCheck(int state)
 {
     if (getCheck() == state) {
+        showPicture();
         return;
     }
     const bool wasTabStop = hasStyle(getHwnd(), WS_TABSTOP);
     o7::setCheckState(getHwnd(), state);
+    showPicture();
     if (state == BST_CHECKED) {
         claimTabStop(getHwnd());
     } else {
         // Windows takes the stop away with the check; a group without any could not be reached.
         giveTabStop(getHwnd(), wasTabStop);
+    }
+}
+
+void UIRadioButtonControl::setPictures(int picture, int checkedPicture)
+{
+    const SIZE margin = getConversion().dialogUnitsToPixels(kPictureMargin);
+    const SIZE whole = getDimensionInPixels();
+    const SIZE area{whole.cx - margin.cx, whole.cy - margin.cy};
+    const HINSTANCE module = IsolationAware::moduleInstance();
+    m_picture = o7::loadButtonPicture(module, picture, area);
+    if (!m_picture) {
+        return;
+    }
+    if (checkedPicture != picture) {
+        m_checkedPicture = o7::loadButtonPicture(module, checkedPicture, area);
+    }
+    ::SetWindowLongPtrW(getHwnd(), GWL_STYLE,
+                        ::GetWindowLongPtrW(getHwnd(), GWL_STYLE) | LONG_PTR{BS_ICON});
+}
+
+/// Not before the check is known: some systems do not give back what an exchanged picture took.
+void UIRadioButtonControl::showPicture()
+{
+    const bool isChecked = getCheck() == BST_CHECKED && m_checkedPicture;
+    const HICON wanted = (isChecked ? m_checkedPicture : m_picture).get();
+    if (wanted != m_shownPicture) {
+        m_shownPicture = wanted;
+        ::SendMessageW(getHwnd(), BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(wanted));
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "subclassedwindow.h"
 #include "uicontrol.h"
+#include "uihandles.h"
 
 class CXString;
 
@@ -25,6 +26,11 @@ public:
     /// button shows that text already.
     void setText(const CXString& text);
 
+    /// Shows pictures of the module's resources in place of the text, which screen readers go on
+    /// saying. They are shown with the next setCheck. Once only; without the first the text stays.
+    /// @param picture,checkedPicture  resource numbers; 0 for the second: the same picture
+    void setPictures(int picture, int checkedPicture);
+
     /// BST_UNCHECKED or BST_CHECKED.
     int getCheck() const;
     /// Shows the state without a notification; nothing happens when it is shown already.
@@ -40,4 +46,9 @@ private:
     static constexpr const wchar_t* kSource = L"uiradiobuttoncontrol";
 
     LRESULT subclassWindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    void showPicture();
+
+    o7::UniqueIcon m_picture;
+    o7::UniqueIcon m_checkedPicture;
+    HICON m_shownPicture = nullptr;
 };

@@ -145,13 +145,14 @@ void UIPopupDialog::placeOnScreen() const
     SetWindowPos(window, nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-bool UIPopupDialog::processCommand(const _UIWindowsMessage& message) const
+bool UIPopupDialog::processCommand(const _UIWindowsMessage& message)
 {
     if (HIWORD(message.wParam) != BN_CLICKED)
         return false;
     switch (LOWORD(message.wParam)) {
     case IDOK:
-        EndDialog(getWindow(), 1);
+        if (validateAll())
+            EndDialog(getWindow(), 1);
         return true;
     case IDCANCEL:
         EndDialog(getWindow(), 0);

@@ -38,7 +38,7 @@ private:
     void createButtons();
     void focusFirst() const;
     void placeOnScreen() const;
-    bool processCommand(const _UIWindowsMessage& message) const;
+    bool processCommand(const _UIWindowsMessage& message);
     void goToConflict(bool backwards) const;
 
     const UIContainerData& m_data;

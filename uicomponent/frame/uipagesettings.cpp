@@ -42,10 +42,13 @@ UIPageSettings::UIPageSettings(FeatureServices& featureServices, const SetOfSett
     }
 }
 
-bool UIPageSettings::contains(const FeatureIdWithContext& feature) const
+std::optional<std::size_t> UIPageSettings::find(const FeatureIdWithContext& feature) const
 {
-    return std::any_of(m_settings.begin(), m_settings.end(),
-                       [&](const Setting& setting) { return setting.id == feature; });
+    const auto found = std::find_if(m_settings.begin(), m_settings.end(),
+                                    [&](const Setting& setting) { return setting.id == feature; });
+    if (found == m_settings.end())
+        return std::nullopt;
+    return static_cast<std::size_t>(found - m_settings.begin());
 }
 
 void UIPageSettings::addChanged(std::vector<FeatureIdWithContext>& changed) const

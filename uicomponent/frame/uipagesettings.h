@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <vector>
 
 #include "cxstring.h"
@@ -18,7 +20,9 @@ public:
     /// @param settings  what the page collects. The services are borrowed.
     UIPageSettings(FeatureServices& featureServices, const SetOfSettingIds& settings);
 
-    bool contains(const FeatureIdWithContext& feature) const;
+    /// How many settings of the page come before this one; nothing when it is not among them.
+    std::optional<std::size_t> find(const FeatureIdWithContext& feature) const;
+    std::size_t size() const { return m_settings.size(); }
 
     /// Appends what has another value than its default and can be changed, in the order of the
     /// page; what is in the list already stays there once.

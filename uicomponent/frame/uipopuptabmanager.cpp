@@ -4,6 +4,7 @@
 #include "uicontainerdata.h"
 #include "uicontext.h"
 #include "uidialogactiondata.h"
+#include "uisheetguide.h"
 
 UIPopupTabManager::UIPopupTabManager(UIServices& services, UIMessageManager& messageManager,
                                      HINSTANCE moduleInstance, FeatureServices& featureServices,
@@ -27,6 +28,8 @@ std::size_t UIPopupTabManager::createPagesForPropertySheet(const Descriptions& d
 
 bool UIPopupTabManager::handlePageMessage(const _UIWindowsMessage& message)
 {
+    if (getGuide().handleMessage(message))
+        return true;
     if (message.message != WM_INITDIALOG)
         return offerToTabs(message);
     prepareSheet(message);

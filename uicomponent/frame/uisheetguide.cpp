@@ -5,12 +5,10 @@
 #include <algorithm>
 
 #include "featureservices.h"
-#include "productstringloader.h"
 #include "setofsettingids.h"
 #include "uibuttonaction.h"
 #include "uibuttonmolecule.h"
 #include "uimoleculedata.h"
-#include "uistringnumbers.h"
 #include "uitab.h"
 #include "uiwindowsmessage.h"
 
@@ -23,7 +21,7 @@ const FeatureIdWithContext kEverything;
 
 UISheetGuide::UISheetGuide(FeatureServices& featureServices, const ProductStringLoader& strings,
                            const Tabs& tabs)
-    : m_featureServices(featureServices), m_strings(strings), m_tabs(tabs)
+    : m_featureServices(featureServices), m_tabs(tabs), m_status(featureServices, strings)
 {
 }
 
@@ -59,14 +57,20 @@ bool UISheetGuide::handleMessage(const _UIWindowsMessage& message)
             activated(message.window);
         return false;
     case UIConflictWalk::kMessage:
-        goToConflict(message.wParam != 0);
-        return true;
     case kUpdateMessage:
-        update();
-        return true;
+        return message.window == m_page && serveOwn(message);
     default:
         return false;
     }
+}
+
+bool UISheetGuide::serveOwn(const _UIWindowsMessage& message)
+{
+    if (message.message == kUpdateMessage)
+        update();
+    else
+        goToConflict(message.wParam != 0);
+    return true;
 }
 
 void UISheetGuide::begin(HWND page)
@@ -130,14 +134,35 @@ void UISheetGuide::update()
     if (!m_sheet)
         return;
     reopenLastPage();
-    auto conflicts = m_featureServices.GetFeaturesInConflict();
-    std::erase_if(conflicts,
-                  [&](const auto& feature) { return !m_featureServices.TestFeature(feature); });
+    const auto conflicts = conflictsInOrder();
     markTabs(conflicts);
     for (const auto& tab : m_tabs)
         serveMolecules(*tab, conflicts);
     for (const UIMoleculeContainer* container : m_served)
         serveMolecules(*container, conflicts);
+}
+
+// As F8 walks: page by page. What no page shows comes last.
+std::vector<FeatureIdWithContext> UISheetGuide::conflictsInOrder()
+{
+    auto conflicts = UIConflictWalk::conflicts(m_featureServices);
+    if (conflicts.size() < 2)
+        return conflicts;
+    std::stable_sort(conflicts.begin(), conflicts.end(),
+                     [&](const auto& a, const auto& b) { return placeOf(a) < placeOf(b); });
+    return conflicts;
+}
+
+/// Counts the settings of all pages.
+std::size_t UISheetGuide::placeOf(const FeatureIdWithContext& feature)
+{
+    std::size_t place = 0;
+    for (const UIPageSettings& page : settings()) {
+        if (const auto found = page.find(feature))
+            return place + *found;
+        place += page.size();
+    }
+    return place;
 }
 
 // Found anew each time: a page may have lost its molecules, with its window, meanwhile.
@@ -149,7 +174,8 @@ void UISheetGuide::serveMolecules(const UIMoleculeContainer& container,
     for (UIMolecule* molecule : container.getMolecules()) {
         const UIMoleculeKind kind = molecule->GetData().getKind();
         if (kind == UIMoleculeKind::Status) {
-            static_cast<UIStatusMolecule*>(molecule)->SetStatus(describe(conflicts));
+            static_cast<UIStatusMolecule*>(molecule)->SetStatus(
+                m_status.describe(conflicts, settings(), m_active));
         } else if (kind == UIMoleculeKind::Button) {
             auto& button = static_cast<UIButtonMolecule&>(*molecule);
             if (button.GetAction() != o7::kActionPageDefaults)
@@ -158,50 +184,6 @@ void UISheetGuide::serveMolecules(const UIMoleculeContainer& container,
             button.SetEnabled(settings()[m_active].isChanged());
         }
     }
-}
-
-UIStatusMolecule::Status UISheetGuide::describe(const std::vector<FeatureIdWithContext>& conflicts)
-{
-    UIStatusMolecule::Status status;
-    status.reasons = settings()[m_active].hiddenReasons(m_strings);
-    status.reasonsTitle = m_strings.LoadStringW(O7STR_S_HIDDEN_TITLE);
-    status.inConflict = !conflicts.empty();
-    if (status.inConflict) {
-        status.text = CXString::Formatted(m_strings.LoadStringW(O7STR_S_IN_CONFLICT).c_str(),
-                                          namesOf(conflicts).c_str());
-        status.reasons = reasonsOf(conflicts) + status.reasons;
-        status.reasonsTitle = m_strings.LoadStringW(O7STR_S_CONFLICTS_TITLE);
-        return status;
-    }
-    std::vector<FeatureIdWithContext> changed;
-    for (const UIPageSettings& page : settings())
-        page.addChanged(changed);
-    status.text = changed.empty()
-                      ? m_strings.LoadStringW(O7STR_S_ALL_DEFAULT)
-                      : CXString::Formatted(m_strings.LoadStringW(O7STR_S_CHANGED).c_str(),
-                                            namesOf(changed).c_str());
-    return status;
-}
-
-CXString UISheetGuide::namesOf(const std::vector<FeatureIdWithContext>& features) const
-{
-    CXString names;
-    for (const FeatureIdWithContext& feature : features) {
-        if (!names.IsEmpty())
-            names += m_strings.LoadStringW(O7STR_S_SEPARATOR);
-        names += m_strings.GetStringForFeature(feature.GetFeatureEnum());
-    }
-    return names;
-}
-
-CXString UISheetGuide::reasonsOf(const std::vector<FeatureIdWithContext>& conflicts) const
-{
-    CXString reasons;
-    for (const FeatureIdWithContext& id : conflicts) {
-        const auto feature = m_featureServices.GetFeatureRef(id);
-        reasons += feature->GetCapabilities()->GetInterpretedState().GetCbrBtnMsg() + L"\n";
-    }
-    return reasons;
 }
 
 void UISheetGuide::reopenLastPage()
@@ -256,8 +238,9 @@ void UISheetGuide::markTabs(const std::vector<FeatureIdWithContext>& conflicts)
     }
     std::vector<bool> marked;
     for (const UIPageSettings& page : settings())
-        marked.push_back(std::any_of(conflicts.begin(), conflicts.end(),
-                                     [&](const auto& feature) { return page.contains(feature); }));
+        marked.push_back(std::any_of(conflicts.begin(), conflicts.end(), [&](const auto& feature) {
+            return page.find(feature).has_value();
+        }));
     for (std::size_t page = 0; page < marked.size(); ++page)
         m_tabs[page]->setInConflict(marked[page]);
     m_marks->show(marked);

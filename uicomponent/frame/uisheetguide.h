@@ -12,7 +12,7 @@
 #include "uifunctionkey.h"
 #include "uilastpage.h"
 #include "uipagesettings.h"
-#include "uistatusmolecule.h"
+#include "uisheetstatus.h"
 #include "uitabmarks.h"
 
 class FeatureServices;
@@ -48,7 +48,8 @@ public:
     /// those on the pages. The container has to live as long as the guide.
     void serve(const UIMoleculeContainer& container);
 
-    /// Has to see every message of the pages before they do. @return true for messages of its own.
+    /// Has to see every message of the pages before they do; those of other sheets may be among
+    /// them. @return true for messages of its own.
     bool handleMessage(const _UIWindowsMessage& message);
 
     /// Gives every setting of the page that is shown its default value.
@@ -62,18 +63,18 @@ public:
     CXString GetObserverClassNameHeirarchy() const override;
 
 private:
+    bool serveOwn(const _UIWindowsMessage& message);
     void begin(HWND page);
     void end();
     void activated(HWND page);
     void requestUpdate();
     void update();
     void reopenLastPage();
+    std::vector<FeatureIdWithContext> conflictsInOrder();
+    std::size_t placeOf(const FeatureIdWithContext& feature);
     void markTabs(const std::vector<FeatureIdWithContext>& conflicts);
     void serveMolecules(const UIMoleculeContainer& container,
                         const std::vector<FeatureIdWithContext>& conflicts);
-    UIStatusMolecule::Status describe(const std::vector<FeatureIdWithContext>& conflicts);
-    CXString namesOf(const std::vector<FeatureIdWithContext>& features) const;
-    CXString reasonsOf(const std::vector<FeatureIdWithContext>& conflicts) const;
     void goToConflict(bool backwards);
     bool selectPage(std::size_t page);
     int firstTab() const;
@@ -81,8 +82,8 @@ private:
     const std::vector<UIPageSettings>& settings();
 
     FeatureServices& m_featureServices;
-    const ProductStringLoader& m_strings;
     const Tabs& m_tabs;
+    UISheetStatus m_status;
     HWND m_sheet = nullptr;
     HWND m_page = nullptr; ///< the one whose messages serve the guide
     std::size_t m_active = 0;

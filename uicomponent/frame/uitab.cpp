@@ -161,23 +161,11 @@ bool UITab::queryCancel(const _UIWindowsMessage& message)
     return true;
 }
 
-/// A field that refuses its value says so on its page.
-void UITab::bringToFront() const
-{
-    const HWND sheet = GetParent(getWindow());
-    const auto window = reinterpret_cast<WPARAM>(getWindow());
-    if (SendMessageW(sheet, PSM_GETCURRENTPAGEHWND, 0, 0) == static_cast<LRESULT>(window))
-        return;
-    const LRESULT index = SendMessageW(sheet, PSM_HWNDTOINDEX, window, 0);
-    SendMessageW(sheet, PSM_SETCURSEL, static_cast<WPARAM>(index), 0);
-}
-
 bool UITab::apply(const _UIWindowsMessage& message)
 {
-    if (hasPendingInput())
-        bringToFront();
     const bool valid = validateAll();
-    // The sheet selects the page once more, which may move the keyboard away from the field.
+    // A field that refuses has brought its page to the front and has the keyboard. The sheet then
+    // selects the page once more, and takes the keyboard away.
     if (const HWND field = valid ? nullptr : GetFocus(); IsChild(getWindow(), field))
         PostMessageW(getWindow(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(field), TRUE);
     setResult(message, valid ? PSNRET_NOERROR : PSNRET_INVALID);

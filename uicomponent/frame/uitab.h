@@ -65,7 +65,6 @@ private:
     bool apply(const _UIWindowsMessage& message);
     bool killActive(const _UIWindowsMessage& message);
     bool setActive(const _UIWindowsMessage& message);
-    void bringToFront() const;
     void setResult(const _UIWindowsMessage& message, LONG_PTR result) const;
     void registerForEvents();
     void unregisterForEvents();

@@ -95,6 +95,7 @@ protected:
     /// Pages made from now on send no event when Cancel is queried.
     void suppressCancelEvent() { m_tabFlag = true; }
     const UIContext& getContext() const { return m_context; }
+    UISheetGuide& getGuide() const { return *m_guide; }
 
 private:
     struct Page;

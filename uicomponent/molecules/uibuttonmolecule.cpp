@@ -56,8 +56,11 @@ void UIButtonMolecule::SetEnabled(bool enabled)
     if (!m_button)
         return;
     const HWND button = m_button->getHwnd();
-    if (!enabled && GetFocus() == button)
-        SendMessageW(GetParent(button), WM_NEXTDLGCTL, 0, FALSE);
+    if (!enabled && GetFocus() == button) {
+        const HWND root = GetAncestor(button, GA_ROOT);
+        const HWND next = GetNextDlgTabItem(root, button, FALSE);
+        SendMessageW(root, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next), TRUE);
+    }
     m_button->setEnable(enabled);
 }
 

@@ -186,7 +186,7 @@ void UICheckBoxMolecule::ShowCheck(WPARAM check)
     if (!m_check || check == m_shownCheck)
         return;
     m_shownCheck = check;
-    SendMessageW(m_check->getHwnd(), BM_SETCHECK, check, 0);
+    m_check->setCheck(static_cast<int>(check));
     ShowOnDependants();
 }
 
@@ -269,6 +269,7 @@ void UICheckBoxMolecule::WriteCheck()
     else
         writer.SetBoolean(GetBoundFeature(), checked);
     LoadValue(); // the model may have refused the write
+    m_check->setCheck(static_cast<int>(m_shownCheck));
 }
 
 void UICheckBoxMolecule::SetHiddenBySetting(bool hidden)

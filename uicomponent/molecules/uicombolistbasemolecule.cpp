@@ -99,8 +99,7 @@ std::vector<int> UIComboListBaseMolecule::WantedOptions() const
     for (int index = 0; index < static_cast<int>(options.size()); ++index) {
         const Option& option = GetOption(index);
         const bool removed =
-            option.hidden ||
-            (option.unavailable && m_disabledOptions == UIDisabledOptions::Remove);
+            option.hidden || (option.unavailable && m_disabledOptions == UIDisabledOptions::Remove);
         if (!removed || IsPresent(option))
             wanted.push_back(index);
     }
@@ -124,10 +123,9 @@ void UIComboListBaseMolecule::FillList(const std::vector<int>& options)
         m_shownEntry = -1;
         for (const int index : options) {
             const Option& option = GetOption(index);
-            m_entries.push_back(
-                {{option.value.GetValueEnum(), option.unavailable || option.hidden},
-                 option.value,
-                 index});
+            m_entries.push_back({{option.value.GetValueEnum(), option.unavailable || option.hidden},
+                                 option.value,
+                                 index});
             list.setItemData(list.addItem(option.text), &m_entries.back().record);
         }
     });

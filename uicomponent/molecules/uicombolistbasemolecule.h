@@ -78,8 +78,8 @@ private:
     void UpdateMinimumHeight();
 
     UIMoleculeLabel m_label;
-    long m_listHeight = 0;        ///< with the room that a button beside the list wants
-    std::deque<Entry> m_entries;  ///< keep their address: the list's item data are their records
+    long m_listHeight = 0;       ///< with the room that a button beside the list wants
+    std::deque<Entry> m_entries; ///< keep their address: the list's item data are their records
     int m_shownEntry = -1;
     UIDisabledOptions m_disabledOptions = UIDisabledOptions::Grey;
 };

@@ -20,12 +20,18 @@ bool showsOneOf(const UIMolecule& molecule, const std::vector<FeatureIdWithConte
 
 } // namespace
 
-UIConflictWalk::UIConflictWalk(FeatureServices& featureServices, Containers containers)
-    : m_containers(std::move(containers))
+std::vector<FeatureIdWithContext> UIConflictWalk::conflicts(FeatureServices& featureServices)
 {
     auto features = featureServices.GetFeaturesInConflict();
     std::erase_if(features,
                   [&](const auto& feature) { return !featureServices.TestFeature(feature); });
+    return features;
+}
+
+UIConflictWalk::UIConflictWalk(FeatureServices& featureServices, Containers containers)
+    : m_containers(std::move(containers))
+{
+    const auto features = conflicts(featureServices);
     Place place;
     for (place.container = 0; place.container < std::ssize(m_containers); ++place.container) {
         place.molecule = 0;

@@ -6,6 +6,8 @@
 #include <optional>
 #include <vector>
 
+#include "featureidwithcontext.h"
+
 class FeatureServices;
 class UIMolecule;
 class UIMoleculeContainer;
@@ -27,6 +29,9 @@ public:
         std::ptrdiff_t molecule = -1;
         auto operator<=>(const Place&) const = default;
     };
+
+    /// The features in conflict that are not hidden, as they stand in the product.
+    static std::vector<FeatureIdWithContext> conflicts(FeatureServices& featureServices);
 
     /// The containers are borrowed.
     UIConflictWalk(FeatureServices& featureServices, Containers containers);

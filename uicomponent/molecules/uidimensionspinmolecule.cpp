@@ -60,8 +60,7 @@ UINumberRules UIDimensionSpinMolecule::MakeRules()
         rules.increment = data->getIncrement(metric);
         unitLabel = data->getUnitLabel(metric);
     }
-    rules.unitText =
-        LoadText(unitLabel ? unitLabel : metric ? O7STR_U_MILLIMETRE : O7STR_U_INCH);
+    rules.unitText = LoadText(unitLabel ? unitLabel : metric ? O7STR_U_MILLIMETRE : O7STR_U_INCH);
 
     const auto features = GetSite().featureServices.GetListOfFeaturesFor(GetBoundFeature());
     if (const auto stored = StoredUnits()) {

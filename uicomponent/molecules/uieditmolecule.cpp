@@ -21,8 +21,8 @@ namespace {
 
 // Dialog units.
 constexpr long kBoxHeight = 14;
-constexpr long kFrame = 6;       // above and below the lines of a box
-constexpr long kRaisedDrop = 9;  // room for a button above the box
+constexpr long kFrame = 6;      // above and below the lines of a box
+constexpr long kRaisedDrop = 9; // room for a button above the box
 
 } // namespace
 
@@ -96,7 +96,8 @@ void UIEditMolecule::CreateNumber(UIPageWindow& page, POINT place, long width)
     m_number = std::make_unique<UINumberField>();
     m_field = m_number.get();
     m_number->SetRules(rules);
-    m_number->SetWriter([this](std::int64_t value) { return WriteNumber(static_cast<int>(value)); });
+    m_number->SetWriter(
+        [this](std::int64_t value) { return WriteNumber(static_cast<int>(value)); });
     m_number->Create(page, {GetSite(), GetToolTips(), GetBoundFeature(), m_label.GetText()}, place,
                      width, false);
 }
@@ -168,7 +169,10 @@ void UIEditMolecule::ShowState(const InterpretedState& state, bool enabled)
     if (!m_field)
         return;
     // What can only be read can still be selected and copied.
-    const bool readOnly = !enabled && !state.IsDisabled() && !IsForceDisabled();
+    const auto capabilities =
+        GetSite().featureServices.GetFeatureRef(GetBoundFeature())->GetCapabilities();
+    const bool readOnly = capabilities->IsReadOnly() && !IsForceDisabled() &&
+                          !capabilities->GetInterpretedState().IsDisabled();
     m_field->SetReadOnly(readOnly);
     m_field->Enable(enabled || readOnly);
 }

@@ -163,7 +163,7 @@ void UIMolecule::DisconnectFromDataModel()
 
 int UIMolecule::GetFeatureState() const
 {
-    return m_data.hasFeatureState() ? 1 : 2;
+    return IsBound() && m_data.hasFeatureState() ? 1 : 2;
 }
 
 void UIMolecule::ShowInfoButton(bool shown)

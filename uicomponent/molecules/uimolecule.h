@@ -73,7 +73,8 @@ public:
     virtual void LeavePage();
     virtual void ConnectToDataModel();
     virtual void DisconnectFromDataModel();
-    /// 1 when the description marks the molecule as one whose state counts for its page, else 2.
+    /// 1 when the description marks the molecule as one whose state counts for its page; 2 when it
+    /// does not, and for a molecule that is bound to nothing.
     virtual int GetFeatureState() const;
     virtual void ShowInfoButton(bool shown);
     /// Called after the page's resolution or theme changed.

@@ -11,7 +11,9 @@
 
 namespace {
 
-constexpr long kMarkWidth = 12; // dialog units; the check mark and its gap
+// Dialog units.
+constexpr long kMarkWidth = 12; // the check mark and its gap
+constexpr long kAroundLines = 2;
 
 } // namespace
 
@@ -33,6 +35,16 @@ void UIMoleculeSwitch::SetMoleculeFeature(const FeatureIdWithContext& feature)
     m_ownFeature = !(m_feature == feature);
 }
 
+void UIMoleculeSwitch::Fit(const UITextRuler& ruler, long width)
+{
+    m_lines = m_exists ? ruler.LinesOf(m_text, width - kMarkWidth) : 1;
+}
+
+long UIMoleculeSwitch::GetHeight() const
+{
+    return m_lines * UITextRuler::kLineHeight + kAroundLines;
+}
+
 long UIMoleculeSwitch::GetWantedWidth(const UITextRuler& ruler) const
 {
     return m_exists ? ruler.WidthOf(m_text) + kMarkWidth : 0;
@@ -43,7 +55,9 @@ void UIMoleculeSwitch::Create(UIPageWindow& page, POINT place, long width)
     if (!m_exists)
         return;
     m_check = std::make_unique<UICheckBoxControl>(page.window, page.takeId(), m_site.services,
-                                                  page.font, place, SIZE{width, kHeight}, false);
+                                                  page.font, place, SIZE{width, GetHeight()}, false);
+    if (m_lines > 1)
+        m_check->setMultiline();
     m_check->setLabelText(m_text);
 }
 
@@ -59,17 +73,28 @@ void UIMoleculeSwitch::Show(bool shown)
         m_check->setShow(shown);
 }
 
-void UIMoleculeSwitch::Enable(bool enabled)
+// A switch of its own goes by its own feature alone: what it switches may be disabled just because
+// it is off.
+void UIMoleculeSwitch::Enable(bool enabled, bool forceDisabled)
 {
-    if (!m_check)
-        return;
-    // What the switch stands before may be disabled because it is off.
-    if (m_ownFeature)
-        enabled = !m_site.featureServices.GetFeatureRef(m_feature)
-                       ->GetCapabilities()
-                       ->GetInterpretedState()
-                       .IsDisabled();
-    m_check->setEnable(enabled);
+    if (m_check)
+        m_check->setEnable(m_ownFeature ? !forceDisabled && !OwnState().IsDisabled() : enabled);
+}
+
+InterpretedState UIMoleculeSwitch::OwnState() const
+{
+    if (!HasOwnFeature())
+        return {};
+    return m_site.featureServices.GetFeatureRef(m_feature)
+        ->GetCapabilities()
+        ->GetInterpretedState();
+}
+
+void UIMoleculeSwitch::AddReason(InterpretedState& state) const
+{
+    const InterpretedState own = OwnState();
+    if (own.IsDisabled())
+        state.AddInfo(own.GetReason());
 }
 
 bool UIMoleculeSwitch::Read() const
@@ -77,9 +102,8 @@ bool UIMoleculeSwitch::Read() const
     if (!m_ownFeature)
         return m_site.featureServices.GetFeatureRef(m_feature)->IsSpecified();
     bool on = false;
-    m_site.featureServices.GetListOfFeaturesFor(m_feature)
-        .GetBooleanFeature(m_feature)
-        .GetValue(on, FeatureRef::kDoNotAssertIfUnsupported);
+    m_site.featureServices.GetListOfFeaturesFor(m_feature).GetBooleanFeature(m_feature).GetValue(
+        on, FeatureRef::kDoNotAssertIfUnsupported);
     return on;
 }
 

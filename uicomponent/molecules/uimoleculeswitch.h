@@ -6,6 +6,7 @@
 
 #include "cxstring.h"
 #include "featureidwithcontext.h"
+#include "interpretedstate.h"
 #include "uimoleculesite.h"
 #include "uipagewindow.h"
 #include "uiwindowsmessage.h"
@@ -34,6 +35,9 @@ public:
     bool HasOwnFeature() const { return m_exists && m_ownFeature; }
     const FeatureIdWithContext& GetFeature() const { return m_feature; }
     const CXString& GetText() const { return m_text; }
+    /// Counts the lines of the text for the width that box and text get.
+    void Fit(const UITextRuler& ruler, long width);
+    long GetHeight() const;
     /// The width that the box with its text wants.
     long GetWantedWidth(const UITextRuler& ruler) const;
 
@@ -41,7 +45,10 @@ public:
     void Create(UIPageWindow& page, POINT place, long width);
     void Move(POINT delta);
     void Show(bool shown);
-    void Enable(bool enabled);
+    /// @param enabled  whether the molecule's feature is; counts for a switch that stands for it
+    void Enable(bool enabled, bool forceDisabled);
+    /// Adds why the box is grey by its own feature to what the molecule says of itself.
+    void AddReason(InterpretedState& state) const;
     /// Reads and shows the value.
     void Load();
     bool IsOn() const { return !m_exists || m_on; }
@@ -52,14 +59,14 @@ public:
     /// One line.
     void Dump() const;
 
-    static constexpr long kHeight = 10; ///< dialog units
-
 private:
     bool Read() const;
+    InterpretedState OwnState() const;
 
     const UIMoleculeSite& m_site;
     FeatureIdWithContext m_feature;
     CXString m_text;
+    long m_lines = 1;
     bool m_exists = false;
     bool m_ownFeature = true;
     bool m_on = false;

@@ -7,6 +7,7 @@
 
 #include "uidump.h"
 #include "uieditcontrol.h"
+#include "uiservices.h"
 #include "uispincontrol.h"
 #include "uistringnumbers.h"
 #include "uitextcontrol.h"
@@ -15,7 +16,6 @@ namespace {
 
 // Dialog units.
 constexpr long kLeastWidth = 40;
-constexpr long kNarrowWidth = 32; // where the unit needs the room
 constexpr long kDigitWidth = 5;
 constexpr long kInnerMargins = 6;
 constexpr long kArrowsWidth = 11;
@@ -57,7 +57,7 @@ void UINumberField::SetRules(const UINumberRules& rules)
     if (!GetEdit())
         return;
     if (m_unit)
-        m_unit->setText(m_rules.unitText);
+        m_unit->setLabelText(m_rules.unitText);
     DropPending();
     PlaceArrows();
 }
@@ -71,17 +71,16 @@ long UINumberField::GetWantedWidth(bool hasArrows) const
 void UINumberField::Create(UIPageWindow& page, const Surroundings& surroundings, POINT location,
                            long width, bool hasArrows)
 {
-    const long unitRoom = m_unitWidth ? m_unitWidth + kUnitGap : 0;
-    const long most = std::max(width - unitRoom, std::min(width, kNarrowWidth));
-    const long boxWidth = std::min(most, GetWantedWidth(hasArrows));
+    const long boxWidth = std::min(width, GetWantedWidth(hasArrows));
     const long editWidth = hasArrows ? boxWidth - kArrowsWidth : boxWidth;
-    CreateBox(page, surroundings, {location, {editWidth, kHeight}, 0, kTextLimit});
     UIServices& services = surroundings.site.services;
+    const DWORD alignment = services.isRightToLeft() ? ES_RIGHT : ES_LEFT;
+    CreateBox(page, surroundings, {location, {editWidth, kHeight}, alignment, kTextLimit});
+    GetEdit()->keepUnmirrored();
     if (hasArrows) {
         m_arrows = std::make_unique<UISpinControl>(page.window, page.takeId(), services, page.font,
                                                    POINT{location.x + editWidth, location.y},
                                                    SIZE{kArrowsWidth, kHeight}, 0, true, 0, 0);
-        m_arrows->setBuddy(GetHwnd());
     }
     const long unitX = boxWidth + kUnitGap;
     if (m_rules.unitText.IsEmpty() || unitX >= width)
@@ -90,7 +89,7 @@ void UINumberField::Create(UIPageWindow& page, const Surroundings& surroundings,
                                              POINT{location.x + unitX, location.y + kUnitDrop},
                                              SIZE{width - unitX, kTextHeight},
                                              SS_NOTIFY | SS_NOPREFIX, true, page.boldFont);
-    m_unit->setText(m_rules.unitText);
+    m_unit->setLabelText(m_rules.unitText);
 }
 
 void UINumberField::Move(POINT delta)
@@ -141,6 +140,9 @@ void UINumberField::PlaceArrows()
                                       m_rules.position(m_rules.ranges.back().high));
     m_arrows->setRange(ends.first, ends.second);
     m_arrows->setPosition(m_rules.position(m_value.value_or(0)));
+    // The arrows stand before the box's procedure from now on, which makes each of its messages
+    // dearer; so they are not introduced before the box is made.
+    m_arrows->setBuddy(GetHwnd());
 }
 
 CXString UINumberField::PresentText() const
@@ -191,6 +193,7 @@ UITypedField::Verdict UINumberField::Take(const CXString& text)
         return {.taken = true};
     const auto reading = Read(text);
     if (reading.fault != UINumberRules::Fault::None) {
+        GiveBack();
         const bool outOfRange = reading.fault == UINumberRules::Fault::OutOfRange;
         return {.fault = FaultSentence(reading.fault, text),
                 .correction = outOfRange ? m_rules.text(reading.value) : CXString()};
@@ -204,6 +207,17 @@ UITypedField::Verdict UINumberField::Take(const CXString& text)
     }
     PlaceArrows();
     return {.taken = true};
+}
+
+// On the way to a text that is no value, its beginning may have been one.
+void UINumberField::GiveBack()
+{
+    if (!m_origin || m_value == m_origin)
+        return;
+    const auto before = std::exchange(m_value, m_origin);
+    if (!m_write(*m_origin))
+        m_value = before;
+    PlaceArrows();
 }
 
 CXString UINumberField::FaultSentence(UINumberRules::Fault fault, const CXString& text) const

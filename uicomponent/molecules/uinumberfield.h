@@ -30,8 +30,6 @@ public:
     /// @param width  room in dialog units; the box takes what its values need of it
     void Create(UIPageWindow& page, const Surroundings& surroundings, POINT location, long width,
                 bool hasArrows);
-    /// The room that the unit behind the box needs, in dialog units; the box leaves it that.
-    void SetUnitWidth(long width) { m_unitWidth = width; }
     /// The room that box and arrows want, in dialog units.
     long GetWantedWidth(bool hasArrows) const;
     void Move(POINT delta) override;
@@ -55,6 +53,9 @@ protected:
     Verdict Take(const CXString& text) override;
     CXString PresentText() const override;
     CXString PresentTextInSentence() const override;
+    void KeepAsOrigin() override { m_origin = m_value; }
+    /// Brings the value that stood here before the person typed back into the model.
+    void GiveBack();
     /// The allowed value that the text stands for, if it does.
     std::optional<std::int64_t> ValueOf(const CXString& text) const;
 
@@ -70,8 +71,7 @@ private:
     Writer m_write;
     std::unique_ptr<UISpinControl> m_arrows;
     std::unique_ptr<UITextControl> m_unit;
-    long m_unitWidth = 0;
     std::optional<std::int64_t> m_value;
-    std::optional<std::int64_t> m_origin; ///< what the box showed before the person typed
+    std::optional<std::int64_t> m_origin; ///< what the person has settled on before
     mutable std::optional<UIUnitNames> m_names;
 };

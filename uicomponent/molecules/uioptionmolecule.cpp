@@ -40,9 +40,7 @@ bool UIOptionMolecule::Write(const ValueId& value) const
 
 std::unique_ptr<OptionCapability> UIOptionMolecule::ReadCapability() const
 {
-    return GetSite()
-        .featureServices.GetOptionFeatureRef(GetBoundFeature())
-        .GetOptionCapabilities();
+    return GetSite().featureServices.GetOptionFeatureRef(GetBoundFeature()).GetOptionCapabilities();
 }
 
 std::vector<UIOptionMolecule::Option>
@@ -88,11 +86,13 @@ void UIOptionMolecule::CompleteState(const CapabilitiesNode& capabilities,
                                      InterpretedState& state) const
 {
     const auto* capability = dynamic_cast<const OptionCapability*>(&capabilities);
-    if (!capability)
+    if (!capability || state.IsDisabled() || state.IsHidden())
         return;
     // A model that speaks for its options itself need not be repeated.
     const bool isTold = state.HasInfoBtnMsg();
     for (const Option& option : ReadOptions(*capability)) {
+        if (option.value.GetValueEnum() == DataModelIds::kValueUnspecified)
+            continue; // goes by the feature, which has its own word
         if (option.hidden || (option.unavailable && !isTold))
             state.AddInfo(option.reason);
         if (option.conflict && !state.HasCbrBtnMsg() && option.value == ReadValue())

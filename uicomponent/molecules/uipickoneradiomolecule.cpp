@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "optioncapability.h"
+#include "uiradiobuttoncontrol.h"
+#include "uitooltips.h"
 #include "windowtext.h"
 
 UIPickOneRadioMolecule::UIPickOneRadioMolecule(const UIMoleculeData& data,
@@ -36,6 +38,9 @@ void UIPickOneRadioMolecule::MatchChoices()
     spare.value = named->value;
     spare.text = o7::withMarkedAmpersands(named->text);
     ShowText(spare);
+    // Its length was not known when the texts were fitted.
+    if (GetToolTips())
+        GetToolTips()->setTip(spare.button->getHwnd(), named->text);
 }
 
 CXString UIPickOneRadioMolecule::GetObserverClassNameHeirarchy() const

@@ -36,7 +36,12 @@ UIRadioBaseMolecule::UIRadioBaseMolecule(const UIMoleculeData& data, const UIMol
 {
 }
 
-UIRadioBaseMolecule::~UIRadioBaseMolecule() = default;
+UIRadioBaseMolecule::~UIRadioBaseMolecule()
+{
+    for (const Choice& choice : m_choices)
+        if (choice.button && GetToolTips())
+            GetToolTips()->setTip(choice.button->getHwnd(), CXString());
+}
 
 void UIRadioBaseMolecule::InitializeFromDescription()
 {
@@ -61,11 +66,19 @@ void UIRadioBaseMolecule::InitializeFromDescription()
     UpdateMinimumHeight();
 }
 
-void UIRadioBaseMolecule::AddChoice(const ValueId& value, const CXString& text)
+UIRadioBaseMolecule::Choice& UIRadioBaseMolecule::AddChoice(const ValueId& value,
+                                                            const CXString& text)
 {
-    m_choices.emplace_back();
-    m_choices.back().value = value;
-    m_choices.back().text = text;
+    Choice& choice = m_choices.emplace_back();
+    choice.value = value;
+    choice.text = text;
+    return choice;
+}
+
+bool UIRadioBaseMolecule::HasPictures() const
+{
+    return std::any_of(m_choices.begin(), m_choices.end(),
+                       [](const Choice& choice) { return choice.picture != 0; });
 }
 
 long UIRadioBaseMolecule::ColumnGap() const
@@ -80,22 +93,20 @@ long UIRadioBaseMolecule::RowGap() const
 
 long UIRadioBaseMolecule::HeightOf(const Choice& choice) const
 {
-    if (m_kind == UIControlKind::RadioImage)
-        return kPictureSize.cy;
-    return m_kind == UIControlKind::RadioPush
-               ? kPushHeight
-               : kButtonHeight + (choice.lines - 1) * UITextRuler::kLineHeight;
+    if (IsSideBySide())
+        return HasPictures() ? kPictureSize.cy : kPushHeight;
+    return kButtonHeight + (choice.lines - 1) * UITextRuler::kLineHeight;
 }
 
 /// The width that each button gets of the room for all.
 long UIRadioBaseMolecule::ButtonWidth(long room) const
 {
-    if (m_kind == UIControlKind::RadioImage)
+    if (HasPictures())
         return kPictureSize.cx;
     const long columns = static_cast<long>(m_columns);
     const long share = (room - (columns - 1) * ColumnGap()) / columns;
     return m_kind == UIControlKind::RadioPush && m_widest ? std::min(share, m_widest + kPushMargin)
-                                                         : share;
+                                                          : share;
 }
 
 /// How many buttons of that width stand side by side.
@@ -138,25 +149,23 @@ void UIRadioBaseMolecule::UpdateMinimumHeight()
 void UIRadioBaseMolecule::FitTexts(const UITextRuler& ruler, long width)
 {
     m_label.Fit(ruler, width - kInfoLane);
-    const long room = width - kInfoLane - m_label.GetBesideWidth();
     m_widest = 0;
     for (const Choice& choice : m_choices)
         m_widest = std::max(m_widest, ruler.WidthOf(choice.text));
-    if (m_kind == UIControlKind::RadioImage)
+    const long room = width - kInfoLane - m_label.GetBesideWidth();
+    const long around = IsSideBySide() ? kPushMargin : kCircle;
+    if (HasPictures())
         m_columns = ColumnsFor(room, kPictureSize.cx);
-    else if (m_kind == UIControlKind::RadioPush)
-        m_columns = ColumnsFor(room, m_widest + kPushMargin);
+    else if (IsSideBySide())
+        m_columns = ColumnsFor(room, m_widest + around);
+    else if (m_choices.size() > kFewChoices)
+        m_columns = std::min<std::size_t>(2, ColumnsFor(room, m_widest + around));
     else
-        m_columns = m_choices.size() > kFewChoices
-                        ? std::min<std::size_t>(2, ColumnsFor(room, m_widest + kCircle))
-                        : 1;
-    const long textWidth = ButtonWidth(room) -
-                           (m_kind == UIControlKind::RadioPush ? kPushMargin : kCircle);
-    for (Choice& choice : m_choices) {
-        const long lines = ruler.LinesOf(choice.text, textWidth);
-        choice.lines = m_kind == UIControlKind::Radio ? std::min(kMostLines, lines) : 1;
-        choice.cut = m_kind == UIControlKind::RadioImage || lines > choice.lines;
-    }
+        m_columns = 1;
+    const long mostLines = IsSideBySide() ? 1 : ruler.GetFit().mostLines;
+    for (Choice& choice : m_choices)
+        if (!choice.picture)
+            choice.lines = ruler.LinesOf(choice.text, ButtonWidth(room) - around, mostLines);
     UpdateMinimumHeight();
 }
 
@@ -181,17 +190,18 @@ void UIRadioBaseMolecule::CreateControls(UIPageWindow& page)
     const long width = ButtonWidth(GetContentWidth() - m_label.GetBesideWidth());
     ForEachPlace(width, [&](Choice& choice, long x, long y) {
         const DWORD group = x == 0 && y == 0 ? WS_GROUP : 0;
-        const DWORD look = (m_kind == UIControlKind::Radio ? 0 : BS_PUSHLIKE) |
-                           (choice.lines > 1 ? BS_MULTILINE : 0);
+        const DWORD look =
+            (IsSideBySide() ? BS_PUSHLIKE : 0) | (choice.lines > 1 ? BS_MULTILINE : 0);
         choice.button = std::make_unique<UIRadioButtonControl>(
             page.window, page.takeId(), services, page.font, POINT{first.x + x, first.y + y},
             SIZE{width, HeightOf(choice)}, group | look);
         ShowText(choice);
+        if (choice.picture)
+            choice.button->setPictures(choice.picture, choice.checkedPicture);
     });
-    m_area = std::make_unique<UITextControl>(page.window, page.takeId(), services, page.font,
-                                             POINT{GetPosition().x, GetPosition().y},
-                                             SIZE{GetContentWidth(), kButtonHeight},
-                                             WS_GROUP | WS_DISABLED, false, nullptr);
+    m_area = std::make_unique<UITextControl>(
+        page.window, page.takeId(), services, page.font, POINT{GetPosition().x, GetPosition().y},
+        SIZE{GetContentWidth(), kButtonHeight}, WS_GROUP | WS_DISABLED, false, nullptr);
 }
 
 void UIRadioBaseMolecule::ShowText(Choice& choice)
@@ -201,9 +211,8 @@ void UIRadioBaseMolecule::ShowText(Choice& choice)
     // A button alone does not say what it is a choice of.
     const CXString heading = o7::spokenName(m_label.GetText());
     choice.button->setAccessibleName(heading.IsEmpty() ? text : heading + L": " + text);
-    if (choice.cut && GetToolTips())
-        GetToolTips()->AddToolAndTipMessage(choice.button->getHwnd(), nullptr,
-                                            reinterpret_cast<INT_PTR>(text.c_str()));
+    if (choice.picture && GetToolTips())
+        GetToolTips()->setTip(choice.button->getHwnd(), text);
 }
 
 bool UIRadioBaseMolecule::HandleMessage(const _UIWindowsMessage& message)
@@ -294,7 +303,7 @@ void UIRadioBaseMolecule::EnableControls(bool enabled)
         ShowTip(choice, canTake ? CXString() : ReasonOf(choice, enabled));
     }
     ChooseTabStop(enabled);
-    if (focusLost)
+    if (focusLost && enabled)
         Focus();
 }
 

@@ -47,7 +47,8 @@ protected:
         long lines = 1;
         int option = -1; ///< index in GetOptions(); -1: not among them
         bool shown = true;
-        bool cut = false; ///< the text does not even fit on two lines
+        int picture = 0; ///< in place of the text; resource number, 0: none
+        int checkedPicture = 0;
     };
 
     /// Adds the choices, in the order in which they stand.
@@ -62,12 +63,13 @@ protected:
     void EnableControls(bool enabled) override;
 
     std::vector<Choice>& GetChoices() { return m_choices; }
-    void AddChoice(const ValueId& value, const CXString& text);
+    Choice& AddChoice(const ValueId& value, const CXString& text);
     /// Gives the button of the choice its text, for the eye and for screen readers.
     void ShowText(Choice& choice);
 
 private:
     bool IsSideBySide() const { return m_kind != UIControlKind::Radio; }
+    bool HasPictures() const;
     long ColumnGap() const;
     long RowGap() const;
     long HeightOf(const Choice& choice) const;

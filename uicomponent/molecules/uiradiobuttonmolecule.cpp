@@ -3,7 +3,24 @@
 #include "optioncapability.h"
 #include "uimoleculedata.h"
 #include "uiradiocontroldata.h"
+#include "uiradioimagecontroldata.h"
+#include "uiradiopushcontroldata.h"
 #include "windowtext.h"
+
+namespace {
+
+/// The model's own text for a value, ready to be shown.
+CXString textOf(const ValueId& value, const OptionCapability& capability)
+{
+    for (std::size_t index = 0; index < capability.GetNumberOfValues(); ++index) {
+        const OptionWithState& option = capability.GetOptionWithState(index);
+        if (option.GetValueId() == value)
+            return o7::withMarkedAmpersands(option.GetOptionDisplayString());
+    }
+    return value.GetDisplayString();
+}
+
+} // namespace
 
 UIRadioButtonMolecule::UIRadioButtonMolecule(const UIMoleculeData& data, const UIMoleculeSite& site)
     : UIRadioBaseMolecule(data, site)
@@ -20,14 +37,14 @@ void UIRadioButtonMolecule::AddChoices(const OptionCapability& capability)
         // A feature that cannot be read keeps its buttons: a fault in a package is to be seen.
         if (capability.GetNumberOfValues() > 0 && !capability.ValueIsSupported(value))
             continue;
-        CXString text = LoadText(radio->getLabel());
-        for (std::size_t index = 0; text.IsEmpty() && index < capability.GetNumberOfValues();
-             ++index) {
-            const OptionWithState& option = capability.GetOptionWithState(index);
-            if (option.GetValueId() == value)
-                text = o7::withMarkedAmpersands(option.GetOptionDisplayString());
+        const CXString label = LoadText(radio->getLabel());
+        Choice& choice = AddChoice(value, label.IsEmpty() ? textOf(value, capability) : label);
+        if (const auto* image = dynamic_cast<const UIRadioImageControlData*>(radio)) {
+            choice.picture = static_cast<int>(image->getImage(false));
+            choice.checkedPicture = static_cast<int>(image->getImage(true));
+        } else if (const auto* push = dynamic_cast<const UIRadioPushControlData*>(radio)) {
+            choice.picture = static_cast<int>(push->getImage());
         }
-        AddChoice(value, text);
     }
 }
 

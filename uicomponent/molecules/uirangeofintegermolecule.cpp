@@ -36,8 +36,9 @@ class UIRangeOfIntegerMolecule::EndField : public UINumberField
 public:
     EndField(UIRangeOfIntegerMolecule& molecule, Which which) : m_molecule(molecule), m_which(which)
     {
-        SetWriter(
-            [this](std::int64_t value) { return m_molecule.WriteEnd(m_which, static_cast<int>(value)); });
+        SetWriter([this](std::int64_t value) {
+            return m_molecule.WriteEnd(m_which, static_cast<int>(value));
+        });
     }
 
 protected:
@@ -45,10 +46,12 @@ protected:
     {
         const auto typed = ValueOf(text);
         const auto other = Other().GetTypedValue();
-        if (typed && other && (m_which == kLow ? *typed > *other : *typed < *other))
+        if (typed && other && (m_which == kLow ? *typed > *other : *typed < *other)) {
+            GiveBack();
             return {.fault = String(O7STR_M_FROM_ABOVE_TO),
                     .correction = GetRules().text(*other),
                     .waits = true};
+        }
         return UINumberField::Take(text);
     }
 
@@ -83,7 +86,7 @@ void UIRangeOfIntegerMolecule::InitializeFromDescription()
     for (const auto& control : GetData().getControls()) {
         switch (control->getKind()) {
         case UIControlKind::Check:
-            m_switch.Set(FeatureIdWithContext{FeatureId(control->getFeature())},
+            m_switch.Set(InFeatureList(FeatureIdWithContext{FeatureId(control->getFeature())}),
                          LoadText(control->getLabel()));
             break;
         case UIControlKind::Text:
@@ -99,7 +102,7 @@ void UIRangeOfIntegerMolecule::InitializeFromDescription()
     m_switch.SetMoleculeFeature(GetBoundFeature());
     if (m_switch.HasOwnFeature())
         AddFurtherFeature(m_switch.GetFeature());
-    const long above = m_switch.Exists() ? UIMoleculeSwitch::kHeight + kSwitchGap : 0;
+    const long above = m_switch.Exists() ? m_switch.GetHeight() + kSwitchGap : 0;
     SetMinimumExtent({0, above + UINumberField::kHeight});
 }
 
@@ -108,7 +111,7 @@ void UIRangeOfIntegerMolecule::AddEnd(const UISpinControlData& data, const CXStr
     if (m_known == m_ends.size())
         return;
     End& end = m_ends[m_known++];
-    end.feature = FeatureIdWithContext{FeatureId(data.getFeature())};
+    end.feature = InFeatureList(FeatureIdWithContext{FeatureId(data.getFeature())});
     end.data = &data;
     end.label = label;
     end.labelWidth = kLetterWidth * label.GetLength();
@@ -127,9 +130,9 @@ bool UIRangeOfIntegerMolecule::IsInteger(const End& end) const
 UINumberRules UIRangeOfIntegerMolecule::MakeRules(const End& end) const
 {
     const auto features = GetSite().featureServices.GetListOfFeaturesFor(end.feature);
-    const auto capability =
-        IsInteger(end) ? features.GetIntegerFeature(end.feature).GetRangeCapabilities()
-                       : features.GetRangeFeature(end.feature).GetRangeCapabilities();
+    const auto capability = IsInteger(end)
+                                ? features.GetIntegerFeature(end.feature).GetRangeCapabilities()
+                                : features.GetRangeFeature(end.feature).GetRangeCapabilities();
     UINumberRules rules;
     rules.ranges = o7::numberRanges(*capability);
     rules.increment = end.data->getIncrement(true);
@@ -139,6 +142,7 @@ UINumberRules UIRangeOfIntegerMolecule::MakeRules(const End& end) const
 
 void UIRangeOfIntegerMolecule::FitTexts(const UITextRuler& ruler, long width)
 {
+    m_switch.Fit(ruler, width - kInfoLane);
     for (End& end : m_ends)
         end.labelWidth = end.label.IsEmpty() ? 0 : ruler.WidthOf(end.label) + kLabelGap;
     Arrange(width - kInfoLane);
@@ -157,7 +161,7 @@ void UIRangeOfIntegerMolecule::Arrange(long contentWidth)
         wanted += end.labelWidth + field.GetWantedWidth(true);
     }
     m_twoRows = wanted > contentWidth;
-    const long above = m_switch.Exists() ? UIMoleculeSwitch::kHeight + kSwitchGap : 0;
+    const long above = m_switch.Exists() ? m_switch.GetHeight() + kSwitchGap : 0;
     const long rows =
         m_twoRows ? 2 * UINumberField::kHeight + kRowGap : long{UINumberField::kHeight};
     SetMinimumExtent({0, above + rows});
@@ -173,7 +177,7 @@ void UIRangeOfIntegerMolecule::CreateControls(UIPageWindow& page)
     const long indent = m_switch.Exists() ? kIndent : 0;
     const long width = GetContentWidth() - indent;
     POINT at{place.x + indent,
-             place.y + (m_switch.Exists() ? UIMoleculeSwitch::kHeight + kSwitchGap : 0)};
+             place.y + (m_switch.Exists() ? m_switch.GetHeight() + kSwitchGap : 0)};
     if (m_twoRows) {
         const long labels = std::max(m_ends[kLow].labelWidth, m_ends[kHigh].labelWidth);
         m_ends[kLow].labelWidth = m_ends[kHigh].labelWidth = labels;
@@ -184,8 +188,9 @@ void UIRangeOfIntegerMolecule::CreateControls(UIPageWindow& page)
         End& end = m_ends[which];
         end.field->SetRules(MakeRules(end));
         const long taken = end.labelWidth + end.field->GetWantedWidth(true) + kEndGap;
-        CreateEnd(page, which, at, m_twoRows || which == kHigh ? width - (at.x - place.x - indent)
-                                                               : taken - kEndGap);
+        CreateEnd(page, which, at,
+                  m_twoRows || which == kHigh ? width - (at.x - place.x - indent)
+                                              : taken - kEndGap);
         if (m_twoRows)
             at.y += UINumberField::kHeight + kRowGap;
         else
@@ -201,7 +206,7 @@ void UIRangeOfIntegerMolecule::CreateEnd(UIPageWindow& page, Which which, POINT 
             page.window, page.takeId(), GetSite().services, page.font,
             POINT{place.x, place.y + kLabelDrop}, SIZE{end.labelWidth, UITextRuler::kLineHeight},
             SS_NOTIFY, true, page.boldFont);
-        end.labelControl->setText(end.label);
+        end.labelControl->setLabelText(end.label);
     }
     end.field->Create(page, {GetSite(), GetToolTips(), end.feature, end.label},
                       {place.x + end.labelWidth, place.y}, width - end.labelWidth, true);
@@ -226,11 +231,11 @@ std::optional<int> UIRangeOfIntegerMolecule::ReadEnd(Which which) const
     const auto features = GetSite().featureServices.GetListOfFeaturesFor(end.feature);
     int ends[2] = {};
     const bool read =
-        IsInteger(end) ? features.GetIntegerFeature(end.feature)
-                             .GetValue(ends[which], FeatureRef::kDoNotAssertIfUnsupported)
-                       : features.GetRangeFeature(end.feature)
-                             .GetValue(ends[kLow], ends[kHigh],
-                                       FeatureRef::kDoNotAssertIfUnsupported);
+        IsInteger(end)
+            ? features.GetIntegerFeature(end.feature)
+                  .GetValue(ends[which], FeatureRef::kDoNotAssertIfUnsupported)
+            : features.GetRangeFeature(end.feature)
+                  .GetValue(ends[kLow], ends[kHigh], FeatureRef::kDoNotAssertIfUnsupported);
     return read ? std::optional(ends[which]) : std::nullopt;
 }
 
@@ -239,8 +244,8 @@ bool UIRangeOfIntegerMolecule::WriteEnd(Which which, int value)
 {
     int ends[2] = {};
     for (const Which one : {kLow, kHigh})
-        ends[one] = static_cast<int>(m_ends[one].field->GetTypedValue().value_or(
-            ReadEnd(one).value_or(value)));
+        ends[one] = static_cast<int>(
+            m_ends[one].field->GetTypedValue().value_or(ReadEnd(one).value_or(value)));
     ends[which] = value;
     UIValueWriter& writer = GetSite().valueWriter;
     const auto transaction = GetSite().featureServices.OpenTransaction();
@@ -265,6 +270,7 @@ void UIRangeOfIntegerMolecule::LoadValue()
         const auto value = m_cleared ? std::nullopt : ReadEnd(which);
         m_ends[which].field->ShowValue(value ? std::optional<std::int64_t>(*value) : std::nullopt);
     }
+    EnableEnds(IsEnabled() && m_switch.IsOn());
 }
 
 void UIRangeOfIntegerMolecule::EnableEnds(bool enabled)
@@ -280,16 +286,21 @@ void UIRangeOfIntegerMolecule::EnableEnds(bool enabled)
 void UIRangeOfIntegerMolecule::ShowState(const InterpretedState& state, bool enabled)
 {
     m_cleared = !enabled && state.IsCleared();
-    m_switch.Enable(enabled);
+    m_switch.Enable(enabled, IsForceDisabled());
     LoadValue();
-    EnableEnds(enabled && m_switch.IsOn());
+}
+
+void UIRangeOfIntegerMolecule::CompleteState(const CapabilitiesNode& capabilities,
+                                             InterpretedState& state) const
+{
+    UIFeatureMolecule::CompleteState(capabilities, state);
+    m_switch.AddReason(state);
 }
 
 bool UIRangeOfIntegerMolecule::HandleMessage(const _UIWindowsMessage& message)
 {
     if (m_switch.HandleMessage(message)) {
         LoadValue();
-        EnableEnds(IsEnabled() && m_switch.IsOn());
         return true;
     }
     for (End& end : m_ends)

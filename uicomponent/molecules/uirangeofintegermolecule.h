@@ -38,6 +38,8 @@ public:
 protected:
     void LoadValue() override;
     void ShowState(const InterpretedState& state, bool enabled) override;
+    void CompleteState(const CapabilitiesNode& capabilities,
+                       InterpretedState& state) const override;
 
 private:
     enum Which : std::size_t

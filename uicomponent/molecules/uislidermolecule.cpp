@@ -13,6 +13,7 @@
 #include "uidump.h"
 #include "uimoleculedata.h"
 #include "uimoleculedump.h"
+#include "uiservices.h"
 #include "uislidercontrol.h"
 #include "uislidercontroldata.h"
 #include "uistringnumbers.h"
@@ -42,7 +43,7 @@ UISliderMolecule::~UISliderMolecule() = default;
 void UISliderMolecule::InitializeFromDescription()
 {
     for (const auto& control : GetData().getControls()) {
-        const FeatureIdWithContext feature{FeatureId(control->getFeature())};
+        const auto feature = InFeatureList(FeatureIdWithContext{FeatureId(control->getFeature())});
         switch (control->getKind()) {
         case UIControlKind::Slider:
             m_sliderData = static_cast<const UISliderControlData*>(control.get());
@@ -58,6 +59,7 @@ void UISliderMolecule::InitializeFromDescription()
             break;
         }
     }
+    m_switchWidth = GetLabelWidth();
     m_switch.SetMoleculeFeature(GetBoundFeature());
     if (m_switch.HasOwnFeature())
         AddFurtherFeature(m_switch.GetFeature());
@@ -66,20 +68,20 @@ void UISliderMolecule::InitializeFromDescription()
 
 long UISliderMolecule::BesideWidth() const
 {
-    return m_label.IsEmpty() && m_switch.Exists() ? GetLabelWidth() : m_label.GetBesideWidth();
+    return IsSwitchBeside() ? m_switchWidth : m_label.GetBesideWidth();
 }
 
 long UISliderMolecule::HeightAbove() const
 {
-    const bool ownLine = m_switch.Exists() && (!m_label.IsEmpty() || GetLabelWidth() == 0);
-    return m_label.GetHeightAbove() + (ownLine ? UIMoleculeSwitch::kHeight + kSwitchGap : 0);
+    const bool ownLine = m_switch.Exists() && !IsSwitchBeside();
+    return m_label.GetHeightAbove() + (ownLine ? m_switch.GetHeight() + kSwitchGap : 0);
 }
 
 long UISliderMolecule::EndsHeight() const
 {
     const bool hasEnds =
         m_sliderData && (m_sliderData->getLowLabel() || m_sliderData->getHighLabel());
-    return hasEnds ? m_endLines * UITextRuler::kLineHeight : 0;
+    return hasEnds ? UITextRuler::kLineHeight : 0;
 }
 
 void UISliderMolecule::UpdateMinimumHeight()
@@ -90,22 +92,22 @@ void UISliderMolecule::UpdateMinimumHeight()
 void UISliderMolecule::FitTexts(const UITextRuler& ruler, long width)
 {
     m_label.Fit(ruler, width - kInfoLane);
-    if (m_sliderData && EndsHeight())
-        FitEnds(ruler, width - kInfoLane - BesideWidth() - kNumberWidth);
+    if (m_switchWidth && ruler.GetFit().labelWidth)
+        m_switchWidth = ruler.GetFit().labelWidth;
+    m_switch.Fit(ruler, IsSwitchBeside() ? m_switchWidth : width - kInfoLane);
+    FitEnds(ruler, width - kInfoLane - BesideWidth() - kNumberWidth);
     UpdateMinimumHeight();
 }
 
-/// Each end takes half of the slider's width, or what the other leaves it.
 void UISliderMolecule::FitEnds(const UITextRuler& ruler, long width)
 {
-    const CXString low = LoadText(m_sliderData->getLowLabel());
-    const CXString high = LoadText(m_sliderData->getHighLabel());
-    const long lowWidth = ruler.WidthOf(low);
-    const long highWidth = ruler.WidthOf(high);
-    m_lowWidth = width / 2;
-    if (lowWidth + highWidth <= width)
-        m_lowWidth = std::clamp(m_lowWidth, lowWidth, width - highWidth);
-    m_endLines = std::max(ruler.LinesOf(low, m_lowWidth), ruler.LinesOf(high, width - m_lowWidth));
+    if (!EndsHeight())
+        return;
+    const long low = ruler.WidthOf(LoadText(m_sliderData->getLowLabel()));
+    const long high = ruler.WidthOf(LoadText(m_sliderData->getHighLabel()));
+    m_lowEndWidth = std::clamp(width / 2, std::min(low, width), std::max(low, width - high));
+    if (low + high > width)
+        ruler.NoteCut();
 }
 
 long UISliderMolecule::GetWantedLabelWidth(const UITextRuler& ruler) const
@@ -118,10 +120,9 @@ void UISliderMolecule::CreateControls(UIPageWindow& page)
     SetPage(page);
     const POINT place = GetPosition();
     const long beside = BesideWidth();
-    const bool switchBeside = beside != 0 && m_label.IsEmpty();
     const long top = place.y + GetMinimumHeight() - EndsHeight() - kSliderHeight;
-    m_switch.Create(page, {place.x, place.y + (switchBeside ? kSwitchDrop : 0)},
-                    switchBeside ? beside : GetContentWidth());
+    m_switch.Create(page, {place.x, place.y + (IsSwitchBeside() ? kSwitchDrop : 0)},
+                    IsSwitchBeside() ? beside : GetContentWidth());
     m_label.Create(page, GetSite().services, {place.x, top - m_label.GetHeightAbove()},
                    GetContentWidth());
     const POINT sliderPlace{place.x + beside, top};
@@ -132,12 +133,10 @@ void UISliderMolecule::CreateControls(UIPageWindow& page)
 }
 
 std::unique_ptr<UITextControl> UISliderMolecule::CreateText(UIPageWindow& page, POINT place,
-                                                            long width, DWORD style,
-                                                            long lines) const
+                                                            long width, DWORD style) const
 {
     return std::make_unique<UITextControl>(page.window, page.takeId(), GetSite().services,
-                                           page.font, place,
-                                           SIZE{width, lines * UITextRuler::kLineHeight},
+                                           page.font, place, SIZE{width, UITextRuler::kLineHeight},
                                            style | SS_NOTIFY | SS_NOPREFIX, true, page.boldFont);
 }
 
@@ -156,7 +155,9 @@ void UISliderMolecule::CreateSlider(UIPageWindow& page, POINT place, long width)
     }
     const CXString& name = m_label.IsEmpty() ? m_switch.GetText() : m_label.GetText();
     m_slider->setAccessibleName(o7::spokenName(name));
-    m_number = CreateText(page, {place.x + width, place.y + kNumberDrop}, kNumberWidth, SS_RIGHT);
+    m_number = CreateText(page, {place.x + width, place.y + kNumberDrop}, kNumberWidth,
+                          GetSite().services.isRightToLeft() ? SS_LEFT : SS_RIGHT);
+    m_number->keepUnmirrored();
     SendMessageW(m_slider->getHwnd(), TBM_SETBUDDY, FALSE,
                  reinterpret_cast<LPARAM>(m_number->getHwnd()));
 }
@@ -165,11 +166,11 @@ void UISliderMolecule::CreateEnds(UIPageWindow& page, POINT place, long width)
 {
     if (!EndsHeight())
         return;
-    const long half = m_lowWidth ? m_lowWidth : width / 2;
-    m_lowEnd = CreateText(page, place, half, SS_LEFT, m_endLines);
-    m_lowEnd->setText(LoadText(m_sliderData->getLowLabel()));
-    m_highEnd = CreateText(page, {place.x + half, place.y}, width - half, SS_RIGHT, m_endLines);
-    m_highEnd->setText(LoadText(m_sliderData->getHighLabel()));
+    const long lowWidth = m_lowEndWidth ? m_lowEndWidth : width / 2;
+    m_lowEnd = CreateText(page, place, lowWidth, SS_LEFT);
+    m_lowEnd->setLabelText(LoadText(m_sliderData->getLowLabel()));
+    m_highEnd = CreateText(page, {place.x + lowWidth, place.y}, width - lowWidth, SS_RIGHT);
+    m_highEnd->setLabelText(LoadText(m_sliderData->getHighLabel()));
 }
 
 template <class Do> void UISliderMolecule::ForTexts(Do&& act) const
@@ -212,7 +213,7 @@ std::optional<int> UISliderMolecule::ReadNumber() const
 void UISliderMolecule::ShowNumberText(const CXString& text)
 {
     if (m_number)
-        m_number->setText(text);
+        m_number->setLabelText(text);
 }
 
 void UISliderMolecule::ShowNumber(std::optional<int> value)
@@ -228,6 +229,7 @@ void UISliderMolecule::LoadValue()
 {
     m_switch.Load();
     ShowNumber(m_cleared ? std::nullopt : ReadNumber());
+    EnableSlider(IsEnabled() && m_switch.IsOn());
 }
 
 void UISliderMolecule::EnableSlider(bool enabled)
@@ -241,16 +243,21 @@ void UISliderMolecule::ShowState(const InterpretedState& state, bool enabled)
 {
     m_cleared = !enabled && state.IsCleared();
     m_label.Enable(enabled);
-    m_switch.Enable(enabled);
+    m_switch.Enable(enabled, IsForceDisabled());
     LoadValue();
-    EnableSlider(enabled && m_switch.IsOn());
+}
+
+void UISliderMolecule::CompleteState(const CapabilitiesNode& capabilities,
+                                     InterpretedState& state) const
+{
+    UIFeatureMolecule::CompleteState(capabilities, state);
+    m_switch.AddReason(state);
 }
 
 bool UISliderMolecule::HandleMessage(const _UIWindowsMessage& message)
 {
     if (m_switch.HandleMessage(message)) {
         LoadValue();
-        EnableSlider(IsEnabled() && m_switch.IsOn());
         return true;
     }
     if (message.message == WM_HSCROLL && m_slider &&

@@ -38,17 +38,20 @@ public:
 protected:
     void LoadValue() override;
     void ShowState(const InterpretedState& state, bool enabled) override;
+    void CompleteState(const CapabilitiesNode& capabilities,
+                       InterpretedState& state) const override;
 
 private:
+    bool IsSwitchBeside() const { return m_label.IsEmpty() && m_switch.Exists() && m_switchWidth; }
     long BesideWidth() const;
     long HeightAbove() const;
     long EndsHeight() const;
+    void FitEnds(const UITextRuler& ruler, long width);
     void UpdateMinimumHeight();
     void CreateSlider(UIPageWindow& page, POINT place, long width);
     void CreateEnds(UIPageWindow& page, POINT place, long width);
     std::unique_ptr<UITextControl> CreateText(UIPageWindow& page, POINT place, long width,
-                                              DWORD style, long lines = 1) const;
-    void FitEnds(const UITextRuler& ruler, long width);
+                                              DWORD style) const;
     std::optional<int> ReadNumber() const;
     void ReadRules();
     void Slid(int code);
@@ -59,14 +62,14 @@ private:
 
     UIMoleculeLabel m_label;
     UIMoleculeSwitch m_switch;
+    long m_switchWidth = 0; ///< room of the check box beside the box; 0: it stands above
     UINumberRules m_rules;
     const UISliderControlData* m_sliderData = nullptr;
     std::unique_ptr<UISliderControl> m_slider;
     std::unique_ptr<UITextControl> m_number;
     std::unique_ptr<UITextControl> m_lowEnd;
     std::unique_ptr<UITextControl> m_highEnd;
-    long m_lowWidth = 0; ///< dialog units of the text under the low end; 0: half of the slider
-    long m_endLines = 1;
     std::optional<int> m_value;
+    long m_lowEndWidth = 0; ///< 0: half of the slider
     bool m_cleared = false;
 };

@@ -1,5 +1,7 @@
 #include "uispinmolecule.h"
 
+#include <algorithm>
+
 #include "featureservices.h"
 #include "integerfeatureref.h"
 #include "numberranges.h"
@@ -10,13 +12,13 @@
 #include "uimoleculedump.h"
 #include "uiservices.h"
 #include "uispincontroldata.h"
-#include "uivaluewriter.h"
 #include "uitextruler.h"
+#include "uivaluewriter.h"
 
 namespace {
 
 constexpr long kSwitchGap = 3;  // dialog units; between the check box and the field under it
-constexpr long kSwitchDrop = 2; // of the check box beside a field
+constexpr long kSwitchDrop = 2; // of a check box of one line beside a field
 
 } // namespace
 
@@ -31,7 +33,7 @@ UISpinMolecule::~UISpinMolecule() = default;
 void UISpinMolecule::InitializeFromDescription()
 {
     for (const auto& control : GetData().getControls()) {
-        const FeatureIdWithContext feature{FeatureId(control->getFeature())};
+        const auto feature = InFeatureList(FeatureIdWithContext{FeatureId(control->getFeature())});
         switch (control->getKind()) {
         case UIControlKind::Spin:
         case UIControlKind::DimensionSpin:
@@ -48,6 +50,7 @@ void UISpinMolecule::InitializeFromDescription()
             break;
         }
     }
+    m_switchWidth = GetLabelWidth();
     m_switch.SetMoleculeFeature(GetBoundFeature());
     if (m_switch.HasOwnFeature())
         AddFurtherFeature(m_switch.GetFeature());
@@ -57,24 +60,27 @@ void UISpinMolecule::InitializeFromDescription()
 // The check box takes the place of a label; beside a label it has a line of its own.
 long UISpinMolecule::BesideWidth() const
 {
-    return m_label.IsEmpty() && m_switch.Exists() ? GetLabelWidth() : m_label.GetBesideWidth();
+    return IsSwitchBeside() ? m_switchWidth : m_label.GetBesideWidth();
 }
 
 long UISpinMolecule::HeightAbove() const
 {
-    const bool ownLine = m_switch.Exists() && (!m_label.IsEmpty() || GetLabelWidth() == 0);
-    return m_label.GetHeightAbove() + (ownLine ? UIMoleculeSwitch::kHeight + kSwitchGap : 0);
+    const bool ownLine = m_switch.Exists() && !IsSwitchBeside();
+    return m_label.GetHeightAbove() + (ownLine ? m_switch.GetHeight() + kSwitchGap : 0);
 }
 
 void UISpinMolecule::UpdateMinimumHeight()
 {
-    SetMinimumExtent({0, HeightAbove() + UINumberField::kHeight});
+    const long beside = IsSwitchBeside() ? m_switch.GetHeight() : 0;
+    SetMinimumExtent({0, std::max(beside, HeightAbove() + UINumberField::kHeight)});
 }
 
 void UISpinMolecule::FitTexts(const UITextRuler& ruler, long width)
 {
     m_label.Fit(ruler, width - kInfoLane);
-    m_field.SetUnitWidth(ruler.WidthOf(MakeRules().unitText));
+    if (m_switchWidth && ruler.GetFit().labelWidth)
+        m_switchWidth = ruler.GetFit().labelWidth;
+    m_switch.Fit(ruler, IsSwitchBeside() ? m_switchWidth : width - kInfoLane);
     UpdateMinimumHeight();
 }
 
@@ -88,10 +94,9 @@ void UISpinMolecule::CreateControls(UIPageWindow& page)
     SetPage(page);
     const POINT place = GetPosition();
     const long beside = BesideWidth();
-    const bool switchBeside = beside != 0 && m_label.IsEmpty();
     const long top = place.y + GetMinimumHeight() - UINumberField::kHeight;
-    m_switch.Create(page, {place.x, place.y + (switchBeside ? kSwitchDrop : 0)},
-                    switchBeside ? beside : GetContentWidth());
+    m_switch.Create(page, {place.x, place.y + (IsSwitchBeside() ? kSwitchDrop : 0)},
+                    IsSwitchBeside() ? beside : GetContentWidth());
     m_label.Create(page, GetSite().services, {place.x, top - m_label.GetHeightAbove()},
                    GetContentWidth());
     m_field.SetRules(MakeRules());
@@ -159,22 +164,28 @@ void UISpinMolecule::LoadValue()
 {
     m_switch.Load();
     m_field.ShowValue(m_cleared ? std::nullopt : ReadNumber());
+    m_field.Enable(IsEnabled() && m_switch.IsOn());
 }
 
 void UISpinMolecule::ShowState(const InterpretedState& state, bool enabled)
 {
     m_cleared = !enabled && state.IsCleared();
     m_label.Enable(enabled);
-    m_switch.Enable(enabled);
+    m_switch.Enable(enabled, IsForceDisabled());
     LoadValue();
-    m_field.Enable(enabled && m_switch.IsOn());
+}
+
+void UISpinMolecule::CompleteState(const CapabilitiesNode& capabilities,
+                                   InterpretedState& state) const
+{
+    UIFeatureMolecule::CompleteState(capabilities, state);
+    m_switch.AddReason(state);
 }
 
 bool UISpinMolecule::HandleMessage(const _UIWindowsMessage& message)
 {
     if (m_switch.HandleMessage(message)) {
         LoadValue();
-        m_field.Enable(IsEnabled() && m_switch.IsOn());
         return true;
     }
     return m_field.HandleMessage(message) || ProcessCommonMessage(message);

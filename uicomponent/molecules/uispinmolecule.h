@@ -37,6 +37,8 @@ public:
 protected:
     void LoadValue() override;
     void ShowState(const InterpretedState& state, bool enabled) override;
+    void CompleteState(const CapabilitiesNode& capabilities,
+                       InterpretedState& state) const override;
 
     /// How the values of the feature are written, and which are allowed.
     virtual UINumberRules MakeRules();
@@ -51,6 +53,7 @@ protected:
     void RenewRules();
 
 private:
+    bool IsSwitchBeside() const { return m_label.IsEmpty() && m_switch.Exists() && m_switchWidth; }
     long BesideWidth() const;
     long HeightAbove() const;
     void UpdateMinimumHeight();
@@ -58,6 +61,7 @@ private:
 
     UIMoleculeLabel m_label;
     UIMoleculeSwitch m_switch;
+    long m_switchWidth = 0; ///< room of the check box beside the box; 0: it stands above
     UINumberField m_field;
     const UISpinControlData* m_spinData = nullptr;
     bool m_cleared = false;

@@ -25,14 +25,14 @@ void UITextField::ShowValue(const CXString& text)
 {
     if (text == m_value)
         return;
-    m_value = text;
+    m_value = m_origin = text;
     DropPending();
 }
 
 bool UITextField::HandleMessage(const _UIWindowsMessage& message)
 {
-    if (message.message == WM_COMMAND && HIWORD(message.wParam) == EN_MAXTEXT &&
-        GetHwnd() && reinterpret_cast<HWND>(message.lParam) == GetHwnd()) {
+    if (message.message == WM_COMMAND && HIWORD(message.wParam) == EN_MAXTEXT && GetHwnd() &&
+        reinterpret_cast<HWND>(message.lParam) == GetHwnd()) {
         ShowTip(TooLong());
         return true;
     }
@@ -50,24 +50,30 @@ CXString UITextField::PresentTextInSentence() const
     return m_rules.password || m_value.IsEmpty() ? CXString() : L"\u201C" + m_value + L"\u201D";
 }
 
+CXString UITextField::FaultOf(CXString& text) const
+{
+    if (m_rules.digitsOnly) {
+        text = UITypedNumber::withPlainDigits(text).Trim();
+        const auto characters = text.View();
+        if (!std::all_of(characters.begin(), characters.end(),
+                         [](wchar_t character) { return character >= L'0' && character <= L'9'; }))
+            return String(O7STR_M_DIGITS_ONLY);
+    }
+    return text.GetLength() > m_rules.longest ? TooLong() : CXString();
+}
+
 UITypedField::Verdict UITextField::Take(const CXString& text)
 {
     CXString value = text;
-    if (m_rules.digitsOnly) {
-        value = UITypedNumber::withPlainDigits(text).Trim();
-        const auto characters = value.View();
-        if (!std::all_of(characters.begin(), characters.end(),
-                         [](wchar_t character) { return character >= L'0' && character <= L'9'; }))
-            return {.fault = String(O7STR_M_DIGITS_ONLY)};
-    }
-    if (value.GetLength() > m_rules.longest)
-        return {.fault = TooLong()};
+    const CXString fault = FaultOf(value);
+    // On the way to a text that is not allowed, its beginning may have been.
+    if (!fault.IsEmpty())
+        value = m_origin;
     if (value == m_value)
-        return {.taken = true};
+        return {.taken = fault.IsEmpty(), .fault = fault};
     const CXString before = std::exchange(m_value, value); // what is told meanwhile is no news
-    if (!m_write(value)) {
-        m_value = before;
-        return {.fault = String(O7STR_M_REFUSED)};
-    }
-    return {.taken = true};
+    if (m_write(value))
+        return {.taken = fault.IsEmpty(), .fault = fault};
+    m_value = before;
+    return {.fault = fault.IsEmpty() ? String(O7STR_M_REFUSED) : fault};
 }

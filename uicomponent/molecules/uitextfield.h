@@ -31,11 +31,15 @@ protected:
     Verdict Take(const CXString& text) override;
     CXString PresentText() const override { return m_value; }
     CXString PresentTextInSentence() const override;
+    void KeepAsOrigin() override { m_origin = m_value; }
 
 private:
+    /// @return empty when the text, which is changed to what is stored, can be taken.
+    CXString FaultOf(CXString& text) const;
     CXString TooLong() const;
 
     Rules m_rules;
     Writer m_write;
     CXString m_value;
+    CXString m_origin; ///< what the person has settled on before
 };

@@ -6,6 +6,7 @@
 
 #include "productstringloader.h"
 #include "uieditcontrol.h"
+#include "uiservices.h"
 #include "uistringnumbers.h"
 #include "uitooltips.h"
 #include "windowtext.h"
@@ -18,8 +19,7 @@ constexpr UINT kTipMilliseconds = 8000;
 // judges the page as a whole.
 bool isControlOf(HWND page, HWND window)
 {
-    return window && GetParent(window) == page &&
-           GetDlgCtrlID(window) >= UIPageWindow::kFirstId;
+    return window && GetParent(window) == page && GetDlgCtrlID(window) >= UIPageWindow::kFirstId;
 }
 
 } // namespace
@@ -109,6 +109,10 @@ bool UITypedField::HandleMessage(const _UIWindowsMessage& message)
         if (!m_filling)
             Typed();
         return true;
+    case EN_SETFOCUS:
+        if (!m_pending)
+            Settle();
+        return true;
     case EN_KILLFOCUS:
         Left(GetFocus());
         return true;
@@ -119,6 +123,10 @@ bool UITypedField::HandleMessage(const _UIWindowsMessage& message)
 
 void UITypedField::Typed()
 {
+    const CXString text = GetText();
+    if (text == m_lastText)
+        return; // a key that found no room is told as a change as well
+    m_lastText = text;
     HideTip();
     Retake();
 }
@@ -139,14 +147,16 @@ void UITypedField::Left(HWND next)
 void UITypedField::Settle()
 {
     if (!m_pending) {
+        KeepAsOrigin();
         ShowText(PresentText());
         return;
     }
     CXString said = m_verdict.fault;
     const bool corrected = !m_verdict.correction.IsEmpty() && Take(m_verdict.correction).taken;
     DropPending();
-    said += Consequence(corrected ? O7STR_M_CHANGED_TO : O7STR_M_VALUE_STAYS,
-                        PresentTextInSentence());
+    KeepAsOrigin();
+    said +=
+        Consequence(corrected ? O7STR_M_CHANGED_TO : O7STR_M_VALUE_STAYS, PresentTextInSentence());
     ShowTip(said);
 }
 
@@ -159,8 +169,8 @@ void UITypedField::DropPending()
 
 CXString UITypedField::Consequence(unsigned number, const CXString& value) const
 {
-    return value.IsEmpty() ? CXString() : L"\n" + CXString::Formatted(String(number).c_str(),
-                                                                      value.c_str());
+    return value.IsEmpty() ? CXString()
+                           : L"\n" + CXString::Formatted(String(number).c_str(), value.c_str());
 }
 
 bool UITypedField::Refuse()
@@ -170,9 +180,9 @@ bool UITypedField::Refuse()
     BringPageToFront();
     const CXString text =
         m_verdict.fault + Consequence(O7STR_M_VALUE_STAYS, PresentTextInSentence());
-    MessageBoxW(
-        GetAncestor(m_page, GA_ROOT), text.c_str(),
-        m_site->strings.GetStringForFeature(m_feature.GetFeatureId().GetFeatureEnum()).c_str(),
+    m_site->services.showMessage(
+        GetAncestor(m_page, GA_ROOT), text,
+        m_site->strings.GetStringForFeature(m_feature.GetFeatureId().GetFeatureEnum()),
         MB_OK | MB_ICONWARNING);
     SendMessageW(m_page, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(GetHwnd()), TRUE);
     m_edit->selectAll();
@@ -185,8 +195,7 @@ void UITypedField::BringPageToFront() const
     if (IsWindowVisible(m_page))
         return;
     const HWND sheet = GetParent(m_page);
-    const LRESULT index =
-        SendMessageW(sheet, PSM_HWNDTOINDEX, reinterpret_cast<WPARAM>(m_page), 0);
+    const LRESULT index = SendMessageW(sheet, PSM_HWNDTOINDEX, reinterpret_cast<WPARAM>(m_page), 0);
     if (index >= 0)
         SendMessageW(sheet, PSM_SETCURSEL, static_cast<WPARAM>(index), 0);
 }
@@ -197,6 +206,7 @@ void UITypedField::ShowText(const CXString& text)
         return;
     const bool wasFilling = std::exchange(m_filling, true);
     m_edit->setText(text);
+    m_lastText = text;
     m_filling = wasFilling;
 }
 
@@ -208,8 +218,8 @@ void UITypedField::ShowTip(const CXString& text)
     GetWindowRect(GetHwnd(), &place);
     m_toolTips->showBeside(GetHwnd(), place, text);
     NotifyWinEvent(EVENT_SYSTEM_ALERT, m_toolTips->getHwnd(), OBJID_CLIENT, CHILDID_SELF);
-    m_tipShown = SetTimer(m_page, static_cast<UINT_PTR>(m_edit->getId()), kTipMilliseconds,
-                          nullptr) != 0;
+    m_tipShown =
+        SetTimer(m_page, static_cast<UINT_PTR>(m_edit->getId()), kTipMilliseconds, nullptr) != 0;
 }
 
 void UITypedField::HideTip()

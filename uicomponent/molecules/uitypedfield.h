@@ -15,11 +15,11 @@ class UIEditControl;
 class UIToolTips;
 
 /// A box to type in, and what becomes of what is typed. A valid text goes into the model at once,
-/// and stays as it was typed until the box is left. Any other text waits: the model keeps its value,
-/// the box keeps the text. When the person goes on to another control of the page, it is corrected
-/// to the nearest allowed value, or the old one comes back, and a tip beside the box says so; when
-/// they go to OK, Apply or another page, it stays, and Refuse() keeps the sheet open.
-/// A subclass says which texts are valid. Owned by a molecule.
+/// and stays as it was typed until the box is left. Any other text waits: the model keeps its
+/// value, the box keeps the text. When the person goes on to another control of the page, it is
+/// corrected to the nearest allowed value, or the old one comes back, and a tip beside the box says
+/// so; when they go to OK, Apply or another page, it stays, and Refuse() keeps the sheet open. A
+/// subclass says which texts are valid. Owned by a molecule.
 class UITypedField
 {
 public:
@@ -27,7 +27,7 @@ public:
     struct Surroundings
     {
         const UIMoleculeSite& site;
-        UIToolTips* toolTips; ///< may be null
+        UIToolTips* toolTips;         ///< may be null
         FeatureIdWithContext feature; ///< whose name is the title of messages
         CXString label;
     };
@@ -85,6 +85,9 @@ protected:
     /// Whether the window belongs to the setting as much as this field does.
     virtual bool IsSibling(HWND) const { return false; }
 
+    /// What stands in the box now is what the person has settled on: a text that is no value later
+    /// brings it back.
+    virtual void KeepAsOrigin() = 0;
     /// Brings a text that waits to an end: it is corrected, or the old one comes back.
     virtual void Settle();
 
@@ -108,6 +111,7 @@ private:
     FeatureIdWithContext m_feature;
     HWND m_page = nullptr;
     Verdict m_verdict;
+    CXString m_lastText; ///< seen or shown in the box
     bool m_pending = false;
     bool m_filling = false;
     bool m_tipShown = false;

@@ -58,6 +58,11 @@ template <class Handle> struct GdiTraits : NullableHandle<Handle>
 {
     static void close(Handle object) noexcept { ::DeleteObject(object); }
 };
+struct IconTraits : NullableHandle<HICON>
+{
+    static void close(HICON icon) noexcept { ::DestroyIcon(icon); }
+};
+
 struct MemoryDcTraits : NullableHandle<HDC>
 {
     static void close(HDC dc) noexcept { ::DeleteDC(dc); }
@@ -99,6 +104,7 @@ using UniqueFont = UniqueHandle<GdiTraits<HFONT>>;
 using UniqueBitmap = UniqueHandle<GdiTraits<HBITMAP>>;
 using UniqueBrush = UniqueHandle<GdiTraits<HBRUSH>>;
 using UniquePen = UniqueHandle<GdiTraits<HPEN>>;
+using UniqueIcon = UniqueHandle<IconTraits>; ///< not for shared icons
 using UniqueMemoryDc = UniqueHandle<MemoryDcTraits>; ///< from CreateCompatibleDC or CreateDC
 using UniqueEvent = UniqueHandle<KernelTraits>;
 using UniqueThread = UniqueHandle<KernelTraits>;

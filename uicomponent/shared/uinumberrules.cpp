@@ -40,21 +40,28 @@ std::int64_t inMultiplesOf(std::int64_t unit, std::int64_t value)
 
 } // namespace
 
-std::int64_t UINumberRules::lastDigit() const
+std::int64_t UINumberRules::countOfDigit(int digit) const
 {
     if (!isLength)
         return 1;
     std::int64_t billionths = kBillion;
-    for (int digit = 0; digit < digits; ++digit)
+    for (int place = 0; place < digit; ++place)
         billionths /= 10;
-    return std::max<std::int64_t>(
-        1, Dimension(Number::FromBillionths(billionths), units).GetCount());
+    return std::max<std::int64_t>(1,
+                                  Dimension(Number::FromBillionths(billionths), units).GetCount());
 }
 
 CXString UINumberRules::text(std::int64_t value) const
 {
-    if (isLength)
-        return Dimension::FromCount(value, units).GetStringValue(units, digits, decimalSeparator);
+    if (isLength) {
+        constexpr int kMoreDigits = 2;
+        int exact = digits;
+        while (exact < digits + kMoreDigits && value % countOfDigit(exact) != 0)
+            ++exact;
+        const bool isExact = value % countOfDigit(exact) == 0;
+        return Dimension::FromCount(value, units)
+            .GetStringValue(units, isExact ? exact : digits, decimalSeparator);
+    }
     const auto whole = std::clamp(value, kWholeLimits.low, kWholeLimits.high);
     return Number(static_cast<int>(whole)).GetStringValue();
 }

@@ -45,7 +45,8 @@ struct UINumberRules
     int digits = 0;                                                ///< behind the separator
     std::int64_t grid = 1; ///< a length is stored in multiples of this count
 
-    /// The value as it is shown, without its unit; and with it, for sentences.
+    /// The value as it is shown, without its unit; and with it, for sentences. A length that takes
+    /// one or two digits more to be exact gets them.
     CXString text(std::int64_t value) const;
     CXString textWithUnit(std::int64_t value) const;
     Reading read(const CXString& typed, const UIUnitNames& names) const;
@@ -62,5 +63,7 @@ struct UINumberRules
 private:
     Reading readWhole(const CXString& unit, const Number& number) const;
     Reading readLength(const CXString& unit, const Number& number, const UIUnitNames& names) const;
-    std::int64_t lastDigit() const;
+    /// The length that one counts in that digit behind the separator.
+    std::int64_t countOfDigit(int digit) const;
+    std::int64_t lastDigit() const { return countOfDigit(digits); }
 };

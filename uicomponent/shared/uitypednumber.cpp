@@ -25,9 +25,9 @@ constexpr struct
     wchar_t from;
     wchar_t to;
 } kSameMeaning[] = {
-    {L'\u2212', L'-'},    {L'\u2013', L'-'},    {L'\u060C', L','},    {L'\u066C', kGroup},
-    {L'\u2019', kGroup},  {L'\u00A0', L' '},    {L'\u2007', L' '},    {L'\u2009', L' '},
-    {L'\u202F', L' '},    {L'\u3000', L' '},    {L'\t', L' '},        {L'\u3002', L'.'},
+    {L'\u2212', L'-'},   {L'\u2013', L'-'}, {L'\u060C', L','}, {L'\u066C', kGroup},
+    {L'\u2019', kGroup}, {L'\u00A0', L' '}, {L'\u2007', L' '}, {L'\u2009', L' '},
+    {L'\u202F', L' '},   {L'\u3000', L' '}, {L'\t', L' '},     {L'\u3002', L'.'},
 };
 
 bool isDigit(wchar_t character)

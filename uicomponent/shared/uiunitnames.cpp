@@ -9,10 +9,12 @@ constexpr struct
     const wchar_t* word;
     UIUnitNames::Unit unit;
 } kKnownEverywhere[] = {
-    {L"mm", {Millimetre, 1}}, {L"\u339C", {Millimetre, 1}}, {L"cm", {Millimetre, 10}},
-    {L"\u339D", {Millimetre, 10}}, {L"m", {Millimetre, 1000}}, {L"in", {Inch, 1}},
-    {L"\"", {Inch, 1}}, {L"\u2033", {Inch, 1}}, {L"\u201D", {Inch, 1}},
-    {L"''", {Inch, 1}}, {L"\u33CC", {Inch, 1}}, {L"pt", {Point, 1}},
+    {L"mm", {Millimetre, 1}},   {L"\u339C", {Millimetre, 1}},
+    {L"cm", {Millimetre, 10}},  {L"\u339D", {Millimetre, 10}},
+    {L"m", {Millimetre, 1000}}, {L"in", {Inch, 1}},
+    {L"\"", {Inch, 1}},         {L"\u2033", {Inch, 1}},
+    {L"\u201D", {Inch, 1}},     {L"''", {Inch, 1}},
+    {L"\u33CC", {Inch, 1}},     {L"pt", {Point, 1}},
 };
 
 } // namespace
