@@ -29,6 +29,8 @@ constexpr std::wstring_view kUsage =
     L"                   4 printing defaults (default: 1, with --entry dialog 3)\n"
     L"  --entry E        sheet, cpsui, dialog or child (default: sheet)\n"
     L"  --lang xx        language of the texts (default: the system's)\n"
+    L"  --longer         every text a third longer, as in the longest translations;\n"
+    L"                   not with --entry cpsui\n"
     L"  --shots DIR      visit every page, save one picture each, cancel\n"
     L"  --snapshot FILE  visit every page, write what is on them as text, cancel\n"
     L"  --user-dir DIR   where accepted settings are kept\n"
@@ -130,8 +132,9 @@ struct FlagRow
     bool PreviewOptions::*field;
 };
 
-constexpr std::array<FlagRow, 5> kFlags{{
+constexpr std::array<FlagRow, 6> kFlags{{
     {L"--gallery", &PreviewOptions::gallery},
+    {L"--longer", &PreviewOptions::longer},
     {L"--mirrored", &PreviewOptions::mirrored},
     {L"--classic", &PreviewOptions::classic},
     {L"--help", &PreviewOptions::help},
@@ -141,9 +144,11 @@ constexpr std::array<FlagRow, 5> kFlags{{
 /// What is wrong with options that are right one by one; empty when nothing is.
 std::wstring_view conflictIn(const PreviewOptions& options)
 {
-    return (options.mirrored || options.classic) && !options.gallery
-               ? L"Options --mirrored and --classic go with --gallery."
-               : L"";
+    if ((options.mirrored || options.classic) && !options.gallery)
+        return L"Options --mirrored and --classic go with --gallery.";
+    if (options.longer && options.entry == PreviewEntry::Cpsui) // the plug-in brings the texts
+        return L"Option --longer does not go with --entry cpsui.";
+    return {};
 }
 
 } // namespace

@@ -30,6 +30,7 @@ struct PreviewOptions
     std::optional<int> family;   ///< another value of feature 285
     std::wstring checkedPackage; ///< not empty: check this package instead of opening anything
     bool gallery = false;        ///< the controls themselves instead of a product
+    bool longer = false;         ///< every text a third longer
     bool mirrored = false;       ///< the gallery right to left
     bool classic = false;        ///< the gallery without themes
     bool help = false;

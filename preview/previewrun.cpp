@@ -73,7 +73,8 @@ bool PreviewRun::openSession()
     m_package = *folder;
     m_productName = folder->filename().wstring();
     std::vector<CXString> errors;
-    m_session = ProductSession::open(*folder, CXString(m_options.language), errors);
+    m_session = ProductSession::open(*folder, CXString(m_options.language), errors,
+                                     m_options.longer ? TextLength::Longer : TextLength::AsWritten);
     for (const CXString& error : errors) {
         printError(error.View());
     }

@@ -6,6 +6,8 @@
 #include <string>
 #include <utility>
 
+#include "longerstringloader.h"
+
 namespace o7 {
 
 // Declared in the order of dependence, so that each outlives what borrows from it.
@@ -14,7 +16,7 @@ struct ProductSession::Parts
     CXString wantedLanguage;
     std::shared_ptr<const ProductPackage> package;
     std::optional<ProductData> productData;
-    std::optional<ProductStringLoader> strings;
+    std::unique_ptr<ProductStringLoader> strings;
     std::unique_ptr<IDataModel> model;
 };
 
@@ -25,18 +27,19 @@ ProductSession::~ProductSession() = default;
 
 std::unique_ptr<ProductSession> ProductSession::open(const std::filesystem::path& package,
                                                      const CXString& language,
-                                                     std::vector<CXString>& errors)
+                                                     std::vector<CXString>& errors,
+                                                     TextLength length)
 {
     std::vector<PackageError> faults;
     std::shared_ptr<const ProductPackage> loaded = LoadProductPackage(package, faults);
     for (const PackageError& fault : faults) {
         errors.push_back(CXString::FromUtf8(fault.ToString()));
     }
-    return loaded ? open(std::move(loaded), language) : nullptr;
+    return loaded ? open(std::move(loaded), language, length) : nullptr;
 }
 
 std::unique_ptr<ProductSession> ProductSession::open(std::shared_ptr<const ProductPackage> package,
-                                                     const CXString& language)
+                                                     const CXString& language, TextLength length)
 {
     std::unique_ptr<ProductSession> session(new ProductSession);
     Parts& parts = *session->m_parts;
@@ -45,7 +48,12 @@ std::unique_ptr<ProductSession> ProductSession::open(std::shared_ptr<const Produ
     const CXString folder(parts.package->GetFolder().wstring());
     parts.wantedLanguage = language.IsEmpty() ? desktopLanguage() : language;
     parts.productData.emplace(folder, info);
-    parts.strings.emplace(info.controllerFamily, folder, parts.wantedLanguage);
+    if (length == TextLength::Longer)
+        parts.strings = std::make_unique<LongerStringLoader>(info.controllerFamily, folder,
+                                                             parts.wantedLanguage);
+    else
+        parts.strings = std::make_unique<ProductStringLoader>(info.controllerFamily, folder,
+                                                              parts.wantedLanguage);
     parts.model = CreateDataModel(*parts.package, *parts.strings);
     return session;
 }

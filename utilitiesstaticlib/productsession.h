@@ -11,6 +11,13 @@
 
 namespace o7 {
 
+/// Whether a product's texts are shown as they are, or lengthened to see what becomes of the pages.
+enum class TextLength
+{
+    AsWritten,
+    Longer, ///< by a third, see longerText
+};
+
 /// Everything that has to stand behind a preferences UI for one product: its description, its
 /// texts in one language and a data model with its defaults. A host (the driver's plug-in, the
 /// preview) opens one, hands `productData()`, `featureServices()` and `strings()` to `UIManager`,
@@ -27,11 +34,13 @@ public:
     /// @return null when anything is wrong: nothing is loaded by halves.
     static std::unique_ptr<ProductSession> open(const std::filesystem::path& package,
                                                 const CXString& language,
-                                                std::vector<CXString>& errors);
+                                                std::vector<CXString>& errors,
+                                                TextLength length = TextLength::AsWritten);
 
     /// The same with a package that is loaded already, which may serve several sessions.
     static std::unique_ptr<ProductSession> open(std::shared_ptr<const ProductPackage> package,
-                                                const CXString& language);
+                                                const CXString& language,
+                                                TextLength length = TextLength::AsWritten);
 
     ProductSession(const ProductSession&) = delete;
     ProductSession& operator=(const ProductSession&) = delete;

@@ -33,6 +33,7 @@ const RefusedRow kRefused[] = {
     {"entry", {L"--entry", L"Sheet"}, L"sheet, cpsui, dialog or child"},
     {"language as a path", {L"--lang", L"..\\de"}, L"a language such as"},
     {"language too short", {L"--lang", L"d"}, L"a language such as"},
+    {"longer texts of the plug-in", {L"--longer", L"--entry", L"cpsui"}, L"not go with"},
     {"mirrored without gallery", {L"--mirrored"}, L"go with --gallery"},
     {"classic without gallery", {L"--classic", L"--mode=2"}, L"go with --gallery"},
     {"flag with a value", {L"--gallery=1"}, L"Unknown option \"--gallery\""},

@@ -2,6 +2,8 @@
 
 #include "droppedlist.h"
 #include "textmeasure.h"
+#include "uitooltips.h"
+#include "windowtext.h"
 
 #include <commctrl.h>
 
@@ -12,6 +14,9 @@ namespace {
 constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST |
                          CBS_OWNERDRAWFIXED | CBS_HASSTRINGS;
 static_assert(kStyle == 0x50210213);
+
+constexpr LONG kDrawnWider =
+    50; // some displays draw wider than they measure: one part of that many
 
 /// Its width keeps the longest entry off the edge of the dropped list.
 constexpr wchar_t kReferenceCharacter[] = L"M";
@@ -78,8 +83,8 @@ int UIComboBoxControl::addItem(const CXString& text)
     if (m_measure == nullptr) {
         m_measure = std::make_unique<o7::TextMeasure>(itemFont());
     }
-    m_widestItem =
-        std::max(m_widestItem, static_cast<int>(m_measure->measure(text.View()).cx) + m_margin);
+    m_widestText = std::max(m_widestText, static_cast<int>(m_measure->measure(text.View()).cx));
+    m_widestItem = std::max(m_widestItem, m_widestText + m_margin);
     if (!m_isFilling) {
         applyDroppedWidth(static_cast<int>(index) + 1);
     }
@@ -144,10 +149,30 @@ LRESULT UIComboBoxControl::subclassWindowProcedure(HWND window, UINT message, WP
     if (message == WM_PAINT || message == WM_SETFONT) {
         m_measure.reset();
     }
+    if (message == WM_SETCURSOR) {
+        tipWhatIsCut();
+    }
     if (message == WM_MOUSEWHEEL && turnWheel(wParam)) {
         return 0;
     }
     return UIEntryListControl::subclassWindowProcedure(window, message, wParam, lParam);
+}
+
+/// When the mouse comes over the field, a choice that it cannot show whole gets a tip that does.
+void UIComboBoxControl::tipWhatIsCut() const
+{
+    COMBOBOXINFO info{};
+    info.cbSize = sizeof info;
+    if (toolTips() == nullptr || ::GetComboBoxInfo(getHwnd(), &info) == FALSE) {
+        return;
+    }
+    const LONG room = info.rcItem.right - info.rcItem.left - 2 * ::GetSystemMetrics(SM_CXEDGE);
+    if (m_widestText + m_widestText / kDrawnWider <= room) {
+        return;
+    }
+    const CXString shown = o7::windowText(getHwnd());
+    const LONG needed = o7::TextMeasure(itemFont()).measure(shown.View()).cx;
+    toolTips()->setTip(getHwnd(), needed + needed / kDrawnWider > room ? shown : CXString());
 }
 
 /// Over a closed list the wheel goes on as the arrow keys do, and so passes over grey entries.

@@ -52,10 +52,12 @@ private:
     void setItemHeight(int part, int height) const;
     HFONT itemFont() const;
     void applyDroppedWidth(int count);
+    void tipWhatIsCut() const;
 
     std::unique_ptr<o7::DroppedList> m_droppedList; ///< from the first dropping on
     std::unique_ptr<o7::TextMeasure> m_measure;     ///< while entries are added, until painted
     int m_widestItem = 0;                           ///< running maximum of the dropped width
+    int m_widestText = 0;                           ///< of all entries
     int m_droppedWidth = 0;                         ///< what the window was given last
     int m_margin = 0;                               ///< width of the reference character
     int m_minVisible = 0;

@@ -107,6 +107,8 @@ protected:
     /// What a key means; true when it is dealt with.
     bool filterKeys(UINT message, WPARAM wParam);
     void hideReason();
+    /// The page's; may be null.
+    UIToolTips* toolTips() const { return m_toolTips; }
 
     virtual LRESULT subclassWindowProcedure(HWND window, UINT message, WPARAM wParam,
                                             LPARAM lParam);

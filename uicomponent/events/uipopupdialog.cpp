@@ -4,6 +4,7 @@
 
 #include "dialogconversion.h"
 #include "productstringloader.h"
+#include "textmeasure.h"
 #include "uibuttoncontrol.h"
 #include "uiconflictwalk.h"
 #include "uicontainerdata.h"
@@ -13,6 +14,7 @@
 #include "uilayoutmanager.h"
 #include "uimolecule.h"
 #include "uiservices.h"
+#include "uitextruler.h"
 
 namespace {
 
@@ -20,6 +22,7 @@ namespace {
 constexpr long kButtonWidth = 50;
 constexpr long kButtonHeight = 14;
 constexpr long kButtonGap = 4;
+constexpr long kButtonPadding = 8; // what a button is wider than its text
 constexpr long kButtonRow = kButtonHeight + UILayoutManager::kMargin;
 
 RECT workAreaOf(HWND window)
@@ -96,18 +99,24 @@ bool UIPopupDialog::open(const _UIWindowsMessage& message)
 
 void UIPopupDialog::createButtons()
 {
+    const o7::TextMeasure measure(getPage().font);
+    const UITextRuler ruler(measure, getServices().getDialogConversion());
     const auto& actions = m_data.getDialogActions();
+    long width = kButtonWidth; // the same for all
+    for (const auto& action : actions)
+        width = std::max(width, ruler.WidthOf(getStrings().LoadStringW(action->getLabel())) +
+                                    kButtonPadding);
     const auto count = static_cast<long>(actions.size());
-    long x = m_data.getWidth() - UILayoutManager::kMargin - count * kButtonWidth -
-             (count - 1) * kButtonGap;
+    long x =
+        m_data.getWidth() - UILayoutManager::kMargin - count * width - (count - 1) * kButtonGap;
     const long y = m_data.getHeight() - UILayoutManager::kMargin - kButtonHeight;
     for (const auto& action : actions) {
         auto button = std::make_unique<UIButtonControl>(
             getWindow(), static_cast<int>(action->getControlId()), getServices(), getPage().font,
-            POINT{x, y}, SIZE{kButtonWidth, kButtonHeight}, action->isDefault());
+            POINT{x, y}, SIZE{width, kButtonHeight}, action->isDefault());
         SetWindowTextW(button->getHwnd(), getStrings().LoadStringW(action->getLabel()).c_str());
         m_buttons.push_back(std::move(button));
-        x += kButtonWidth + kButtonGap;
+        x += width + kButtonGap;
     }
 }
 

@@ -38,6 +38,21 @@ long UIColumn::getHeight() const
     return UIMoleculeStack::height(m_molecules, m_gaps);
 }
 
+const UIMolecule* UIColumn::findFirstBeyond(long height) const
+{
+    const UIMolecule* former = nullptr;
+    long bottom = 0;
+    for (const auto& molecule : m_molecules) {
+        if (former)
+            bottom += UIMoleculeStack::gapBetween(*former, *molecule, m_gaps);
+        bottom += molecule->GetMinimumHeight();
+        if (bottom > height)
+            return molecule.get();
+        former = molecule.get();
+    }
+    return nullptr;
+}
+
 long UIColumn::labelWidthFor(const UITextRuler& ruler) const
 {
     const long described = m_data.getLabelWidth();

@@ -26,6 +26,8 @@ public:
     void widen(long dialogUnits) { m_width += dialogUnits; }
     /// Height of the content in dialog units.
     long getHeight() const;
+    /// The first molecule that does not end within that height; null when all do. Borrowed.
+    const UIMolecule* findFirstBeyond(long height) const;
     /// Lets the molecules take the heights that their texts need in the page's font. When that is
     /// more than there is room for, gaps become smaller first, then labels keep to one line.
     /// @param ruler  notes whether a text is cut

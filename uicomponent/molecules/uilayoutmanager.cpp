@@ -27,19 +27,23 @@ CXString UILayoutManager::findMisfit() const
 {
     const UIContainerData& page = m_container.getData();
     const long room = getRoom();
+    long free = 0; // where the columns so far end
     unsigned number = 0;
     for (const auto& column : m_container.getColumns()) {
         ++number;
         const UIColumnData& data = column->getData();
-        if (data.getX() < 0 || data.getX() + data.getWidth() > page.getWidth())
+        if (data.getX() < free)
+            return CXString::Formatted(L"page %u: column %u begins before its place", page.getId(),
+                                       number);
+        free = data.getX() + data.getWidth();
+        if (free > page.getWidth())
             return CXString::Formatted(L"page %u: column %u reaches beyond the page's width",
                                        page.getId(), number);
-        if (column->getHeight() > room)
+        if (const UIMolecule* const first = column->findFirstBeyond(room))
             return CXString::Formatted(
-                L"page %u: column %u is %ld high, %ld more than there is room for; its last "
-                L"molecule is %s",
+                L"page %u: column %u is %ld high, %ld more than there is room for, from %s on",
                 page.getId(), number, column->getHeight(), column->getHeight() - room,
-                column->getMolecules().back()->GetDumpDisplayString(false).c_str());
+                first->GetDumpDisplayString(false).c_str());
     }
     return {};
 }

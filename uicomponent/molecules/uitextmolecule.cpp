@@ -37,7 +37,8 @@ void UITextMolecule::FitTexts(const UITextRuler& ruler, long width)
 {
     // Where labels have to keep to one line, a paragraph keeps to the lines that it was promised.
     const long most = ruler.GetFit().mostLines > 1 ? kMostLines : m_lines;
-    SetMinimumExtent({0, ruler.LinesOf(LoadText(m_number), width, most) * UITextRuler::kLineHeight});
+    SetMinimumExtent(
+        {0, ruler.LinesOf(LoadText(m_number), width, most) * UITextRuler::kLineHeight});
 }
 
 void UITextMolecule::CreateControls(UIPageWindow& page)

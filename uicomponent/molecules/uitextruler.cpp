@@ -8,7 +8,8 @@
 
 namespace {
 
-constexpr LONG kDrawnWider = 50; // some displays draw wider than they measure: one part of that many
+constexpr LONG kDrawnWider =
+    50; // some displays draw wider than they measure: one part of that many
 
 } // namespace
 

@@ -14,8 +14,9 @@ class TextMeasure;
 /// How the molecules of one column share the room they have. Dialog units.
 struct UIColumnFit
 {
-    long labelWidth = 0; ///< room beside the boxes for labels, their gap included; 0: they stand above
-    long mostLines = 2;  ///< that a label or the text of a button may take
+    long labelWidth =
+        0; ///< room beside the boxes for labels, their gap included; 0: they stand above
+    long mostLines = 2; ///< that a label or the text of a button may take
     UIMoleculeGaps gaps{};
 };
 
