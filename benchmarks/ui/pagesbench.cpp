@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <initializer_list>
 #include <stdexcept>
 #include <utility>
 
@@ -15,11 +16,15 @@ namespace o7::bench {
 
 namespace {
 
-constexpr std::array kControls = {5, 20, 50, 200};
-constexpr std::array kPages = {1, 6, 16};
+/// Pages, and windows of each: every size alone, fewer sizes where there are more pages.
+constexpr struct
+{
+    int pages;
+    std::initializer_list<int> controls;
+} kSheets[] = {{1, {5, 20, 50, 200}}, {6, {5, 50, 200}}, {16, {5, 200}}};
 constexpr int kMostVisited = 3; // further pages cost the same again
 
-/// What one sheet took in one run, as kMeasures names it.
+/// What one sheet took in one run, as kMeasureNames says.
 using Measures = std::array<double, 4>;
 constexpr std::array<const char*, 4> kMeasureNames = {"entry", "first visit", "later visit",
                                                       "close"};
@@ -93,8 +98,7 @@ void report(Report& report, int pages, const Size& size)
 /// What each control costs beyond those of the smallest page, in microseconds.
 void reportSlope(Report& report, int pages, const Size& small, const Size& large)
 {
-    constexpr std::array<std::size_t, 2> kCreating = {0, 1};
-    const std::size_t index = kCreating[pages == 1 ? 0 : 1];
+    const std::size_t index = pages == 1 ? 0 : 1;
     const auto slopes = [&](std::size_t which) {
         const double base = median(small.column(which, index));
         std::vector<double> values = large.column(which, index);
@@ -115,9 +119,9 @@ void reportSlope(Report& report, int pages, const Size& small, const Size& large
 
 void benchPages(Report& report_, const std::wstring& productFolder)
 {
-    for (const int pages : kPages) {
+    for (const auto& [pages, allControls] : kSheets) {
         std::vector<Size> sizes;
-        for (const int controls : kControls) {
+        for (const int controls : allControls) {
             sizes.push_back(measureSize(productFolder, pages, controls));
             report(report_, pages, sizes.back());
         }

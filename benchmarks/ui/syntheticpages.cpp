@@ -21,9 +21,15 @@ namespace {
 constexpr int kMaster = 100;
 constexpr int kFirstCheck = 200;
 constexpr int kFirstList = 300;
+constexpr int kFirstNumber = 400;
+constexpr int kFirstText = 500;
+constexpr int kFirstRadio = 600;
 constexpr int kOfEachKind = 20;
-constexpr int kOptions = 6;
+constexpr int kListOptions = 6;
+constexpr int kRadioOptions = 3;
 constexpr int kFirstOption = 5110; // whose names the real product knows
+constexpr int kFirstOfKinds[] = {kFirstCheck, kFirstList, kFirstNumber, kFirstText, kFirstRadio};
+constexpr int kGreyedOfKind = SyntheticPages::kGreyed / std::size(kFirstOfKinds);
 
 // Dialog units. The page is the same however much is on it, and all of it is seen.
 constexpr std::int32_t kColumns = 5;
@@ -31,6 +37,12 @@ constexpr std::int32_t kColumnWidth = 100;
 constexpr std::int32_t kColumnStep = 105;
 constexpr std::int32_t kPageWidth = 540;
 constexpr std::int32_t kPageHeight = 620;
+
+constexpr UIListRecord kList{};
+constexpr UISpinRecord kSpin{};
+constexpr UISliderRecord kSlider{.tickFrequency = 100, .pageSize = 100};
+constexpr UIEditRecord kEdit{.limit = 64};
+constexpr UIRadioRecord kRadio{};
 
 constexpr std::uint32_t kLabels[] = {O7STR_L_SIDES,      O7STR_L_PAPER_SIZE,  O7STR_L_STAPLE,
                                      O7STR_L_PUNCH,      O7STR_L_COLLATE,     O7STR_L_TONER_SAVING,
@@ -60,19 +72,30 @@ std::string feature(int number, std::string_view rest)
                    rest, "}"});
 }
 
-std::string checkFeature(int number)
+std::string optionFeature(int number, int options)
 {
-    return feature(number, R"("kind":"boolean","default":false)");
-}
-
-std::string listFeature(int number)
-{
-    std::string options;
-    for (int option = 0; option < kOptions; ++option)
-        options +=
+    std::string names;
+    for (int option = 0; option < options; ++option)
+        names +=
             joined({option == 0 ? "" : ",", R"({"enum":)", std::to_string(kFirstOption + option),
                     R"(,"name":"v)", std::to_string(option), R"("})"});
-    return feature(number, joined({R"("kind":"option","default":"v1","options":[)", options, "]"}));
+    return feature(number, joined({R"("kind":"option","default":"v1","options":[)", names, "]"}));
+}
+
+std::string featureOf(int number)
+{
+    switch (number / 100 * 100) {
+    case kFirstList:
+        return optionFeature(number, kListOptions);
+    case kFirstRadio:
+        return optionFeature(number, kRadioOptions);
+    case kFirstNumber:
+        return feature(number, R"("kind":"integer","range":{"min":1,"max":999},"default":1)");
+    case kFirstText:
+        return feature(number, R"("kind":"string","maxLength":64,"default":"Orvik")");
+    default:
+        return feature(number, R"("kind":"boolean","default":false)");
+    }
 }
 
 /// While the master is on, the target is grey.
@@ -87,14 +110,14 @@ std::string package()
 {
     std::string text = R"({"formatVersion":1,"product":{"id":"bench","modelName":"Bench",
         "uniqueId":"BNCH","controllerFamily":8430,"languages":["en"]},"features":[)";
-    text += checkFeature(kMaster);
-    for (int index = 0; index < kOfEachKind; ++index)
-        text +=
-            joined({",", checkFeature(kFirstCheck + index), ",", listFeature(kFirstList + index)});
+    text += featureOf(kMaster);
+    for (const int first : kFirstOfKinds)
+        for (int index = 0; index < kOfEachKind; ++index)
+            text += joined({",", featureOf(first + index)});
     text += R"(],"constraints":[)";
-    for (int index = 0; index < SyntheticPages::kGreyed / 2; ++index)
-        text += joined({index == 0 ? "" : ",", constraint(kFirstCheck + index), ",",
-                        constraint(kFirstList + index)});
+    for (const int first : kFirstOfKinds)
+        for (int index = 0; index < kGreyedOfKind; ++index)
+            text += joined({text.ends_with('[') ? "" : ",", constraint(first + index)});
     return text += "]}";
 }
 
@@ -120,7 +143,8 @@ SyntheticPages::SyntheticPages(const std::wstring& textFolder, int pages, int wi
     std::vector<std::vector<UIMoleculeRecord>> columns(kColumns);
     for (int number = 0; number < windows / kBlock; ++number)
         for (UIMoleculeRecord& molecule : block(number))
-            columns[static_cast<std::size_t>(number % kColumns)].push_back(molecule);
+            columns[static_cast<std::size_t>((number + number / kColumns) % kColumns)].push_back(
+                molecule); // each column gets blocks of every kind
     describe(pages, columns);
 }
 
@@ -129,10 +153,11 @@ std::unique_ptr<SyntheticPages> SyntheticPages::greying(const std::wstring& text
     std::unique_ptr<SyntheticPages> made(new SyntheticPages(textFolder));
     std::vector<std::vector<UIMoleculeRecord>> columns(kColumns);
     columns[0].push_back(made->check(kMaster));
-    for (int index = 0; index < kOfEachKind; ++index) {
-        const auto column = static_cast<std::size_t>(1 + index % (kColumns - 1));
-        columns[column].push_back(made->check(kFirstCheck + index));
-        columns[column].push_back(made->combo(kFirstList + index));
+    for (int index = 0; index < 2 * kGreyedOfKind; ++index) {
+        for (const int first : kFirstOfKinds) {
+            const auto column = static_cast<std::size_t>(1 + index % (kColumns - 1));
+            columns[column].push_back(made->molecule(first + index));
+        }
     }
     made->describe(1, columns);
     return made;
@@ -171,13 +196,34 @@ UIMoleculeRecord SyntheticPages::check(int feature)
                 {{.kind = UIControlKind::Check, .feature = number, .label = labelOf(feature)}})};
 }
 
-UIMoleculeRecord SyntheticPages::combo(int feature)
+UIMoleculeRecord SyntheticPages::box(UIMoleculeKind kind, UIControlKind control, int feature,
+                                     UIExtraRecord extra)
 {
     const auto number = static_cast<DataModelIds::tagFeatureEnum>(feature);
-    return {.kind = UIMoleculeKind::ComboBox,
+    return {.kind = kind,
             .controls = keep<UIControlRecord>(
                 {{.kind = UIControlKind::Text, .feature = number, .label = labelOf(feature)},
-                 {.kind = UIControlKind::Combo, .feature = number}})};
+                 {.kind = control, .feature = number, .extra = extra}})};
+}
+
+UIMoleculeRecord SyntheticPages::molecule(int feature)
+{
+    switch (feature / 100 * 100) {
+    case kFirstList:
+        return feature % 2 == 0
+                   ? box(UIMoleculeKind::ComboBox, UIControlKind::Combo, feature)
+                   : box(UIMoleculeKind::PickOne, UIControlKind::List, feature, &kList);
+    case kFirstNumber:
+        return feature % 2 == 0
+                   ? box(UIMoleculeKind::Spin, UIControlKind::Spin, feature, &kSpin)
+                   : box(UIMoleculeKind::Slider, UIControlKind::Slider, feature, &kSlider);
+    case kFirstText:
+        return box(UIMoleculeKind::Edit, UIControlKind::Edit, feature, &kEdit);
+    case kFirstRadio:
+        return box(UIMoleculeKind::PickOneRadio, UIControlKind::Radio, feature, &kRadio);
+    default:
+        return check(feature);
+    }
 }
 
 UIMoleculeRecord SyntheticPages::text()
@@ -194,15 +240,24 @@ UIMoleculeRecord SyntheticPages::group(std::vector<UIMoleculeRecord> children)
             .title = O7STR_TAB_PAPER};
 }
 
-/// Every other block is a group; each has kBlock windows.
+/// The blocks take turns; each has kBlock windows.
 std::vector<UIMoleculeRecord> SyntheticPages::block(int number)
 {
-    const int feature = number % kOfEachKind;
-    if (number % 2 == 0)
-        return {group({check(kFirstCheck + feature), combo(kFirstList + feature),
-                       check(kFirstCheck + feature)})};
-    return {combo(kFirstList + feature), text(), check(kFirstCheck + feature),
-            check(kFirstCheck + feature)};
+    const int even = number % kOfEachKind / 2 * 2;
+    switch (number % 5) {
+    case 0:
+        return {group({check(kFirstCheck + even), molecule(kFirstList + even),
+                       check(kFirstCheck + even + 1)})};
+    case 1: // with arrows, label and box; label and box
+        return {molecule(kFirstNumber + even), molecule(kFirstText + even)};
+    case 2:
+        return {molecule(kFirstList + even), text(), check(kFirstCheck + even),
+                check(kFirstCheck + even + 1)};
+    case 3: // label, slider and its number; label and list
+        return {molecule(kFirstNumber + even + 1), molecule(kFirstList + even + 1)};
+    default: // a heading, the start of the group, three buttons
+        return {molecule(kFirstRadio + even)};
+    }
 }
 
 void SyntheticPages::describe(int pages, const std::vector<std::vector<UIMoleculeRecord>>& columns)

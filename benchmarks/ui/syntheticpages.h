@@ -41,7 +41,11 @@ private:
 
     template <class Record> UIRecords<Record> keep(std::vector<Record> records);
     UIMoleculeRecord check(int feature);
-    UIMoleculeRecord combo(int feature);
+    /// A label and a box.
+    UIMoleculeRecord box(UIMoleculeKind kind, UIControlKind control, int feature,
+                         UIExtraRecord extra = {});
+    /// What shows a feature: the number tells its kind.
+    UIMoleculeRecord molecule(int feature);
     UIMoleculeRecord text();
     UIMoleculeRecord group(std::vector<UIMoleculeRecord> children);
     std::vector<UIMoleculeRecord> block(int number);

@@ -28,9 +28,9 @@ class FeatureServices
 public:
     /// Slot 1. From now on deliver the changes of this feature, and of everything inside it when it
     /// is a list, to the observer, which is borrowed until it unregisters. `instance` selects what:
-    /// 23001 values and constraint states, 23002 values, 23004 constraint states. A feature that
-    /// does not exist (yet) is fine. Registering the same four twice counts twice but delivers
-    /// once.
+    /// 23001 values and constraint states, 23002 values, 23004 constraint states. The no-feature id
+    /// stands for the full list. A feature that does not exist (yet) is fine. Registering the same
+    /// four twice counts twice but delivers once.
     virtual void RegisterObserver(IObserver& observer, SettingsInstanceId instance,
                                   const FeatureIdWithContext& feature, unsigned int kind) = 0;
 

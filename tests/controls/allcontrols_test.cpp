@@ -124,9 +124,9 @@ protected:
 // --- standing before the window's procedure ---
 
 /// Those whose class paints or filters messages of its window.
-const std::set<std::wstring> kSubclassed{L"Bitmap button", L"Radio button", L"Link",  L"Edit",
-                                         L"Edit, lines",   L"Drawing",      L"Image", L"Combo box",
-                                         L"List box",      L"List view"};
+const std::set<std::wstring> kSubclassed{
+    L"Bitmap button", L"Radio button", L"Link",     L"Edit",      L"Edit, lines", L"Drawing",
+    L"Image",         L"Combo box",    L"List box", L"List view", L"Information", L"Conflict"};
 constexpr UINT kProbe = WM_APP + 0x123;
 
 /// Puts a procedure of its own under the next child of a page, as it is created, so that whoever

@@ -41,6 +41,12 @@ protected:
         return text.data();
     }
     HWND tool() { return m_label.getHwnd(); }
+    void pointAtTool()
+    {
+        RECT area{};
+        ::GetWindowRect(tool(), &area);
+        ::SetCursorPos(area.left + 3, area.top + 3);
+    }
     static INT_PTR text(const wchar_t* value) { return reinterpret_cast<INT_PTR>(value); }
 
     TestPage m_page;
@@ -193,21 +199,39 @@ TEST(TipPlacement, IsBesideWithinTheWorkArea)
 TEST_F(ToolTips, ExplainADisabledControlByItsAreaOfThePage)
 {
     m_label.setEnable(false);
+    const auto area = reinterpret_cast<HWND>(reinterpret_cast<UINT_PTR>(tool()) | 1);
     for (const wchar_t* reason : {L"needs the finisher", L"needs the tray"}) {
         m_tips.setAreaTip(tool(), reason);
         EXPECT_EQ(1, count());
-        EXPECT_EQ(reason, tipOf(tool(), 0));
+        EXPECT_EQ(reason, tipOf(area, 0));
     }
 
     m_page.onMessage = [&](const _UIWindowsMessage& message) { m_tips.relayMouse(message); };
     m_tips.SetInitialTime(TTDT_INITIAL, 1);
-    RECT area{};
-    ::GetWindowRect(tool(), &area);
-    ::SetCursorPos(area.left + 3, area.top + 3);
+    pointAtTool();
     EXPECT_TRUE(o7::test::pumpUntil([&] { return ::IsWindowVisible(m_tips.getHwnd()) != FALSE; }));
     EXPECT_NE(0, m_tips.ToolExists());
 
     m_tips.setAreaTip(tool(), {});
+    EXPECT_EQ(0, count());
+}
+
+TEST_F(ToolTips, WaitForTheMouse)
+{
+    ::SetCursorPos(0, 0);
+    ::SetWindowLongPtrW(tool(), GWL_STYLE, WS_CHILD | WS_VISIBLE | SS_NOTIFY);
+    m_page.onMessage = [&](const _UIWindowsMessage& message) { m_tips.relayMouse(message); };
+    m_tips.SetInitialTime(TTDT_INITIAL, 1);
+    for (const wchar_t* tip : {L"first", L"second"}) {
+        m_tips.setTip(tool(), tip);
+    }
+    EXPECT_EQ(0, count()) << "nobody has pointed yet";
+    pointAtTool();
+    EXPECT_TRUE(o7::test::pumpUntil([&] { return ::IsWindowVisible(m_tips.getHwnd()) != FALSE; }));
+    EXPECT_EQ(L"second", tipOf(tool()));
+    m_tips.setTip(tool(), L"third");
+    EXPECT_EQ(L"third", tipOf(tool()));
+    m_tips.setTip(tool(), {});
     EXPECT_EQ(0, count());
 }
 

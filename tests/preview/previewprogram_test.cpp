@@ -128,7 +128,7 @@ protected:
         if (pageIsSecond) {
             o7::test::sendKey(VK_TAB, {VK_CONTROL});
         }
-        o7::test::sendKey('D', {VK_MENU});
+        o7::test::sendKey('S', {VK_MENU});
         o7::test::sendKey(VK_DOWN);
         o7::test::sendKey(closingKey);
     }

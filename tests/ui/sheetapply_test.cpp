@@ -142,7 +142,7 @@ public:
             using WatchedNode::WatchedNode;
             bool IsSpecified() const override { return false; }
         };
-        const Ptr child = WatchedNode::GetChild(index);
+        Ptr child = WatchedNode::GetChild(index);
         if (child->GetId().GetFeatureEnum() != m_feature)
             return child;
         auto lacking = std::make_shared<Lacking>(child, m_log);

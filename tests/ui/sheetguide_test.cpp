@@ -10,7 +10,6 @@
 
 #include "idledriver.h"
 #include "input.h"
-#include "integerfeatureref.h"
 #include "registrykey.h"
 #include "resourceguard.h"
 #include "sheetrig.h"
@@ -18,11 +17,13 @@
 #include "tables/tablerows.h"
 #include "uidata.h"
 #include "uifixture.h"
+#include "uihandles.h"
 #include "uimanager.h"
 #include "uirecords.h"
 #include "uistringnumbers.h"
 #include "uitab.h"
 #include "uitabmanager.h"
+#include "uitabmarks.h"
 
 namespace o7::test {
 
@@ -82,10 +83,9 @@ IdleDriver::Step selectPage(WPARAM index)
     return act([=](HWND sheet) { SendMessageW(sheet, PSM_SETCURSEL, index, 0); });
 }
 
-/// The texts of all tabs.
-std::wstring tabTexts(HWND sheet)
+/// Tab texts as one line.
+std::wstring textsOf(HWND tabs)
 {
-    const auto tabs = reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETTABCONTROL, 0, 0));
     const auto count = static_cast<WPARAM>(SendMessageW(tabs, TCM_GETITEMCOUNT, 0, 0));
     std::wstring texts;
     for (WPARAM index = 0; index < count; ++index) {
@@ -100,10 +100,14 @@ std::wstring tabTexts(HWND sheet)
     return texts;
 }
 
+HWND tabsOf(HWND sheet)
+{
+    return reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETTABCONTROL, 0, 0));
+}
+
 int activePage(HWND sheet)
 {
-    const auto tabs = reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETTABCONTROL, 0, 0));
-    return static_cast<int>(SendMessageW(tabs, TCM_GETCURSEL, 0, 0));
+    return static_cast<int>(SendMessageW(tabsOf(sheet), TCM_GETCURSEL, 0, 0));
 }
 
 } // namespace
@@ -151,16 +155,50 @@ protected:
 TEST_F(SheetGuideTest, TabsAreMarkedAsLongAsTheirPageHasAConflict)
 {
     runSheet({
-        until([](HWND sheet) { return tabTexts(sheet) == L"Paper/Output|Layout|Image|"; }),
+        until([](HWND sheet) { return textsOf(tabsOf(sheet)) == L"Paper/Output|Layout|Image|"; }),
         act([&](HWND) { makeConflicts(); }),
-        until([](HWND sheet) { return tabTexts(sheet) == L"Paper/Output !|Layout|Image !|"; }),
+        until(
+            [](HWND sheet) { return textsOf(tabsOf(sheet)) == L"Paper/Output !|Layout|Image !|"; }),
         act([&](HWND) { setBoolean(kAccountRequired, false); }),
-        until([](HWND sheet) { return tabTexts(sheet) == L"Paper/Output !|Layout|Image|"; }),
+        until([](HWND sheet) { return textsOf(tabsOf(sheet)) == L"Paper/Output !|Layout|Image|"; }),
         act([&](HWND) { model().RevertToAccepted(); }),
-        until([](HWND sheet) { return tabTexts(sheet) == L"Paper/Output|Layout|Image|"; }),
+        until([](HWND sheet) { return textsOf(tabsOf(sheet)) == L"Paper/Output|Layout|Image|"; }),
         key(VK_F8), // goes nowhere
         key(VK_ESCAPE),
     });
+}
+
+TEST_F(SheetGuideTest, AMarkShortensItsTitleRatherThanMakeAnotherRow)
+{
+    const UniqueWindow window(CreateWindowExW(0, WC_TABCONTROLW, L"", TCS_MULTILINE, 0, 0, 900, 200,
+                                              nullptr, nullptr, nullptr, nullptr));
+    const HWND tabs = window.get();
+    const std::vector<CXString> titles = {L"Host", L"Paper and output", L"Layout"};
+    for (const CXString& title : titles) {
+        TCITEMW item{};
+        item.mask = TCIF_TEXT;
+        item.pszText = const_cast<wchar_t*>(title.c_str());
+        SendMessageW(tabs, TCM_INSERTITEMW, 9, reinterpret_cast<LPARAM>(&item));
+    }
+    const auto rows = [=] { return SendMessageW(tabs, TCM_GETROWCOUNT, 0, 0); };
+    int width = 900;
+    const auto narrow = [&] {
+        return SetWindowPos(tabs, nullptr, 0, 0, --width, 200, SWP_NOMOVE | SWP_NOZORDER);
+    };
+    while (rows() == 1 && width > 0)
+        narrow();
+    width += 2;
+    narrow(); // just wide enough
+    ASSERT_EQ(rows(), 1);
+
+    UITabMarks marks(tabs, 1, {titles[1], titles[2]});
+    marks.show({true, false});
+    EXPECT_EQ(rows(), 1);
+    const std::wstring shown = textsOf(tabs);
+    EXPECT_EQ(shown.find(L"Host|Paper and"), 0U);
+    EXPECT_NE(shown.find(L"\u2026 !|Layout|"), std::wstring::npos);
+    marks.show({false, false});
+    EXPECT_EQ(textsOf(tabs), L"Host|Paper and output|Layout|");
 }
 
 TEST_F(SheetGuideTest, F8GoesFromConflictToConflictThroughAllPages)
@@ -179,9 +217,7 @@ TEST_F(SheetGuideTest, F8GoesFromConflictToConflictThroughAllPages)
     };
     Steps steps;
     // From the head of the page; the focus of the sheet stands on its first control, which is one.
-    steps.push_back(act([](HWND sheet) {
-        SetFocus(reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETTABCONTROL, 0, 0)));
-    }));
+    steps.push_back(act([](HWND sheet) { SetFocus(tabsOf(sheet)); }));
     for (const Stop& stop : kWay) {
         steps.push_back(key(VK_F8, stop.backwards));
         steps.push_back(until([stop](HWND sheet) {

@@ -59,5 +59,7 @@ void UISpinControl::setRange(int minimum, int maximum)
 
 void UISpinControl::setBuddy(HWND buddy)
 {
-    ::SendMessageW(getHwnd(), UDM_SETBUDDY, reinterpret_cast<WPARAM>(buddy), 0);
+    if (reinterpret_cast<HWND>(::SendMessageW(getHwnd(), UDM_GETBUDDY, 0, 0)) != buddy) {
+        ::SendMessageW(getHwnd(), UDM_SETBUDDY, reinterpret_cast<WPARAM>(buddy), 0);
+    }
 }

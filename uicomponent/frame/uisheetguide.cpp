@@ -234,7 +234,8 @@ void UISheetGuide::markTabs(const std::vector<FeatureIdWithContext>& conflicts)
         std::vector<CXString> titles;
         for (const auto& tab : m_tabs)
             titles.push_back(tab->getTitle());
-        m_marks.emplace(m_sheet, firstTab(), std::move(titles));
+        const auto tabs = reinterpret_cast<HWND>(SendMessageW(m_sheet, PSM_GETTABCONTROL, 0, 0));
+        m_marks.emplace(tabs, firstTab(), std::move(titles));
     }
     std::vector<bool> marked;
     for (const UIPageSettings& page : settings())

@@ -1,7 +1,6 @@
 #include "uitabmarks.h"
 
 #include <commctrl.h>
-#include <prsht.h>
 
 #include <array>
 #include <utility>
@@ -14,11 +13,8 @@ constexpr std::size_t kShortestTitle = 3;
 
 } // namespace
 
-UITabMarks::UITabMarks(HWND sheet, int firstTab, std::vector<CXString> titles)
-    : m_tabs(reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETTABCONTROL, 0, 0))),
-      m_firstTab(firstTab),
-      m_titles(std::move(titles)),
-      m_shown(m_titles)
+UITabMarks::UITabMarks(HWND tabs, int firstTab, std::vector<CXString> titles)
+    : m_tabs(tabs), m_firstTab(firstTab), m_titles(std::move(titles)), m_shown(m_titles)
 {
 }
 

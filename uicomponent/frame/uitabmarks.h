@@ -12,10 +12,10 @@
 class UITabMarks
 {
 public:
-    /// @param sheet      has to have its pages by now
-    /// @param firstTab   index of our first page in the sheet; negative: unknown, nothing is marked
-    /// @param titles     of our pages, which stand one behind the other
-    UITabMarks(HWND sheet, int firstTab, std::vector<CXString> titles);
+    /// @param tabs      the sheet's tab control, with all its tabs
+    /// @param firstTab  index of our first page in the sheet; negative: unknown, nothing is marked
+    /// @param titles    of our pages, which stand one behind the other
+    UITabMarks(HWND tabs, int firstTab, std::vector<CXString> titles);
 
     /// @param marked  one for each page. A tab that shows its mark or has none already stays as it
     ///                is.

@@ -27,7 +27,11 @@ public:
     {
         std::ptrdiff_t container = 0;
         std::ptrdiff_t molecule = -1;
-        auto operator<=>(const Place&) const = default;
+        bool operator<(const Place& other) const
+        {
+            return container != other.container ? container < other.container
+                                                : molecule < other.molecule;
+        }
     };
 
     /// The features in conflict that are not hidden, as they stand in the product.

@@ -57,7 +57,7 @@ void UINumberField::SetRules(const UINumberRules& rules)
     if (!GetEdit())
         return;
     if (m_unit)
-        m_unit->setText(m_rules.unitText);
+        m_unit->setLabelText(m_rules.unitText);
     DropPending();
     PlaceArrows();
 }
@@ -81,7 +81,6 @@ void UINumberField::Create(UIPageWindow& page, const Surroundings& surroundings,
         m_arrows = std::make_unique<UISpinControl>(page.window, page.takeId(), services, page.font,
                                                    POINT{location.x + editWidth, location.y},
                                                    SIZE{kArrowsWidth, kHeight}, 0, true, 0, 0);
-        m_arrows->setBuddy(GetHwnd());
     }
     const long unitX = boxWidth + kUnitGap;
     if (m_rules.unitText.IsEmpty() || unitX >= width)
@@ -90,7 +89,7 @@ void UINumberField::Create(UIPageWindow& page, const Surroundings& surroundings,
                                              POINT{location.x + unitX, location.y + kUnitDrop},
                                              SIZE{width - unitX, kTextHeight},
                                              SS_NOTIFY | SS_NOPREFIX, true, page.boldFont);
-    m_unit->setText(m_rules.unitText);
+    m_unit->setLabelText(m_rules.unitText);
 }
 
 void UINumberField::Move(POINT delta)
@@ -141,6 +140,9 @@ void UINumberField::PlaceArrows()
                                       m_rules.position(m_rules.ranges.back().high));
     m_arrows->setRange(ends.first, ends.second);
     m_arrows->setPosition(m_rules.position(m_value.value_or(0)));
+    // The arrows stand before the box's procedure from now on, which makes each of its messages
+    // dearer; so they are not introduced before the box is made.
+    m_arrows->setBuddy(GetHwnd());
 }
 
 CXString UINumberField::PresentText() const

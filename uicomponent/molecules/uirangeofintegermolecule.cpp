@@ -206,7 +206,7 @@ void UIRangeOfIntegerMolecule::CreateEnd(UIPageWindow& page, Which which, POINT 
             page.window, page.takeId(), GetSite().services, page.font,
             POINT{place.x, place.y + kLabelDrop}, SIZE{end.labelWidth, UITextRuler::kLineHeight},
             SS_NOTIFY, true, page.boldFont);
-        end.labelControl->setText(end.label);
+        end.labelControl->setLabelText(end.label);
     }
     end.field->Create(page, {GetSite(), GetToolTips(), end.feature, end.label},
                       {place.x + end.labelWidth, place.y}, width - end.labelWidth, true);

@@ -165,9 +165,9 @@ void UISliderMolecule::CreateEnds(UIPageWindow& page, POINT place, long width)
         return;
     const long lowWidth = m_lowEndWidth ? m_lowEndWidth : width / 2;
     m_lowEnd = CreateText(page, place, lowWidth, SS_LEFT);
-    m_lowEnd->setText(LoadText(m_sliderData->getLowLabel()));
+    m_lowEnd->setLabelText(LoadText(m_sliderData->getLowLabel()));
     m_highEnd = CreateText(page, {place.x + lowWidth, place.y}, width - lowWidth, SS_RIGHT);
-    m_highEnd->setText(LoadText(m_sliderData->getHighLabel()));
+    m_highEnd->setLabelText(LoadText(m_sliderData->getHighLabel()));
 }
 
 template <class Do> void UISliderMolecule::ForTexts(Do&& act) const
@@ -210,7 +210,7 @@ std::optional<int> UISliderMolecule::ReadNumber() const
 void UISliderMolecule::ShowNumberText(const CXString& text)
 {
     if (m_number)
-        m_number->setText(text);
+        m_number->setLabelText(text);
 }
 
 void UISliderMolecule::ShowNumber(std::optional<int> value)

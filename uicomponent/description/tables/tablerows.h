@@ -313,7 +313,7 @@ constexpr UIContainerRecord quick(std::int32_t height, UIRecords<UIColumnRecord>
 
 // The area under the pages of every sheet, without the margins of a page: how the settings stand,
 // and the defaults of the page that is shown.
-inline constexpr std::int32_t kDefaultsWidth = 90;
+inline constexpr std::int32_t kDefaultsWidth = 100;
 inline constexpr UIMoleculeRecord kStatusRows[] = {{.kind = UIMoleculeKind::Status}};
 inline constexpr UIButtonRecord kDefaultsButton{.action = kActionPageDefaults};
 inline constexpr UIControlRecord kDefaultsControls[] = {
