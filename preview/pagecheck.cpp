@@ -46,7 +46,7 @@ private:
 
 template <class Visit> void forEachPage(const UIData& data, Visit visit)
 {
-    for (const auto* containers : {&data.getTabs(), &data.getDialogs()}) {
+    for (const auto* containers : {&data.getTabs(), &data.getDialogs(), &data.getOffTabs()}) {
         for (const auto& page : *containers) {
             visit(page->getRecord());
         }
@@ -85,7 +85,12 @@ void PageCheck::forEachFeature(
 
 void PageCheck::checkMnemonics(const PackageTexts& texts, std::vector<PackageError>& mistakes) const
 {
-    forEachPage(m_data, [&](const UIContainerRecord& page) {
+    std::vector<const UIContainerRecord*> around; // every page of the sheet
+    for (const auto& area : m_data.getOffTabs()) {
+        around.push_back(&area->getRecord());
+    }
+    const auto check = [&](const UIContainerRecord& page,
+                           const std::vector<const UIContainerRecord*>& areas) {
         std::map<std::string, const PackageText*> keys;
         PageWalk walk;
         walk.text = [&](unsigned number) {
@@ -112,8 +117,17 @@ void PageCheck::checkMnemonics(const PackageTexts& texts, std::vector<PackageErr
                      "\" of the same page");
             }
         };
+        for (const UIContainerRecord* area : areas) {
+            walk.container(*area);
+        }
         walk.container(page);
-    });
+    };
+    for (const auto& page : m_data.getTabs()) {
+        check(page->getRecord(), around);
+    }
+    for (const auto& dialog : m_data.getDialogs()) {
+        check(dialog->getRecord(), {});
+    }
 }
 
 std::string mnemonicOf(std::string_view text)

@@ -75,44 +75,53 @@ private:
     std::ifstream m_file;
 };
 
-template <class File> void transfer(File& file, std::vector<RawPage>& pages)
+template <class File> void transfer(File& file, std::vector<RawWindow>& windows)
 {
-    file.list(pages, [&](RawPage& page) {
+    file.list(windows, [&](RawWindow& window) {
+        file.text(window.className);
+        file.text(window.text);
+        file.plain(window.style);
+        file.plain(window.exStyle);
+        file.plain(window.place);
+        file.plain(window.id);
+        file.plain(window.enabled);
+        file.plain(window.bold);
+        file.list(window.items, [&](std::wstring& item) { file.text(item); });
+        file.list(window.messages, [&](RawMessage& message) { file.plain(message); });
+    });
+}
+
+template <class File> void transfer(File& file, RawSheet& sheet)
+{
+    file.list(sheet.pages, [&](RawPage& page) {
         file.text(page.title);
         file.plain(page.width);
         file.plain(page.height);
-        file.list(page.windows, [&](RawWindow& window) {
-            file.text(window.className);
-            file.text(window.text);
-            file.plain(window.style);
-            file.plain(window.exStyle);
-            file.plain(window.place);
-            file.plain(window.id);
-            file.plain(window.enabled);
-            file.plain(window.bold);
-            file.list(window.items, [&](std::wstring& item) { file.text(item); });
-            file.list(window.messages, [&](RawMessage& message) { file.plain(message); });
-        });
+        transfer(file, page.windows);
+    });
+    file.list(sheet.areas, [&](RawArea& area) {
+        file.plain(area.place);
+        transfer(file, area.windows);
     });
 }
 
 } // namespace
 
-void savePages(const std::vector<RawPage>& pages, const std::wstring& path)
+void saveSheet(const RawSheet& sheet, const std::wstring& path)
 {
     Writer file(path);
-    std::vector<RawPage> copy = pages;
+    RawSheet copy = sheet;
     transfer(file, copy);
     if (!file.good())
         throw std::runtime_error("the recorded pages could not be written");
 }
 
-std::vector<RawPage> loadPages(const std::wstring& path)
+RawSheet loadSheet(const std::wstring& path)
 {
     Reader file(path);
-    std::vector<RawPage> pages;
-    transfer(file, pages);
-    return pages;
+    RawSheet sheet;
+    transfer(file, sheet);
+    return sheet;
 }
 
 } // namespace o7::bench

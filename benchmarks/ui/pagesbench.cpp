@@ -19,7 +19,7 @@ namespace {
 /// Pages, and windows of each: every size alone, fewer sizes where there are more pages.
 constexpr struct
 {
-    int pages;
+    int pages = 0;
     std::initializer_list<int> controls;
 } kSheets[] = {{1, {5, 20, 50, 200}}, {6, {5, 50, 200}}, {16, {5, 200}}};
 constexpr int kMostVisited = 3; // further pages cost the same again
@@ -63,10 +63,11 @@ Size measureSize(const std::wstring& folder, int pages, int controls)
 {
     const SyntheticPages synthetic(folder, pages, controls);
     const Run ours = [&] { synthetic.run(); };
-    std::vector<RawPage> recorded =
-        recordPages(ours, synthetic.data(), synthetic.session().strings(), kMostVisited);
-    if (recorded.front().windows.size() != static_cast<std::size_t>(controls))
-        throw std::logic_error("the page has " + std::to_string(recorded.front().windows.size()) +
+    const RawSheet recorded =
+        recordSheet(ours, synthetic.data(), synthetic.session().strings(), kMostVisited);
+    if (recorded.pages.front().windows.size() != static_cast<std::size_t>(controls))
+        throw std::logic_error("the page has " +
+                               std::to_string(recorded.pages.front().windows.size()) +
                                " windows instead of " + std::to_string(controls));
     const Run raw = [&] { runRawSheet(recorded); };
     measure(raw, pages); // what the first of a size sets up; ours has just been open

@@ -157,7 +157,7 @@ void createWindow(HWND page, HFONT font, const RawWindow& raw)
         EnableWindow(window, FALSE);
 }
 
-void createAll(HWND page, const RawPage& raw)
+void createAll(HWND page, const std::vector<RawWindow>& windows)
 {
     const IsolationAware::ActivationScope scope;
     CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
@@ -165,7 +165,7 @@ void createAll(HWND page, const RawPage& raw)
                     CW_USEDEFAULT, CW_USEDEFAULT, page, nullptr, nullptr, nullptr);
     const auto font = reinterpret_cast<HFONT>(ask(page, WM_GETFONT));
     static const UniqueFont bold(boldOf(font)); // all pages have the same font
-    for (const RawWindow& window : raw.windows)
+    for (const RawWindow& window : windows)
         createWindow(page, window.bold ? bold.get() : font, window);
 }
 
@@ -187,11 +187,72 @@ void drawItem(const DRAWITEMSTRUCT& item)
                 &item.rcItem, text, static_cast<UINT>(wcslen(text)), nullptr);
 }
 
+RECT placeIn(HWND sheet, HWND child)
+{
+    RECT place{};
+    GetWindowRect(child, &place);
+    MapWindowPoints(nullptr, sheet, reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}
+
+LONG tabBottom(HWND sheet)
+{
+    const auto tabs = reinterpret_cast<HWND>(ask(sheet, PSM_GETTABCONTROL));
+    return placeIn(sheet, tabs).bottom;
+}
+
+INT_PTR CALLBACK areaProcedure(HWND area, UINT message, WPARAM, LPARAM lParam)
+{
+    if (message == WM_INITDIALOG)
+        createAll(area, reinterpret_cast<const RawArea*>(lParam)->windows);
+    return FALSE;
+}
+
+/// Makes room under the pages and puts the areas there.
+void openAreas(HWND sheet, const std::vector<RawArea>& areas)
+{
+    if (areas.empty())
+        return;
+    const LONG bottom = tabBottom(sheet);
+    const LONG growth = areas.back().place.bottom - bottom;
+    RECT frame{};
+    GetWindowRect(sheet, &frame);
+    SetWindowPos(sheet, nullptr, 0, 0, frame.right - frame.left, frame.bottom - frame.top + growth,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    for (HWND child = GetWindow(sheet, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+        const RECT place = placeIn(sheet, child);
+        if (place.top >= bottom)
+            SetWindowPos(child, nullptr, place.left, place.top + growth, 0, 0,
+                         SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    const HINSTANCE instance = GetModuleHandleW(nullptr);
+    for (const RawArea& area : areas) {
+        UIDialogTemplate areaTemplate(instance);
+        areaTemplate.makeArea();
+        const IsolationAware::ActivationScope scope;
+        const HWND window = CreateDialogIndirectParamW(
+            instance, areaTemplate.get(), sheet, &areaProcedure, reinterpret_cast<LPARAM>(&area));
+        SetWindowPos(window, nullptr, area.place.left, area.place.top,
+                     area.place.right - area.place.left, area.place.bottom - area.place.top,
+                     SWP_NOZORDER | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+    }
+}
+
+/// What a page is given: itself, and the areas if it is the first.
+struct PageParameter
+{
+    const RawPage* page;
+    const std::vector<RawArea>* areas;
+};
+
 INT_PTR CALLBACK pageProcedure(HWND page, UINT message, WPARAM, LPARAM lParam)
 {
     if (message == WM_INITDIALOG) {
-        createAll(page, *reinterpret_cast<const RawPage*>(
-                            reinterpret_cast<const PROPSHEETPAGEW*>(lParam)->lParam));
+        const auto& parameter = *reinterpret_cast<const PageParameter*>(
+            reinterpret_cast<const PROPSHEETPAGEW*>(lParam)->lParam);
+        if (parameter.areas)
+            openAreas(GetParent(page), *parameter.areas);
+        createAll(page, parameter.page->windows);
         return TRUE;
     }
     if (message == WM_DRAWITEM) {
@@ -227,12 +288,26 @@ std::vector<RawWindow> recordWindows(HWND page)
     return windows;
 }
 
-INT_PTR runRawSheet(const std::vector<RawPage>& pages)
+std::vector<RawArea> recordAreas(HWND sheet)
+{
+    std::vector<RawArea> areas;
+    const LONG bottom = tabBottom(sheet);
+    for (HWND child = GetWindow(sheet, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+        const RECT place = placeIn(sheet, child);
+        if (place.top >= bottom && GetWindow(child, GW_CHILD))
+            areas.push_back({place, recordWindows(child)});
+    }
+    return areas;
+}
+
+INT_PTR runRawSheet(const RawSheet& sheet)
 {
     const HINSTANCE instance = GetModuleHandleW(nullptr);
     std::list<UIDialogTemplate> templates;
     std::vector<HPROPSHEETPAGE> handles;
-    for (const RawPage& raw : pages) {
+    std::list<PageParameter> parameters;
+    for (const RawPage& raw : sheet.pages) {
+        parameters.push_back({&raw, handles.empty() ? &sheet.areas : nullptr});
         UIDialogTemplate& dialogTemplate = templates.emplace_back(instance);
         dialogTemplate.setSize(raw.width, raw.height);
         PROPSHEETPAGEW page{};
@@ -242,7 +317,7 @@ INT_PTR runRawSheet(const std::vector<RawPage>& pages)
         page.pResource = dialogTemplate.get();
         page.pszTitle = raw.title.c_str();
         page.pfnDlgProc = &pageProcedure;
-        page.lParam = reinterpret_cast<LPARAM>(&raw);
+        page.lParam = reinterpret_cast<LPARAM>(&parameters.back());
         handles.push_back(IsolationAware::createPropertySheetPage(page));
     }
     PROPSHEETHEADERW header{};

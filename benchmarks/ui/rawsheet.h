@@ -38,17 +38,32 @@ struct RawPage
     std::vector<RawWindow> windows;
 };
 
+/// A dialog in the sheet's window itself, under the pages.
+struct RawArea
+{
+    RECT place{}; ///< pixels of the sheet
+    std::vector<RawWindow> windows;
+};
+
+struct RawSheet
+{
+    std::vector<RawPage> pages;
+    std::vector<RawArea> areas;
+};
+
 /// The children of a page, in the order in which they were created.
 std::vector<RawWindow> recordWindows(HWND page);
+/// The areas of a sheet that shows its first page.
+std::vector<RawArea> recordAreas(HWND sheet);
 
 /// The baseline: a bare property sheet with the same windows, texts and entries, created by plain
 /// calls when a page is first shown, under the same activation context. Modal; returns what
 /// PropertySheetW returns.
-INT_PTR runRawSheet(const std::vector<RawPage>& pages);
+INT_PTR runRawSheet(const RawSheet& sheet);
 
-/// Keeps recorded pages in a file and reads them again, for a process that must not open our sheet
-/// before it opens the bare one. Both throw std::runtime_error when the file fails them.
-void savePages(const std::vector<RawPage>& pages, const std::wstring& path);
-std::vector<RawPage> loadPages(const std::wstring& path);
+/// Keeps a recorded sheet in a file and reads them again, for a process that must not open our
+/// sheet before it opens the bare one. Both throw std::runtime_error when the file fails them.
+void saveSheet(const RawSheet& sheet, const std::wstring& path);
+RawSheet loadSheet(const std::wstring& path);
 
 } // namespace o7::bench

@@ -90,10 +90,11 @@ SheetTimes timeSheet(const Run& open, int visited)
     return times;
 }
 
-std::vector<RawPage> recordPages(const Run& open, const UIData& data,
-                                 const ProductStringLoader& strings, std::size_t visited)
+RawSheet recordSheet(const Run& open, const UIData& data, const ProductStringLoader& strings,
+                     std::size_t visited)
 {
-    std::vector<RawPage> pages;
+    RawSheet recorded;
+    std::vector<RawPage>& pages = recorded.pages;
     std::vector<test::IdleDriver::Step> steps;
     for (const auto& tab : data.getTabs()) {
         RawPage page;
@@ -106,7 +107,9 @@ std::vector<RawPage> recordPages(const Run& open, const UIData& data,
         steps.push_back([index](HWND sheet) {
             return sheet && SendMessageW(sheet, PSM_SETCURSEL, index, 0) != 0;
         });
-        steps.push_back([&pages, index](HWND sheet) {
+        steps.push_back([&recorded, &pages, index](HWND sheet) {
+            if (index == 0)
+                recorded.areas = recordAreas(sheet);
             pages[index].windows = recordWindows(
                 reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETCURRENTPAGEHWND, 0, 0)));
             return true;
@@ -114,7 +117,7 @@ std::vector<RawPage> recordPages(const Run& open, const UIData& data,
     }
     steps.push_back(&pressCancel);
     runThrough(open, std::move(steps));
-    return pages;
+    return recorded;
 }
 
 } // namespace o7::bench

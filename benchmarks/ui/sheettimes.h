@@ -27,8 +27,9 @@ struct SheetTimes
 /// it. @throws std::runtime_error when the sheet does not follow.
 SheetTimes timeSheet(const Run& open, int visited);
 
-/// What our sheet shows, page by page: the titles and sizes of all, the windows of those visited.
-std::vector<RawPage> recordPages(const Run& open, const UIData& data,
-                                 const ProductStringLoader& strings, std::size_t visited);
+/// What our sheet shows: the titles and sizes of all pages, the windows of those visited, and the
+/// areas.
+RawSheet recordSheet(const Run& open, const UIData& data, const ProductStringLoader& strings,
+                     std::size_t visited);
 
 } // namespace o7::bench

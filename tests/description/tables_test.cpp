@@ -219,7 +219,8 @@ TEST_F(Tables, EveryPageIsWhole)
             for (const UIContainerRecord& tab : root.tabs)
                 row += 4 * use(tab.title).size() + 8;
             EXPECT_LE(root.tabs.size(), 7u);
-            EXPECT_LE(row, root.tabs.empty() ? 0u : static_cast<std::size_t>(root.tabs[0].width)) << root.family << ' ' << static_cast<int>(root.mode);
+            EXPECT_LE(row, root.tabs.empty() ? 0u : static_cast<std::size_t>(root.tabs[0].width))
+                << root.family << ' ' << static_cast<int>(root.mode);
             std::set<std::uint32_t> ids;
             for (const auto* containers : {&data.getTabs(), &data.getDialogs()}) {
                 for (const auto& container : *containers) {

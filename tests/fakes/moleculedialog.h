@@ -28,7 +28,8 @@ namespace o7::test {
 class MoleculeDialog
 {
 public:
-    /// Everything is borrowed. @param features  what the dialog works on; the job's list if left out
+    /// Everything is borrowed. @param features  what the dialog works on; the job's list if left
+    /// out
     MoleculeDialog(ProductData& productData, FeatureServices& featureServices,
                    ProductStringLoader& strings, const UIContainerRecord& description,
                    const ListOfFeaturesRef& features = {});

@@ -44,12 +44,12 @@ constexpr UIControlRecord kToggling[] = {check(kCollate, &kToggledByText), kSeco
 constexpr UIControlRecord kBorders[] = {check(o7::kPageBorders)};
 
 template <auto& Controls>
-constexpr UIMoleculeRecord kMolecule[] = {
-    {.kind = UIMoleculeKind::CheckBox, .controls = Controls}};
+constexpr UIMoleculeRecord kMolecule[] = {{.kind = UIMoleculeKind::CheckBox, .controls = Controls}};
 template <auto& Controls, int Width>
 constexpr UIColumnRecord kColumn[] = {{7, Width, 0, kMolecule<Controls>}};
 template <auto& Controls, int Width = 180>
-constexpr UIContainerRecord kDialog = {1, O7STR_TAB_PAPER, Width + 14, 60, kColumn<Controls, Width>};
+constexpr UIContainerRecord kDialog = {1, O7STR_TAB_PAPER, Width + 14, 60,
+                                       kColumn<Controls, Width>};
 
 int checkOf(HWND box)
 {

@@ -78,6 +78,16 @@ void UIControl::setShow(bool show)
     m_visible = show;
 }
 
+void UIControl::keepUnmirrored() const noexcept
+{
+    constexpr LONG_PTR kFromRight = WS_EX_LAYOUTRTL | WS_EX_RTLREADING;
+    const LONG_PTR style = ::GetWindowLongPtrW(getHwnd(), GWL_EXSTYLE);
+    if ((style & kFromRight) != 0) {
+        ::SetWindowLongPtrW(getHwnd(), GWL_EXSTYLE, style & ~kFromRight);
+        repaint(true);
+    }
+}
+
 void UIControl::move(POINT delta, bool inPixels)
 {
     const RECT distance = toPixels({0, 0, std::abs(delta.x), std::abs(delta.y)}, inPixels);

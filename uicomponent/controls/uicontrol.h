@@ -59,6 +59,10 @@ public:
     /// repaint that the window would answer with. Nothing happens when the window has that text.
     void setLabelText(const CXString& text);
 
+    /// For numbers: on a mirrored page the window itself is not, so that signs, digits and
+    /// separators keep their order. Its left is left then. Right after creation.
+    void keepUnmirrored() const noexcept;
+
     /// What screen readers say, where the window has no text of its own: the label of a list, an
     /// edit, a slider. Empty: what the system finds. Takes effect once somebody asks, so it costs
     /// nothing before.

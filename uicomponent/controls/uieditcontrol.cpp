@@ -42,14 +42,6 @@ void UIEditControl::setText(const CXString& text)
     o7::setWindowTextIfDifferent(getHwnd(), text);
 }
 
-void UIEditControl::keepUnmirrored()
-{
-    const LONG_PTR style = ::GetWindowLongPtrW(getHwnd(), GWL_EXSTYLE);
-    if ((style & WS_EX_LAYOUTRTL) != 0) {
-        ::SetWindowLongPtrW(getHwnd(), GWL_EXSTYLE, style & ~LONG_PTR{WS_EX_LAYOUTRTL});
-    }
-}
-
 void UIEditControl::selectAll()
 {
     ::SendMessageW(getHwnd(), EM_SETSEL, 0, -1);

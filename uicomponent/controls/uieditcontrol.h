@@ -25,9 +25,6 @@ public:
     /// Sets the text, which may be longer than what can be typed. When it stands there already
     /// nothing happens: no repaint, no EN_CHANGE, and the caret stays where it is.
     void setText(const CXString& text);
-    /// For numbers: on a mirrored page the field itself is not, so that its digits and separators
-    /// keep their order. Right after creation.
-    void keepUnmirrored();
     /// Selects all of the text, so that typing replaces it.
     void selectAll();
 

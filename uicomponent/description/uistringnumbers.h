@@ -1,7 +1,8 @@
 // The numbers of all texts that the description tables use. The product's string resources hold the
 // texts; the English text stands behind each number. An ampersand marks the mnemonic: one for each
-// control, none twice on a page, and never A, which belongs to Apply. The titles of a sheet's pages
-// share one row of 252 units, so translations of them have to be as short.
+// control, none twice on a page, and never A, which belongs to Apply, or D, which belongs to Page
+// Defaults. The titles of a sheet's pages share one row of 330 units, so translations of them have
+// to be as short.
 //
 // Resource scripts include this file, so it holds nothing but definitions.
 #pragma once

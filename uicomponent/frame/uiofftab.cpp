@@ -8,6 +8,7 @@
 #include "trace.h"
 #include "uicontainerdata.h"
 #include "uicontext.h"
+#include "uicontrol.h"
 #include "uidialogprocedure.h"
 #include "uidialogtemplate.h"
 #include "uidump.h"
@@ -89,9 +90,11 @@ LRESULT UIOffTab::answer(const _UIWindowsMessage& message)
         return DefDlgProcW(message.window, message.message, message.wParam, message.lParam);
     };
     switch (message.message) {
-    case WM_DESTROY: // the controls go while their windows still exist
+    case WM_DESTROY: { // the controls go while their windows still exist
+        const UIControl::ParentGoes going(message.window);
         releaseMolecules();
         return former();
+    }
     case WM_NCDESTROY:
         RemovePropW(message.window, UIDialogProcedure::kManagerProperty);
         m_area.release();

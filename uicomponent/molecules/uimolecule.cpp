@@ -185,7 +185,10 @@ void UIMolecule::UpdateInfoButton(const FeatureIdWithContext& feature,
     m_infoStyle = infoStyleFor(state);
     m_infoText = infoTextFor(state);
     if (m_infoStyle == InfoStyle::None) {
+        const bool hadFocus = m_infoButton && GetFocus() == m_infoButton->getHwnd();
         m_infoButton.reset(); // takes its tip with it
+        if (hadFocus)
+            Focus(); // back to what it explained
         return;
     }
     if (!m_infoButton)
@@ -311,9 +314,7 @@ bool UIMolecule::HasConflictMessage() const
 CXString UIMolecule::GetInfoText() const
 {
     const auto state = ReadState();
-    if (!state)
-        return {};
-    return HasConflictMessage() ? state->GetCbrBtnMsg() : infoTextFor(*state);
+    return state ? infoTextFor(*state) : CXString();
 }
 
 CXString UIMolecule::DecorateText(const CXString& text) const

@@ -95,8 +95,8 @@ public:
     virtual SIZE GetExtraExtent() const;
     virtual bool HasInfoMessage() const;
     virtual bool HasConflictMessage() const;
-    /// Why the molecule is limited, asked of the model now: the conflict text when it reports a
-    /// conflict, else the information text, else the reason why it is disabled, cleared or hidden.
+    /// Why the molecule is limited, asked of the model now: the conflict text when there is
+    /// one, else the information text, else the reason why it is disabled, cleared or hidden.
     /// Empty when nothing limits it.
     virtual CXString GetInfoText() const;
     /// Lets a subclass change a text before it is shown.

@@ -54,8 +54,9 @@ void UIMoleculeSwitch::Create(UIPageWindow& page, POINT place, long width)
 {
     if (!m_exists)
         return;
-    m_check = std::make_unique<UICheckBoxControl>(page.window, page.takeId(), m_site.services,
-                                                  page.font, place, SIZE{width, GetHeight()}, false);
+    m_check =
+        std::make_unique<UICheckBoxControl>(page.window, page.takeId(), m_site.services, page.font,
+                                            place, SIZE{width, GetHeight()}, false);
     if (m_lines > 1)
         m_check->setMultiline();
     m_check->setLabelText(m_text);

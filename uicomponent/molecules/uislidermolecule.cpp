@@ -13,6 +13,7 @@
 #include "uidump.h"
 #include "uimoleculedata.h"
 #include "uimoleculedump.h"
+#include "uiservices.h"
 #include "uislidercontrol.h"
 #include "uislidercontroldata.h"
 #include "uistringnumbers.h"
@@ -154,7 +155,9 @@ void UISliderMolecule::CreateSlider(UIPageWindow& page, POINT place, long width)
     }
     const CXString& name = m_label.IsEmpty() ? m_switch.GetText() : m_label.GetText();
     m_slider->setAccessibleName(o7::spokenName(name));
-    m_number = CreateText(page, {place.x + width, place.y + kNumberDrop}, kNumberWidth, SS_RIGHT);
+    m_number = CreateText(page, {place.x + width, place.y + kNumberDrop}, kNumberWidth,
+                          GetSite().services.isRightToLeft() ? SS_LEFT : SS_RIGHT);
+    m_number->keepUnmirrored();
     SendMessageW(m_slider->getHwnd(), TBM_SETBUDDY, FALSE,
                  reinterpret_cast<LPARAM>(m_number->getHwnd()));
 }

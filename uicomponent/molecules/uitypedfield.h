@@ -34,8 +34,8 @@ public:
     /// Dialog units.
     struct Box
     {
-        POINT location;
-        SIZE size;
+        POINT location{};
+        SIZE size{};
         DWORD style = 0;   ///< ES_... bits
         int textLimit = 0; ///< characters that can be typed; 0: the system's own limit
     };

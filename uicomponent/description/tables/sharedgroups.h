@@ -60,7 +60,8 @@ inline constexpr UIMoleculeRecord kPoliciesLeft[] = {group(O7STR_G_POLICIES, kPo
 inline constexpr UIMoleculeRecord kPoliciesRight[] = {
     group(O7STR_G_ACCOUNTING, kAccountPoliciesGroup), group(O7STR_G_REGION, kRegionGroup)};
 inline constexpr UIColumnRecord kPoliciesColumns[] = {left(kPoliciesLeft), right(kPoliciesRight)};
-inline constexpr UIContainerRecord kPoliciesPage = devicePage(4, O7STR_TAB_POLICY, kPoliciesColumns);
+inline constexpr UIContainerRecord kPoliciesPage =
+    devicePage(4, O7STR_TAB_POLICY, kPoliciesColumns);
 
 // The message that a job cannot be tracked
 inline constexpr UIMoleculeRecord kTrackingOffGroup[] = {text<O7STR_T_TRACKING_OFF, 2>(),
