@@ -191,7 +191,7 @@ std::string seen(HWND page, int kind)
 }
 
 /// Chooses an option by the mouse; a combo box is dropped for it.
-void choose(HWND page, int kind, char letter)
+void choose(HWND page, int kind, wchar_t letter)
 {
     for (HWND window : windowsOf(page, kind)) {
         if (kind >= PickRadio) {
@@ -207,7 +207,7 @@ void choose(HWND page, int kind, char letter)
             GetComboBoxInfo(window, &info);
             window = info.hwndList;
         }
-        const std::wstring text(1, static_cast<wchar_t>(letter));
+        const std::wstring text(1, letter);
         const LRESULT index = SendMessageW(window, LB_FINDSTRING, static_cast<WPARAM>(-1),
                                            reinterpret_cast<LPARAM>(text.c_str()));
         RECT place{};
@@ -330,19 +330,19 @@ TEST_F(ChoicesTest, WhatIsChosenIsWrittenAndWhatTheModelHasIsShown)
         for (int kind = Combo; kind < kKinds; ++kind) {
             SCOPED_TRACE(kind);
             m_services->log.clear();
-            choose(page, kind, 'C');
+            choose(page, kind, L'C');
             EXPECT_EQ(m_services->log, "open write =6012 commit ");
             EXPECT_EQ(value(), 6012);
             expectSeen(page, "U A B *C ", "chosen");
 
             m_services->log.clear();
-            choose(page, kind, 'U');
+            choose(page, kind, L'U');
             EXPECT_EQ(m_services->log, "open write =5001 commit ");
             EXPECT_FALSE(choice().IsSpecified());
             expectSeen(page, "*U A B C ", "unspecified");
 
             m_services->node().refuses = [](const FeatureValue&) { return true; };
-            choose(page, kind, 'B');
+            choose(page, kind, L'B');
             m_services->node().refuses = nullptr;
             expectSeen(page, "*U A B C ", "refused");
 
@@ -418,7 +418,7 @@ TEST_F(ChoicesTest, TheEntryForNoValueWritesNothing)
     onPage([&](HWND page, SheetRig&) {
         for (int kind = Combo; kind < Radio; ++kind) { // the last one has no record for it
             m_services->log.clear();
-            choose(page, kind, 'N');
+            choose(page, kind, L'N');
             EXPECT_EQ(m_services->log, "open commit ") << kind;
             EXPECT_EQ(seen(page, kind), "U *A B C N ") << kind;
         }
@@ -449,10 +449,10 @@ TEST_F(ChoicesTest, AValueThatExistsByItsNameIsShownAndKept)
     choice().SetValue(CXString(L"Mine"));
     onPage([&](HWND page, SheetRig&) {
         for (int kind = Combo; kind < Radio; ++kind) {
-            choose(page, kind, 'A');
+            choose(page, kind, L'A');
             EXPECT_EQ(value(), 6010) << kind;
             EXPECT_EQ(seen(page, kind), "U *A B C Mine ") << kind;
-            choose(page, kind, 'M');
+            choose(page, kind, L'M');
             EXPECT_EQ(choice().GetValue().GetValueName(), CXString(L"Mine")) << kind;
             EXPECT_EQ(seen(page, kind), "U A B C *Mine ") << kind;
             EXPECT_EQ(seen(page, Radio), "U A B C ");

@@ -20,6 +20,7 @@
 #include "uirecords.h"
 #include "uistringnumbers.h"
 #include "uitabmanager.h"
+#include "watchedservices.h"
 #include "windowtext.h"
 
 namespace o7::test {
@@ -124,6 +125,55 @@ void rememberShown(const ExceptionDisplay& display)
 {
     s_shownText = display.text.ToUtf8();
 }
+
+/// The list of a model in which one feature is required and has no value.
+class LackingList : public WatchedNode
+{
+public:
+    LackingList(const Ptr& list, tagFeatureEnum feature, std::string& log)
+        : WatchedNode(list, log), m_feature(feature), m_log(log)
+    {
+    }
+    Ptr GetChild(std::size_t index) const override
+    {
+        class Lacking : public WatchedNode
+        {
+        public:
+            using WatchedNode::WatchedNode;
+            bool IsSpecified() const override { return false; }
+        };
+        Ptr child = WatchedNode::GetChild(index);
+        if (child->GetId().GetFeatureEnum() != m_feature)
+            return child;
+        auto lacking = std::make_shared<Lacking>(child, m_log);
+        lacking->changes = [](std::unique_ptr<CapabilitiesNode> found) {
+            return std::make_unique<CapabilitiesNode>(CapabilityFlags{.required = true},
+                                                      found->GetInterpretedState(),
+                                                      InterpretedState());
+        };
+        return lacking;
+    }
+
+private:
+    tagFeatureEnum m_feature;
+    std::string& m_log;
+};
+
+class LackingServices : public ObserverCount
+{
+public:
+    LackingServices(FeatureServices& model, tagFeatureEnum feature)
+        : ObserverCount(model),
+          m_list(std::make_shared<LackingList>(model.GetFullListOfFeatures().GetNode(), feature,
+                                               m_log))
+    {
+    }
+    ListOfFeaturesRef GetFullListOfFeatures() override { return ListOfFeaturesRef(m_list); }
+
+private:
+    std::string m_log;
+    std::shared_ptr<LackingList> m_list;
+};
 
 /// Claims nothing and throws on the first command that passes.
 class Thrower : public UIMessageHandler
@@ -247,6 +297,30 @@ TEST_F(SheetApplyTest, PagesTellActivationFirstPaintAndCancelOnce)
                                     DataModelIds::kEventFirstPaintDone,
                                     DataModelIds::kEventPageActivated};
     EXPECT_EQ(counter.seen, expected);
+}
+
+/// The person is told which, on the page that shows it although nobody has been there yet.
+TEST_F(SheetApplyTest, ARequiredSettingWithoutAValueKeepsTheSheetOpen)
+{
+    const UIData data(kThree, UIMode::PrintingPreferences, Workflow::Standard);
+    LackingServices services(model(), kCopies);
+    SheetRig rig(session().productData(), services, session().strings(), data);
+    const EventCounter counter(model(), {DataModelIds::kEventOk});
+    HWND first = nullptr;
+    run(rig, {[&](HWND sheet) { return (first = sheet) != nullptr; }, press(PSBTN_OK),
+              [&](HWND box) {
+                  if (!box || box == first)
+                      return false;
+                  const CXString name = session().strings().GetStringForFeature(kCopies);
+                  EXPECT_EQ(o7::windowText(box), name);
+                  EXPECT_GE(o7::windowText(GetDlgItem(box, 0xFFFF)).Find(name), 0);
+                  return PostMessageW(box, WM_COMMAND, IDOK, 0) != FALSE;
+              },
+              [&](HWND sheet) {
+                  return sheet == first && GetFocus() == findListBehind(sheet, kCopiesLabel);
+              },
+              press(PSBTN_CANCEL)});
+    EXPECT_TRUE(counter.seen.empty());
 }
 
 /// Whatever the cause, and back again.

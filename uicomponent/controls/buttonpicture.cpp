@@ -40,7 +40,10 @@ public:
         return drawn;
     }
 
-    std::size_t count() const { return static_cast<std::size_t>(m_size.cx * m_size.cy); }
+    std::size_t count() const
+    {
+        return static_cast<std::size_t>(m_size.cx) * static_cast<std::size_t>(m_size.cy);
+    }
     std::uint32_t& pixel(std::size_t index) const { return m_pixels[index]; }
     HBITMAP bitmap() const { return m_bitmap.get(); }
 

@@ -387,7 +387,7 @@ bool UIEntryListControl::isCut(int index) const
 
 CXString UIEntryListControl::tipFor(int index) const
 {
-    const CXString reason = isGrey(index) ? m_reasonOf(index) : CXString();
+    CXString reason = isGrey(index) ? m_reasonOf(index) : CXString();
     if (!isCut(index)) {
         return reason;
     }

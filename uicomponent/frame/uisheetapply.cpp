@@ -48,24 +48,28 @@ void UISheetApply::pageAnswered(const _UIWindowsMessage& message) const
         complete(message);
 }
 
-/// What no page can tell alone. The fault may lie on another page than the one that was asked, so
-/// the sheet is told to stay where it is.
+/// What no page can tell alone.
 bool UISheetApply::isAcceptable(const _UIWindowsMessage& message) const
 {
     UIDataValidator validator(m_featureServices, m_eventProcessor);
     const bool isComplete = validator.validate(*reinterpret_cast<const NMHDR*>(message.lParam));
     if (isComplete && m_areas.validate())
         return true;
+    if (!isComplete)
+        tellMissing(message.window, validator.getMissing());
+    // The fault may lie on another page, which is in front now. Set last: changing pages asked this
+    // one for its leave.
     SetWindowLongPtrW(message.window, DWLP_MSGRESULT, PSNRET_INVALID_NOCHANGEPAGE);
-    if (isComplete)
-        return false; // the area has said it
-    const FeatureIdWithContext& missing = validator.getMissing();
-    m_guide.goTo(missing);
-    const CXString name = m_strings.GetStringForFeature(missing.GetFeatureEnum());
+    return false;
+}
+
+void UISheetApply::tellMissing(HWND page, const FeatureIdWithContext& feature) const
+{
+    m_guide.goTo(feature);
+    const CXString name = m_strings.GetStringForFeature(feature.GetFeatureEnum());
     const CXString text =
         CXString::Formatted(m_strings.LoadStringW(O7STR_M_VALUE_MISSING).c_str(), name.c_str());
-    m_services.showMessage(message.window, text, name, MB_ICONWARNING);
-    return false;
+    m_services.showMessage(GetAncestor(page, GA_ROOT), text, name, MB_ICONWARNING);
 }
 
 void UISheetApply::reject() const
@@ -96,6 +100,7 @@ bool UISheetApply::warn(HWND page) const
         return false;
     const CXString text =
         m_strings.LoadStringW(kWarningText) + L"\n\n" + m_strings.LoadStringW(kWarningAdvice);
-    m_services.showMessage(page, text, m_strings.LoadStringW(kWarningCaption), MB_ICONWARNING);
+    m_services.showMessage(GetAncestor(page, GA_ROOT), text, m_strings.LoadStringW(kWarningCaption),
+                           MB_ICONWARNING);
     return true;
 }

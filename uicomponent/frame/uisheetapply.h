@@ -4,6 +4,7 @@
 
 #include "uimode.h"
 
+class FeatureIdWithContext;
 class FeatureServices;
 class ProductStringLoader;
 class UIApplyButton;
@@ -30,6 +31,7 @@ public:
 
 private:
     bool isAcceptable(const _UIWindowsMessage& message) const;
+    void tellMissing(HWND page, const FeatureIdWithContext& feature) const;
     void reject() const;
     void complete(const _UIWindowsMessage& message) const;
     bool warn(HWND page) const;

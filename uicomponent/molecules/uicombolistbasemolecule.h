@@ -67,7 +67,7 @@ private:
     {
         ItemRecord record;
         ValueId value;
-        int option; ///< index in GetOptions()
+        int option = -1; ///< index in GetOptions()
     };
 
     std::vector<int> WantedOptions() const;

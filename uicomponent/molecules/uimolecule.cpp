@@ -132,17 +132,19 @@ bool UIMolecule::ProcessCommonMessage(const _UIWindowsMessage& message)
 }
 
 // A themed page is painted in the window colour, so its texts stand on that. A dialog and a page of
-// the classic look are not, and a field that is not for writing shows that by another ground.
+// the classic look are not. A field that is not for writing shows that by the ground of dialogs.
 bool UIMolecule::ColourControl(const _UIWindowsMessage& message) const
 {
     const auto control = reinterpret_cast<HWND>(message.lParam);
     if (message.kind != UIMessageKind::TabPage || !m_look || !m_look->isThemed() ||
-        !OwnsControl(control) || (SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL))
+        !OwnsControl(control))
         return false;
     const auto dc = reinterpret_cast<HDC>(message.wParam);
+    const bool isField = SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL;
     SetTextColor(dc, GetSysColor(COLOR_WINDOWTEXT));
-    SetBkColor(dc, GetSysColor(COLOR_WINDOW));
-    message.result = reinterpret_cast<LRESULT>(m_look->getWindowBrush());
+    SetBkColor(dc, GetSysColor(isField ? COLOR_3DFACE : COLOR_WINDOW));
+    message.result = reinterpret_cast<LRESULT>(isField ? GetSysColorBrush(COLOR_3DFACE)
+                                                       : m_look->getWindowBrush());
     return true;
 }
 

@@ -329,7 +329,7 @@ UIRadioButtonControl* UIRadioBaseMolecule::FindTabStop(bool enabled) const
 {
     UIRadioButtonControl* first = nullptr;
     for (const Choice& choice : m_choices) {
-        if (!choice.button || !CanTake(choice, enabled))
+        if (!CanTake(choice, enabled))
             continue;
         if (choice.button->getCheck() == BST_CHECKED)
             return choice.button.get();
@@ -343,12 +343,12 @@ void UIRadioBaseMolecule::ChooseTabStop(bool enabled)
 {
     const UIRadioButtonControl* const stop = FindTabStop(enabled);
     for (const Choice& choice : m_choices)
-        choice.button->setTabStop(choice.button.get() == stop);
+        choice.button->setTabStop(stop && choice.button.get() == stop);
 }
 
 bool UIRadioBaseMolecule::Focus()
 {
-    const UIRadioButtonControl* const target = FindTabStop(IsEnabled());
+    const UIRadioButtonControl* const target = HasControls() ? FindTabStop(IsEnabled()) : nullptr;
     if (!target)
         return UIOptionMolecule::Focus();
     SendMessageW(GetPage(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(target->getHwnd()), TRUE);
