@@ -46,6 +46,12 @@ std::optional<Dimension::UnitsEnum> UIDimensionSpinMolecule::StoredUnits() const
     return features.GetIntegerFeature(GetBoundFeature()).GetRangeCapabilities()->GetUnits();
 }
 
+CXString UIDimensionSpinMolecule::GetUnitText(bool metric) const
+{
+    const CXString own = UISpinMolecule::GetUnitText(metric);
+    return own.IsEmpty() ? LoadText(metric ? O7STR_U_MILLIMETRE : O7STR_U_INCH) : own;
+}
+
 UINumberRules UIDimensionSpinMolecule::MakeRules()
 {
     const bool metric = IsMetric();
@@ -54,13 +60,11 @@ UINumberRules UIDimensionSpinMolecule::MakeRules()
     rules.isLength = true;
     rules.units = metric ? Dimension::UnitsEnum::Millimetre : Dimension::UnitsEnum::Inch;
     rules.decimalSeparator = m_shownFor.decimalSeparator;
-    unsigned unitLabel = 0;
     if (const UISpinControlData* data = GetSpinData()) {
         rules.digits = data->getDigits(metric);
         rules.increment = data->getIncrement(metric);
-        unitLabel = data->getUnitLabel(metric);
     }
-    rules.unitText = LoadText(unitLabel ? unitLabel : metric ? O7STR_U_MILLIMETRE : O7STR_U_INCH);
+    rules.unitText = GetUnitText(metric);
 
     const auto features = GetSite().featureServices.GetListOfFeaturesFor(GetBoundFeature());
     if (const auto stored = StoredUnits()) {

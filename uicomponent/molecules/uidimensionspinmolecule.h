@@ -20,6 +20,7 @@ public:
 protected:
     void LoadValue() override;
     UINumberRules MakeRules() override;
+    CXString GetUnitText(bool metric) const override;
     std::optional<std::int64_t> ReadNumber() const override;
     bool WriteNumber(std::int64_t value) override;
 

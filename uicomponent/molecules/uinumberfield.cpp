@@ -16,6 +16,7 @@ namespace {
 
 // Dialog units.
 constexpr long kLeastWidth = 40;
+constexpr long kNarrowWidth = 32; // where the unit needs the room
 constexpr long kDigitWidth = 5;
 constexpr long kInnerMargins = 6;
 constexpr long kArrowsWidth = 11;
@@ -71,7 +72,9 @@ long UINumberField::GetWantedWidth(bool hasArrows) const
 void UINumberField::Create(UIPageWindow& page, const Surroundings& surroundings, POINT location,
                            long width, bool hasArrows)
 {
-    const long boxWidth = std::min(width, GetWantedWidth(hasArrows));
+    const long unitRoom = m_unitWidth ? m_unitWidth + kUnitGap : 0;
+    const long most = std::max(width - unitRoom, std::min(width, kNarrowWidth));
+    const long boxWidth = std::min(most, GetWantedWidth(hasArrows));
     const long editWidth = hasArrows ? boxWidth - kArrowsWidth : boxWidth;
     UIServices& services = surroundings.site.services;
     const DWORD alignment = services.isRightToLeft() ? ES_RIGHT : ES_LEFT;

@@ -30,6 +30,8 @@ public:
     /// @param width  room in dialog units; the box takes what its values need of it
     void Create(UIPageWindow& page, const Surroundings& surroundings, POINT location, long width,
                 bool hasArrows);
+    /// The room that the unit behind the box needs, in dialog units; the box leaves it that.
+    void SetUnitWidth(long width) { m_unitWidth = width; }
     /// The room that box and arrows want, in dialog units.
     long GetWantedWidth(bool hasArrows) const;
     void Move(POINT delta) override;
@@ -71,6 +73,7 @@ private:
     Writer m_write;
     std::unique_ptr<UISpinControl> m_arrows;
     std::unique_ptr<UITextControl> m_unit;
+    long m_unitWidth = 0;
     std::optional<std::int64_t> m_value;
     std::optional<std::int64_t> m_origin; ///< what the person has settled on before
     mutable std::optional<UIUnitNames> m_names;

@@ -81,7 +81,14 @@ void UISpinMolecule::FitTexts(const UITextRuler& ruler, long width)
     if (m_switchWidth && ruler.GetFit().labelWidth)
         m_switchWidth = ruler.GetFit().labelWidth;
     m_switch.Fit(ruler, IsSwitchBeside() ? m_switchWidth : width - kInfoLane);
+    m_field.SetUnitWidth(
+        std::max(ruler.WidthOf(GetUnitText(true)), ruler.WidthOf(GetUnitText(false))));
     UpdateMinimumHeight();
+}
+
+CXString UISpinMolecule::GetUnitText(bool metric) const
+{
+    return m_spinData ? LoadText(m_spinData->getUnitLabel(metric)) : CXString();
 }
 
 long UISpinMolecule::GetWantedLabelWidth(const UITextRuler& ruler) const

@@ -42,6 +42,8 @@ protected:
 
     /// How the values of the feature are written, and which are allowed.
     virtual UINumberRules MakeRules();
+    /// The text of the unit behind the box, for metric units and for others; empty for none.
+    virtual CXString GetUnitText(bool metric) const;
     /// The model's value; nothing when the feature cannot be read.
     virtual std::optional<std::int64_t> ReadNumber() const;
     /// @return false when the model did not take it.
