@@ -9,9 +9,7 @@
 #include "numberranges.h"
 #include "productstringloader.h"
 #include "transactionref.h"
-#include "uicheckcontroldata.h"
 #include "uidump.h"
-#include "uimoleculedata.h"
 #include "uimoleculedump.h"
 #include "uiservices.h"
 #include "uislidercontrol.h"
@@ -29,52 +27,22 @@ constexpr long kSliderHeight = 15;
 constexpr long kNumberWidth = 22;
 constexpr long kNumberDrop = 3;
 constexpr long kSwitchGap = 1;
-constexpr long kSwitchDrop = 2;
 
 } // namespace
 
 UISliderMolecule::UISliderMolecule(const UIMoleculeData& data, const UIMoleculeSite& site)
-    : UIFeatureMolecule(data, site), m_switch(GetSite())
+    : UINumberMolecule(data, site, kSwitchGap)
 {
 }
 
 UISliderMolecule::~UISliderMolecule() = default;
 
-void UISliderMolecule::InitializeFromDescription()
+bool UISliderMolecule::TakeControl(const UIControlData& control)
 {
-    for (const auto& control : GetData().getControls()) {
-        const auto feature = InFeatureList(FeatureIdWithContext{FeatureId(control->getFeature())});
-        switch (control->getKind()) {
-        case UIControlKind::Slider:
-            m_sliderData = static_cast<const UISliderControlData*>(control.get());
-            SetBoundFeature(feature);
-            break;
-        case UIControlKind::Check:
-            m_switch.Set(feature, LoadText(control->getLabel()));
-            break;
-        case UIControlKind::Text:
-            m_label.Set(LoadText(control->getLabel()), GetLabelWidth());
-            break;
-        default:
-            break;
-        }
-    }
-    m_switchWidth = GetLabelWidth();
-    m_switch.SetMoleculeFeature(GetBoundFeature());
-    if (m_switch.HasOwnFeature())
-        AddFurtherFeature(m_switch.GetFeature());
-    UpdateMinimumHeight();
-}
-
-long UISliderMolecule::BesideWidth() const
-{
-    return IsSwitchBeside() ? m_switchWidth : m_label.GetBesideWidth();
-}
-
-long UISliderMolecule::HeightAbove() const
-{
-    const bool ownLine = m_switch.Exists() && !IsSwitchBeside();
-    return m_label.GetHeightAbove() + (ownLine ? m_switch.GetHeight() + kSwitchGap : 0);
+    if (control.getKind() != UIControlKind::Slider)
+        return false;
+    m_sliderData = static_cast<const UISliderControlData*>(&control);
+    return true;
 }
 
 long UISliderMolecule::EndsHeight() const
@@ -84,19 +52,15 @@ long UISliderMolecule::EndsHeight() const
     return hasEnds ? UITextRuler::kLineHeight : 0;
 }
 
-void UISliderMolecule::UpdateMinimumHeight()
+long UISliderMolecule::GetNumberHeight() const
 {
-    SetMinimumExtent({0, HeightAbove() + kSliderHeight + EndsHeight()});
+    return kSliderHeight + EndsHeight();
 }
 
 void UISliderMolecule::FitTexts(const UITextRuler& ruler, long width)
 {
-    m_label.Fit(ruler, width - kInfoLane);
-    if (m_switchWidth && ruler.GetFit().labelWidth)
-        m_switchWidth = ruler.GetFit().labelWidth;
-    m_switch.Fit(ruler, IsSwitchBeside() ? m_switchWidth : width - kInfoLane);
-    FitEnds(ruler, width - kInfoLane - BesideWidth() - kNumberWidth);
-    UpdateMinimumHeight();
+    UINumberMolecule::FitTexts(ruler, width);
+    FitEnds(ruler, width - kInfoLane - GetBesideWidth() - kNumberWidth);
 }
 
 void UISliderMolecule::FitEnds(const UITextRuler& ruler, long width)
@@ -110,26 +74,16 @@ void UISliderMolecule::FitEnds(const UITextRuler& ruler, long width)
         ruler.NoteCut();
 }
 
-long UISliderMolecule::GetWantedLabelWidth(const UITextRuler& ruler) const
-{
-    return m_label.IsEmpty() ? m_switch.GetWantedWidth(ruler) : m_label.GetWantedWidth(ruler);
-}
-
 void UISliderMolecule::CreateControls(UIPageWindow& page)
 {
     SetPage(page);
-    const POINT place = GetPosition();
-    const long beside = BesideWidth();
-    const long top = place.y + GetMinimumHeight() - EndsHeight() - kSliderHeight;
-    m_switch.Create(page, {place.x, place.y + (IsSwitchBeside() ? kSwitchDrop : 0)},
-                    IsSwitchBeside() ? beside : GetContentWidth());
-    m_label.Create(page, GetSite().services, {place.x, top - m_label.GetHeightAbove()},
-                   GetContentWidth());
-    const POINT sliderPlace{place.x + beside, top};
+    CreateLabelAndSwitch(page);
+    const long beside = GetBesideWidth();
+    const POINT place{GetPosition().x + beside, GetNumberTop()};
     const long width = GetContentWidth() - beside - kNumberWidth;
     ReadRules();
-    CreateSlider(page, sliderPlace, width);
-    CreateEnds(page, {sliderPlace.x, top + kSliderHeight}, width);
+    CreateSlider(page, place, width);
+    CreateEnds(page, {place.x, place.y + kSliderHeight}, width);
 }
 
 std::unique_ptr<UITextControl> UISliderMolecule::CreateText(UIPageWindow& page, POINT place,
@@ -153,8 +107,7 @@ void UISliderMolecule::CreateSlider(UIPageWindow& page, POINT place, long width)
         m_slider->setTickFrequency(m_sliderData->getTickFrequency());
         m_slider->setSteps(1, m_sliderData->getPageSize());
     }
-    const CXString& name = m_label.IsEmpty() ? m_switch.GetText() : m_label.GetText();
-    m_slider->setAccessibleName(o7::spokenName(name));
+    m_slider->setAccessibleName(o7::spokenName(GetName()));
     m_number = CreateText(page, {place.x + width, place.y + kNumberDrop}, kNumberWidth,
                           GetSite().services.isRightToLeft() ? SS_LEFT : SS_RIGHT);
     m_number->keepUnmirrored();
@@ -183,9 +136,7 @@ template <class Do> void UISliderMolecule::ForTexts(Do&& act) const
 void UISliderMolecule::SetPosition(POINT position)
 {
     const POINT delta{position.x - GetPosition().x, position.y - GetPosition().y};
-    UIFeatureMolecule::SetPosition(position);
-    m_label.Move(delta);
-    m_switch.Move(delta);
+    UINumberMolecule::SetPosition(position);
     if (m_slider)
         m_slider->move(delta, false);
     ForTexts([&](UITextControl& text) { text.move(delta, false); });
@@ -199,86 +150,49 @@ void UISliderMolecule::ReadRules()
                                            .GetRangeCapabilities());
 }
 
-std::optional<int> UISliderMolecule::ReadNumber() const
-{
-    int value = 0;
-    const auto feature = GetSite()
-                             .featureServices.GetListOfFeaturesFor(GetBoundFeature())
-                             .GetIntegerFeature(GetBoundFeature());
-    if (!feature.GetValue(value, FeatureRef::kDoNotAssertIfUnsupported))
-        return std::nullopt;
-    return value;
-}
-
 void UISliderMolecule::ShowNumberText(const CXString& text)
 {
     if (m_number)
         m_number->setLabelText(text);
 }
 
-void UISliderMolecule::ShowNumber(std::optional<int> value)
+void UISliderMolecule::ShowNumber(std::optional<std::int64_t> value)
 {
     m_value = value;
     if (!m_slider)
         return;
-    m_slider->setPosition(value.value_or(m_slider->getMinimum()));
+    m_slider->setPosition(value ? static_cast<int>(*value) : m_slider->getMinimum());
     ShowNumberText(value ? m_rules.text(*value) : CXString());
 }
 
-void UISliderMolecule::LoadValue()
-{
-    m_switch.Load();
-    ShowNumber(m_cleared ? std::nullopt : ReadNumber());
-    EnableSlider(IsEnabled() && m_switch.IsOn());
-}
-
-void UISliderMolecule::EnableSlider(bool enabled)
+void UISliderMolecule::EnableNumber(bool enabled)
 {
     if (m_slider)
         m_slider->setEnable(enabled);
     ForTexts([enabled](UITextControl& text) { text.setEnable(enabled); });
 }
 
-void UISliderMolecule::ShowState(const InterpretedState& state, bool enabled)
-{
-    m_cleared = !enabled && state.IsCleared();
-    m_label.Enable(enabled);
-    m_switch.Enable(enabled, IsForceDisabled());
-    LoadValue();
-}
-
-void UISliderMolecule::CompleteState(const CapabilitiesNode& capabilities,
-                                     InterpretedState& state) const
-{
-    UIFeatureMolecule::CompleteState(capabilities, state);
-    m_switch.AddReason(state);
-}
-
 bool UISliderMolecule::HandleMessage(const _UIWindowsMessage& message)
 {
-    if (m_switch.HandleMessage(message)) {
-        LoadValue();
-        return true;
-    }
     if (message.message == WM_HSCROLL && m_slider &&
         reinterpret_cast<HWND>(message.lParam) == m_slider->getHwnd()) {
         Slid(LOWORD(message.wParam));
         return true;
     }
-    return ProcessCommonMessage(message);
+    return UINumberMolecule::HandleMessage(message);
 }
 
 // A drag reports every pixel; only where it ends is meant.
 void UISliderMolecule::Slid(int code)
 {
-    const auto position = static_cast<int>(m_rules.nearest(m_slider->getPosition()));
+    const std::int64_t position = m_rules.nearest(m_slider->getPosition());
     if (code == TB_THUMBTRACK) {
         ShowNumberText(m_rules.text(position));
         return;
     }
     if (position != m_value) {
         const auto transaction = GetSite().featureServices.OpenTransaction();
-        GetSite().valueWriter.SetInteger(GetBoundFeature(), position);
+        GetSite().valueWriter.SetInteger(GetBoundFeature(), static_cast<int>(position));
         LoadValue();
         transaction->Close(true);
         return;
@@ -288,20 +202,13 @@ void UISliderMolecule::Slid(int code)
 
 void UISliderMolecule::CollectWantedMessages(UIMessageMask& mask) const
 {
-    UIFeatureMolecule::CollectWantedMessages(mask);
+    UINumberMolecule::CollectWantedMessages(mask);
     mask.add(WM_HSCROLL);
-}
-
-bool UISliderMolecule::Focus()
-{
-    return UIFeatureMolecule::Focus() || m_switch.Focus();
 }
 
 void UISliderMolecule::Show(bool shown)
 {
-    UIFeatureMolecule::Show(shown);
-    m_label.Show(shown);
-    m_switch.Show(shown);
+    UINumberMolecule::Show(shown);
     if (m_slider)
         m_slider->setShow(shown);
     ForTexts([shown](UITextControl& text) { text.setShow(shown); });
@@ -314,9 +221,9 @@ HWND UISliderMolecule::InfoAnchor() const
 
 void UISliderMolecule::DumpControls() const
 {
-    m_switch.Dump();
-    o7::dumpControl(L"slider", m_label.IsEmpty() ? m_switch.GetText() : m_label.GetText(),
-                    m_value ? m_rules.text(*m_value) : CXString(), StateText(), GetInfoText());
+    DumpSwitch();
+    o7::dumpControl(L"slider", GetName(), m_value ? m_rules.text(*m_value) : CXString(),
+                    StateText(), GetInfoText());
     if (!m_slider || !UIDump::isCollecting())
         return;
     const UIDump::Level inner;
@@ -329,5 +236,5 @@ void UISliderMolecule::DumpControls() const
 
 CXString UISliderMolecule::GetObserverClassNameHeirarchy() const
 {
-    return CXString(L"UISliderMolecule:UIFeatureMolecule:UIMolecule");
+    return CXString(L"UISliderMolecule:UINumberMolecule:UIFeatureMolecule:UIMolecule");
 }
