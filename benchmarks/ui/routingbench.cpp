@@ -67,8 +67,12 @@ void addUnwanted(Report& report, test::SheetRig& rig)
 
 void addDeclined(Report& report, test::SheetRig& rig)
 {
-    const _UIWindowsMessage message{
-        UIMessageKind::TabPage, GetDesktopWindow(), WM_COMMAND, 0, 0, 0};
+    const _UIWindowsMessage message{UIMessageKind::TabPage,
+                                    GetDesktopWindow(),
+                                    WM_COMMAND,
+                                    0,
+                                    reinterpret_cast<LPARAM>(GetDesktopWindow()),
+                                    0}; // from a control of nobody's
     const auto& tabs = rig.tabs().getTabs();
     std::vector<UIMolecule*> molecules;
     for (const auto& tab : tabs)
