@@ -34,7 +34,10 @@ bool contains(const RECT& outer, const RECT& inner)
 
 GeometryRules::GeometryRules(HWND page, std::vector<LONG> columns,
                              std::function<CXString(HWND)> tipOf)
-    : m_page(page), m_columns(std::move(columns)), m_tipOf(std::move(tipOf))
+    : m_page(page),
+      m_dc(CreateCompatibleDC(nullptr)),
+      m_columns(std::move(columns)),
+      m_tipOf(std::move(tipOf))
 {
     collect();
 }
@@ -165,16 +168,16 @@ void GeometryRules::checkTexts()
             continue;
         } else if (piece.kind == L"static") {
             const bool isOneLine = (piece.style & SS_ELLIPSISMASK) != 0;
-            checkText(piece, piece.text, room.right, room.bottom,
+            checkText(piece, piece.text, {room.right, room.bottom},
                       (isOneLine ? DT_SINGLELINE : DT_WORDBREAK) |
                           (piece.style & SS_NOPREFIX ? DT_NOPREFIX : 0U));
         } else if (isFrame(piece)) {
-            checkText(piece, piece.text, room.right - kFrameEnds, room.bottom, DT_SINGLELINE);
+            checkText(piece, piece.text, {room.right - kFrameEnds, room.bottom}, DT_SINGLELINE);
         } else if (isButton(piece, BS_PUSHBUTTON) || isButton(piece, BS_DEFPUSHBUTTON) ||
                    (piece.style & BS_PUSHLIKE)) {
-            checkText(piece, piece.text, room.right - kButtonEdges, room.bottom, DT_SINGLELINE);
+            checkText(piece, piece.text, {room.right - kButtonEdges, room.bottom}, DT_SINGLELINE);
         } else {
-            checkText(piece, piece.text, room.right - kCheckMark, room.bottom,
+            checkText(piece, piece.text, {room.right - kCheckMark, room.bottom},
                       piece.style & BS_MULTILINE ? DT_WORDBREAK : DT_SINGLELINE);
         }
     }
@@ -182,36 +185,42 @@ void GeometryRules::checkTexts()
 
 void GeometryRules::checkEntries(const Piece& list, UINT count, UINT length, UINT text, LONG width)
 {
+    constexpr UINT kFormat = DT_SINGLELINE | DT_NOPREFIX;
+    const SIZE room{width, list.place.bottom - list.place.top};
     const auto entries = static_cast<WPARAM>(SendMessageW(list.window, count, 0, 0));
     for (WPARAM entry = 0; entry < entries; ++entry) {
         std::wstring shown(static_cast<std::size_t>(SendMessageW(list.window, length, entry, 0)),
                            L'\0');
         SendMessageW(list.window, text, entry, reinterpret_cast<LPARAM>(shown.data()));
-        if (list.kind == L"combobox") // shows one at a time
+        if (findLack(list.window, shown, room, kFormat).empty())
+            continue;
+        if (list.kind == L"combobox") // its tip tells of the one that it shows
             SendMessageW(list.window, CB_SETCURSEL, entry, 0);
-        checkText(list, shown, width, list.place.bottom, DT_SINGLELINE | DT_NOPREFIX);
+        checkText(list, shown, room, kFormat);
     }
 }
 
-void GeometryRules::checkText(const Piece& piece, const std::wstring& text, LONG width, LONG height,
-                              UINT format)
+std::string GeometryRules::findLack(HWND control, const std::wstring& text, SIZE room,
+                                    UINT format) const
 {
-    width -= width / kDrawnWider;
-    const HDC dc = GetDC(m_page);
-    const HGDIOBJ former =
-        SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(piece.window, WM_GETFONT, 0, 0)));
-    RECT needed{0, 0, width, 0};
-    DrawTextW(dc, text.c_str(), -1, &needed, DT_CALCRECT | format);
-    SelectObject(dc, former);
-    ReleaseDC(m_page, dc);
-    if (text.empty() || (needed.right <= width && needed.bottom <= height))
-        return;
+    const SelectedObject font(m_dc.get(),
+                              reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)));
+    room.cx -= room.cx / kDrawnWider;
+    RECT needed{0, 0, room.cx, 0};
+    DrawTextW(m_dc.get(), text.c_str(), -1, &needed, DT_CALCRECT | format);
+    if (text.empty() || (needed.right <= room.cx && needed.bottom <= room.cy))
+        return {};
+    return "needs " + std::to_string(needed.right) + " by " + std::to_string(needed.bottom) +
+           " of " + std::to_string(room.cx) + " by " + std::to_string(room.cy) + " pixels";
+}
+
+void GeometryRules::checkText(const Piece& piece, const std::wstring& text, SIZE room, UINT format)
+{
+    const std::string lack = findLack(piece.window, text, room, format);
     const CXString whole = o7::withoutMnemonics(CXString(text));
-    if (m_tipOf(piece.window).View().find(whole.View()) == std::wstring_view::npos)
-        fault(piece, "cuts \"" + CXString(text).ToUtf8() + "\", which needs " +
-                         std::to_string(needed.right) + " by " + std::to_string(needed.bottom) +
-                         " of " + std::to_string(width) + " by " + std::to_string(height) +
-                         " pixels, and has no tip that holds the whole");
+    if (!lack.empty() && m_tipOf(piece.window).View().find(whole.View()) == std::wstring_view::npos)
+        fault(piece, "cuts \"" + CXString(text).ToUtf8() + "\", which " + lack +
+                         " and has no tip that holds the whole");
 }
 
 wchar_t GeometryRules::mnemonicOf(const Piece& piece)

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "cxstring.h"
+#include "uihandles.h"
 
 namespace o7::test {
 
@@ -48,11 +49,14 @@ private:
     void checkTexts();
     void checkEntries(const Piece& list, UINT count, UINT length, UINT text, LONG width);
     void checkMnemonics(std::set<wchar_t>& taken);
-    void checkText(const Piece& piece, const std::wstring& text, LONG width, LONG height,
-                   UINT format);
+    /// What the text lacks: empty when it fits the room.
+    std::string findLack(HWND control, const std::wstring& text, SIZE room, UINT format) const;
+    /// The text fits, or the control's tip holds it.
+    void checkText(const Piece& piece, const std::wstring& text, SIZE room, UINT format);
     void fault(const Piece& piece, const std::string& what);
 
     HWND m_page;
+    UniqueMemoryDc m_dc;
     std::vector<LONG> m_columns;
     std::function<CXString(HWND)> m_tipOf;
     std::vector<Piece> m_pieces;
