@@ -6,6 +6,14 @@ namespace o7 {
 
 namespace {
 
+RECT workAreaOfScreen(HMONITOR screen) noexcept
+{
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    ::GetMonitorInfoW(screen, &monitor);
+    return monitor.rcWork;
+}
+
 constexpr LONG kGap = 2;
 
 /// The start of a length that lies within two ends; at the first end when it is too long.
@@ -23,10 +31,12 @@ bool isMirrored(HWND window) noexcept
 
 RECT workAreaOf(const RECT& part) noexcept
 {
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof monitor;
-    ::GetMonitorInfoW(::MonitorFromRect(&part, MONITOR_DEFAULTTONEAREST), &monitor);
-    return monitor.rcWork;
+    return workAreaOfScreen(::MonitorFromRect(&part, MONITOR_DEFAULTTONEAREST));
+}
+
+RECT workAreaOf(HWND window) noexcept
+{
+    return workAreaOfScreen(::MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST));
 }
 
 POINT placeBeside(const RECT& part, SIZE tip, const RECT& workArea, bool isMirrored) noexcept

@@ -9,6 +9,8 @@ bool isMirrored(HWND window) noexcept;
 
 /// The work area of the monitor that a part of the screen is on, in pixels.
 RECT workAreaOf(const RECT& part) noexcept;
+/// The same for the screen that a window is on, or nearest to.
+RECT workAreaOf(HWND window) noexcept;
 
 /// The corner of a tip beside a part of the screen: behind it in the direction of reading, before
 /// it when there is no room, below it when there is none there either. Never over the part itself

@@ -5,6 +5,7 @@
 #include "dialogconversion.h"
 #include "productstringloader.h"
 #include "textmeasure.h"
+#include "tipplacement.h"
 #include "uibuttoncontrol.h"
 #include "uiconflictwalk.h"
 #include "uicontainerdata.h"
@@ -24,14 +25,6 @@ constexpr long kButtonHeight = 14;
 constexpr long kButtonGap = 4;
 constexpr long kButtonPadding = 8; // what a button is wider than its text
 constexpr long kButtonRow = kButtonHeight + UILayoutManager::kMargin;
-
-RECT workAreaOf(HWND window)
-{
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof monitor;
-    GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
-    return monitor.rcWork;
-}
 
 } // namespace
 
@@ -132,7 +125,7 @@ void UIPopupDialog::placeOnScreen() const
     const HWND owner = m_wholeUi ? nullptr : GetWindow(window, GW_OWNER);
     RECT place{};
     GetWindowRect(window, &place);
-    const RECT area = workAreaOf(owner ? owner : window);
+    const RECT area = o7::workAreaOf(owner ? owner : window);
     RECT around = area;
     if (owner)
         GetWindowRect(owner, &around);

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "isolationaware.h"
+#include "tipplacement.h"
 #include "uidialogprocedure.h"
 #include "uimessagemanager.h"
 
@@ -10,14 +10,6 @@ namespace {
 
 constexpr int kTabControlId = 12320; // the same in every version of the common controls
 constexpr UINT kKeepsOrder = SWP_NOZORDER | SWP_NOACTIVATE;
-
-RECT workAreaOf(HWND window)
-{
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof monitor;
-    GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
-    return monitor.rcWork;
-}
 
 RECT placeIn(HWND parent, HWND child)
 {
@@ -81,7 +73,7 @@ bool UISheetWindow::enlarge(long height)
 {
     RECT frame{};
     GetWindowRect(m_sheet, &frame);
-    const RECT area = workAreaOf(m_sheet);
+    const RECT area = o7::workAreaOf(m_sheet);
     if (frame.bottom - frame.top + height > area.bottom - area.top)
         return false;
     m_growth = height;
