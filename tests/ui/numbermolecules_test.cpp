@@ -362,8 +362,17 @@ TEST_F(NumberMoleculesTest, KeysWheelAndMouseMoveByTheStep)
     GetWindowRect(arrows, &area);
     sendClick((area.left + area.right) / 2, area.top + (area.bottom - area.top) / 4);
     EXPECT_EQ(value(kCopies), "2");
-    sendClick(boxOf(dialog->window(), Slider)); // the middle of the track, where the thumb is
+    sendMouse(MOUSEEVENTF_WHEEL, 0, WHEEL_DELTA); // over the arrows, which the box has
+    EXPECT_EQ(value(kCopies), "3");
+    const HWND slider = boxOf(dialog->window(), Slider);
+    sendClick(slider); // the middle of the track, where the thumb is
     EXPECT_EQ(value(kLightness), "0");
+    sendMouse(MOUSEEVENTF_LEFTDOWN);
+    sendMouse(MOUSEEVENTF_MOVE, 20);
+    EXPECT_NE(textOf(slider), "0");
+    EXPECT_EQ(value(kLightness), "0") << "written while it is dragged";
+    sendMouse(MOUSEEVENTF_LEFTUP);
+    EXPECT_EQ(value(kLightness), textOf(slider));
 }
 
 TEST_F(NumberMoleculesTest, ModelsValuesAndStatesAreShownAndNothingIsWrittenBack)

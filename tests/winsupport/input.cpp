@@ -83,6 +83,14 @@ void sendClick(HWND window)
     sendClick((area.left + area.right) / 2, (area.top + area.bottom) / 2);
 }
 
+void sendMouse(DWORD event, LONG right, int wheel)
+{
+    INPUT input = buttonInput(event);
+    input.mi.dx = right;
+    input.mi.mouseData = static_cast<DWORD>(wheel);
+    send({input});
+}
+
 void sendKey(WORD virtualKey, std::initializer_list<WORD> held)
 {
     std::vector<INPUT> inputs;

@@ -27,6 +27,10 @@ void sendClick(int x, int y);
 /// Clicks the middle of the window. The window must be visible and not covered.
 void sendClick(HWND window);
 
+/// One event of the mouse where the pointer is (MOUSEEVENTF_...): a part of a drag, which moves by
+/// `right` pixels, or a turn of the wheel by `wheel`.
+void sendMouse(DWORD event, LONG right = 0, int wheel = 0);
+
 /// Presses and releases a virtual key while the given ones (VK_SHIFT, VK_CONTROL, VK_MENU) are
 /// held.
 void sendKey(WORD virtualKey, std::initializer_list<WORD> held = {});
