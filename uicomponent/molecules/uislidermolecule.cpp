@@ -120,9 +120,10 @@ void UISliderMolecule::CreateEnds(UIPageWindow& page, POINT place, long width)
     if (!EndsHeight())
         return;
     const long lowWidth = m_lowEndWidth ? m_lowEndWidth : width / 2;
-    m_lowEnd = CreateText(page, place, lowWidth, SS_LEFT);
+    m_lowEnd = CreateText(page, place, lowWidth, SS_LEFT | SS_ENDELLIPSIS);
     m_lowEnd->setLabelText(LoadText(m_sliderData->getLowLabel()));
-    m_highEnd = CreateText(page, {place.x + lowWidth, place.y}, width - lowWidth, SS_RIGHT);
+    m_highEnd = CreateText(page, {place.x + lowWidth, place.y}, width - lowWidth,
+                           SS_RIGHT | SS_ENDELLIPSIS);
     m_highEnd->setLabelText(LoadText(m_sliderData->getHighLabel()));
 }
 
