@@ -39,7 +39,6 @@ public:
     UITabManager& tabs() { return *m_tabs; }
     UIEventProcessor& events() { return *m_events; }
     UIMessageManager& messages() { return *m_messages; }
-    UIPopupLauncher& popups() { return *m_popups; }
 
 private:
     const UIData& m_description;

@@ -150,6 +150,7 @@ void enter(HWND box, const wchar_t* text)
 /// The text of the tip that stands on the screen; empty without one.
 std::string shownTip()
 {
+    pumpMessages(); // it comes behind the focus
     std::string text;
     EnumThreadWindows(
         GetCurrentThreadId(),

@@ -74,10 +74,8 @@ bool UIButtonMolecule::HandleMessage(const _UIWindowsMessage& message)
     return true;
 }
 
-void UIButtonMolecule::SetPosition(POINT position)
+void UIButtonMolecule::MoveControls(POINT delta)
 {
-    const POINT delta{position.x - GetPosition().x, position.y - GetPosition().y};
-    UIMolecule::SetPosition(position);
     if (m_button)
         m_button->move(delta, false);
 }

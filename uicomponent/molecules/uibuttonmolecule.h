@@ -23,7 +23,7 @@ public:
     void SetEnabled(bool enabled);
 
     bool HandleMessage(const _UIWindowsMessage& message) override;
-    void SetPosition(POINT position) override;
+    void MoveControls(POINT delta) override;
     void CreateControls(UIPageWindow& page) override;
     void InitializeFromDescription() override;
     void FitTexts(const UITextRuler& ruler, long width) override;

@@ -150,10 +150,8 @@ void UICheckBoxMolecule::CreateControls(UIPageWindow& page)
     }
 }
 
-void UICheckBoxMolecule::SetPosition(POINT position)
+void UICheckBoxMolecule::MoveControls(POINT delta)
 {
-    const POINT delta{position.x - GetPosition().x, position.y - GetPosition().y};
-    UIFeatureMolecule::SetPosition(position);
     m_label.Move(delta);
     if (m_check)
         m_check->move(delta, false);

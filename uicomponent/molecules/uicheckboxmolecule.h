@@ -24,7 +24,7 @@ public:
 
     bool HandleMessage(const _UIWindowsMessage& message) override;
     void Refresh() override;
-    void SetPosition(POINT position) override;
+    void MoveControls(POINT delta) override;
     void CreateControls(UIPageWindow& page) override;
     void InitializeFromDescription() override;
     bool IsHiddenBySetting() const override { return m_hiddenBySetting; }

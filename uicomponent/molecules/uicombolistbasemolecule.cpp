@@ -81,10 +81,8 @@ bool UIComboListBaseMolecule::HandleMessage(const _UIWindowsMessage& message)
     return list->handleMessage(message) || ProcessCommonMessage(message);
 }
 
-void UIComboListBaseMolecule::SetPosition(POINT position)
+void UIComboListBaseMolecule::MoveControls(POINT delta)
 {
-    const POINT delta{position.x - GetPosition().x, position.y - GetPosition().y};
-    UIOptionMolecule::SetPosition(position);
     m_label.Move(delta);
     if (List())
         List()->move(delta, false);

@@ -22,7 +22,7 @@ public:
     ~UIComboListBaseMolecule() override;
 
     bool HandleMessage(const _UIWindowsMessage& message) override;
-    void SetPosition(POINT position) override;
+    void MoveControls(POINT delta) override;
     void InitializeFromDescription() override;
     void DumpControls() const override;
     void Show(bool shown) override;
@@ -50,7 +50,6 @@ protected:
     {
         m_disabledOptions = disabledOptions;
     }
-    const UIMoleculeLabel& GetLabel() const { return m_label; }
     /// Creates the label. @return the place of the list, which is `height` high and ends where the
     /// molecule does
     RECT CreateLabel(UIPageWindow& page, long height);

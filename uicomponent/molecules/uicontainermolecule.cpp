@@ -47,10 +47,8 @@ void UIContainerMolecule::SetPositionAndWidth(POINT position, long width)
         column->place({position.x + column->getData().getX(), position.y});
 }
 
-void UIContainerMolecule::SetPosition(POINT position)
+void UIContainerMolecule::MoveControls(POINT delta)
 {
-    const POINT delta{position.x - GetPosition().x, position.y - GetPosition().y};
-    UIMolecule::SetPosition(position);
     if (!m_nested)
         return;
     for (const auto& column : m_nested->getColumns()) {

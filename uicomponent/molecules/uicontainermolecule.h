@@ -15,7 +15,7 @@ public:
     UIContainerMolecule(const UIMoleculeData& data, const UIMoleculeSite& site);
     ~UIContainerMolecule() override;
 
-    void SetPosition(POINT position) override;
+    void MoveControls(POINT delta) override;
     void SetPositionAndWidth(POINT position, long width) override;
     void CreateControls(UIPageWindow& page) override;
     void InitializeFromDescription() override;

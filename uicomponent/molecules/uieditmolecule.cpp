@@ -7,7 +7,6 @@
 #include "numberranges.h"
 #include "stringcapability.h"
 #include "stringfeatureref.h"
-#include "transactionref.h"
 #include "uidump.h"
 #include "uieditcontroldata.h"
 #include "uimoleculedata.h"
@@ -126,22 +125,14 @@ void UIEditMolecule::CreateText(UIPageWindow& page, POINT place, long width)
 
 bool UIEditMolecule::WriteNumber(int value)
 {
-    const auto transaction = GetSite().featureServices.OpenTransaction();
-    const bool taken = GetSite().valueWriter.SetInteger(GetBoundFeature(), value);
-    if (taken)
-        LoadValue();
-    transaction->Close(true);
-    return taken;
+    return WriteAndReadBack(
+        [&] { return GetSite().valueWriter.SetInteger(GetBoundFeature(), value); });
 }
 
 bool UIEditMolecule::WriteText(const CXString& text)
 {
-    const auto transaction = GetSite().featureServices.OpenTransaction();
-    const bool taken = GetSite().valueWriter.SetString(GetBoundFeature(), text);
-    if (taken)
-        LoadValue();
-    transaction->Close(true);
-    return taken;
+    return WriteAndReadBack(
+        [&] { return GetSite().valueWriter.SetString(GetBoundFeature(), text); });
 }
 
 void UIEditMolecule::LoadValue()
@@ -198,10 +189,8 @@ bool UIEditMolecule::HasPendingInput() const
     return m_field && m_field->IsPending();
 }
 
-void UIEditMolecule::SetPosition(POINT position)
+void UIEditMolecule::MoveControls(POINT delta)
 {
-    const POINT delta{position.x - GetPosition().x, position.y - GetPosition().y};
-    UIFeatureMolecule::SetPosition(position);
     m_label.Move(delta);
     if (m_field)
         m_field->Move(delta);

@@ -5,6 +5,7 @@
 #include "featureservices.h"
 #include "notificationbundle.h"
 #include "setofsettingids.h"
+#include "transactionref.h"
 #include "uitooltips.h"
 
 #include <utility>
@@ -41,6 +42,16 @@ void UIFeatureMolecule::DisconnectFromDataModel()
 void UIFeatureMolecule::AddFurtherFeature(const FeatureIdWithContext& feature)
 {
     m_furtherFeatures.push_back(InFeatureList(feature));
+}
+
+bool UIFeatureMolecule::WriteAndReadBack(const std::function<bool()>& write)
+{
+    const auto transaction = GetSite().featureServices.OpenTransaction();
+    const bool taken = write();
+    if (taken)
+        LoadValue();
+    transaction->Close(true);
+    return taken;
 }
 
 void UIFeatureMolecule::Refresh()

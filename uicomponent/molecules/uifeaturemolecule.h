@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "uimolecule.h"
 
 /// A molecule that is bound to one feature: the protocol that all of them follow alike.
@@ -32,6 +34,9 @@ protected:
     /// A feature beside the bound one whose changes load value and state again. For
     /// InitializeFromDescription.
     void AddFurtherFeature(const FeatureIdWithContext& feature);
+    /// Writes in a transaction, and shows what is read back before it is committed.
+    /// @param write  false: the model has refused, and what is shown stays.
+    bool WriteAndReadBack(const std::function<bool()>& write);
     /// Reads the state of the feature and shows it.
     void LoadState();
     /// The state last shown, for descriptions.

@@ -72,10 +72,8 @@ void UIGroupBoxMolecule::SetPositionAndWidth(POINT position, long width)
                            width - kInset - kInsetRight, m_gaps);
 }
 
-void UIGroupBoxMolecule::SetPosition(POINT position)
+void UIGroupBoxMolecule::MoveControls(POINT delta)
 {
-    const POINT delta{position.x - GetPosition().x, position.y - GetPosition().y};
-    UIMolecule::SetPosition(position);
     if (m_frame)
         m_frame->move(delta, false);
     for (const auto& molecule : m_inner) {

@@ -18,7 +18,7 @@ public:
     ~UIGroupBoxMolecule() override;
 
     bool HandleMessage(const _UIWindowsMessage& message) override;
-    void SetPosition(POINT position) override;
+    void MoveControls(POINT delta) override;
     void SetPositionAndWidth(POINT position, long width) override;
     void CreateControls(UIPageWindow& page) override;
     void InitializeFromDescription() override;

@@ -70,6 +70,11 @@ void UIMolecule::SetPosition(POINT position)
     m_position = position;
     if (m_infoButton)
         m_infoButton->move(delta, false);
+    MoveControls(delta);
+}
+
+void UIMolecule::MoveControls(POINT)
+{
 }
 
 void UIMolecule::SetMinimumExtent(SIZE extent)

@@ -110,6 +110,8 @@ public:
     virtual void DumpControls() const;
     /// The molecules that stand inside this one (a group's), in Tab order.
     virtual void Inner(std::vector<UIMolecule*>& molecules);
+    /// Moves all controls by a difference in dialog units; the info button goes along by itself.
+    virtual void MoveControls(POINT delta);
     /// Shows or hides all controls.
     virtual void Show(bool shown);
     /// The window beside which the info button stands, centred on its height; null for none.
@@ -173,7 +175,6 @@ protected:
     /// What the info button says now; empty when there is none.
     const CXString& GetShownInfoText() const { return m_infoText; }
     /// Null before the controls are created.
-    UIPageLook* GetLook() const { return m_look; }
     bool IsShownOnPage() const { return m_shownOnPage; }
     bool IsBound() const;
     HWND GetPage() const { return m_page; }

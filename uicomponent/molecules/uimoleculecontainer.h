@@ -78,7 +78,6 @@ protected:
     FeatureServices& getFeatureServices() const { return m_site.featureServices; }
     const ListOfFeaturesRef& getFeatures() const { return m_site.features; }
     const ProductStringLoader& getStrings() const { return m_site.strings; }
-    UIToolTips* getToolTips() const { return m_toolTips.get(); }
 
 private:
     bool fitTexts() const;

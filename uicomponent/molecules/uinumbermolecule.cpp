@@ -90,10 +90,8 @@ void UINumberMolecule::CreateLabelAndSwitch(UIPageWindow& page)
                    GetContentWidth());
 }
 
-void UINumberMolecule::SetPosition(POINT position)
+void UINumberMolecule::MoveControls(POINT delta)
 {
-    const POINT delta{position.x - GetPosition().x, position.y - GetPosition().y};
-    UIFeatureMolecule::SetPosition(position);
     m_label.Move(delta);
     m_switch.Move(delta);
 }

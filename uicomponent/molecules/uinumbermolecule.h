@@ -20,7 +20,7 @@ public:
     ~UINumberMolecule() override;
 
     bool HandleMessage(const _UIWindowsMessage& message) override;
-    void SetPosition(POINT position) override;
+    void MoveControls(POINT delta) override;
     void InitializeFromDescription() override;
     void Show(bool shown) override;
     bool Focus() override;

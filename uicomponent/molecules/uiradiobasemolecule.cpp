@@ -233,10 +233,8 @@ bool UIRadioBaseMolecule::HandleMessage(const _UIWindowsMessage& message)
     return ProcessCommonMessage(message);
 }
 
-void UIRadioBaseMolecule::SetPosition(POINT position)
+void UIRadioBaseMolecule::MoveControls(POINT delta)
 {
-    const POINT delta{position.x - GetPosition().x, position.y - GetPosition().y};
-    UIOptionMolecule::SetPosition(position);
     m_label.Move(delta);
     for (Choice& choice : m_choices)
         if (choice.button)

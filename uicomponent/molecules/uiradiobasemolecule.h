@@ -25,7 +25,7 @@ public:
     ~UIRadioBaseMolecule() override;
 
     bool HandleMessage(const _UIWindowsMessage& message) override;
-    void SetPosition(POINT position) override;
+    void MoveControls(POINT delta) override;
     void CreateControls(UIPageWindow& page) override;
     void InitializeFromDescription() override;
     void DumpControls() const override;

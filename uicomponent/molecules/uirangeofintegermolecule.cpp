@@ -212,10 +212,8 @@ void UIRangeOfIntegerMolecule::CreateEnd(UIPageWindow& page, Which which, POINT 
                       {place.x + end.labelWidth, place.y}, width - end.labelWidth, true);
 }
 
-void UIRangeOfIntegerMolecule::SetPosition(POINT position)
+void UIRangeOfIntegerMolecule::MoveControls(POINT delta)
 {
-    const POINT delta{position.x - GetPosition().x, position.y - GetPosition().y};
-    UIFeatureMolecule::SetPosition(position);
     m_switch.Move(delta);
     for (End& end : m_ends) {
         if (end.labelControl)

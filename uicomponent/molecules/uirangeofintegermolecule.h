@@ -22,7 +22,7 @@ public:
     ~UIRangeOfIntegerMolecule() override;
 
     bool HandleMessage(const _UIWindowsMessage& message) override;
-    void SetPosition(POINT position) override;
+    void MoveControls(POINT delta) override;
     void CreateControls(UIPageWindow& page) override;
     bool Validate() override;
     void InitializeFromDescription() override;

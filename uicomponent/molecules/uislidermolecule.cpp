@@ -8,7 +8,6 @@
 #include "integerfeatureref.h"
 #include "numberranges.h"
 #include "productstringloader.h"
-#include "transactionref.h"
 #include "uidump.h"
 #include "uimoleculedump.h"
 #include "uiservices.h"
@@ -134,10 +133,9 @@ template <class Do> void UISliderMolecule::ForTexts(Do&& act) const
             act(*text);
 }
 
-void UISliderMolecule::SetPosition(POINT position)
+void UISliderMolecule::MoveControls(POINT delta)
 {
-    const POINT delta{position.x - GetPosition().x, position.y - GetPosition().y};
-    UINumberMolecule::SetPosition(position);
+    UINumberMolecule::MoveControls(delta);
     if (m_slider)
         m_slider->move(delta, false);
     ForTexts([&](UITextControl& text) { text.move(delta, false); });
@@ -191,14 +189,11 @@ void UISliderMolecule::Slid(int code)
         ShowNumberText(m_rules.text(position));
         return;
     }
-    if (position != m_value) {
-        const auto transaction = GetSite().featureServices.OpenTransaction();
-        GetSite().valueWriter.SetInteger(GetBoundFeature(), static_cast<int>(position));
-        LoadValue();
-        transaction->Close(true);
-        return;
-    }
-    ShowNumber(m_value); // a place between two allowed ones is no value
+    const auto write = [&] {
+        return GetSite().valueWriter.SetInteger(GetBoundFeature(), static_cast<int>(position));
+    };
+    if (position == m_value || !WriteAndReadBack(write))
+        ShowNumber(m_value); // a place between two allowed ones is no value
 }
 
 void UISliderMolecule::CollectWantedMessages(UIMessageMask& mask) const

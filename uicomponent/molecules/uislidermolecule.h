@@ -20,7 +20,7 @@ public:
     ~UISliderMolecule() override;
 
     bool HandleMessage(const _UIWindowsMessage& message) override;
-    void SetPosition(POINT position) override;
+    void MoveControls(POINT delta) override;
     void CreateControls(UIPageWindow& page) override;
     void CollectWantedMessages(UIMessageMask& mask) const override;
     void DumpControls() const override;

@@ -5,7 +5,6 @@
 #include "featureservices.h"
 #include "integerfeatureref.h"
 #include "numberranges.h"
-#include "transactionref.h"
 #include "uidump.h"
 #include "uimoleculedump.h"
 #include "uiservices.h"
@@ -22,7 +21,9 @@ constexpr long kSwitchGap = 3; // dialog units; between the check box and the fi
 UISpinMolecule::UISpinMolecule(const UIMoleculeData& data, const UIMoleculeSite& site)
     : UINumberMolecule(data, site, kSwitchGap)
 {
-    m_field.SetWriter([this](std::int64_t value) { return WriteAndReadBack(value); });
+    m_field.SetWriter([this](std::int64_t value) {
+        return WriteAndReadBack([=, this] { return WriteNumber(value); });
+    });
 }
 
 UISpinMolecule::~UISpinMolecule() = default;
@@ -58,10 +59,9 @@ void UISpinMolecule::CreateControls(UIPageWindow& page)
                    {GetPosition().x + beside, GetNumberTop()}, GetContentWidth() - beside, true);
 }
 
-void UISpinMolecule::SetPosition(POINT position)
+void UISpinMolecule::MoveControls(POINT delta)
 {
-    const POINT delta{position.x - GetPosition().x, position.y - GetPosition().y};
-    UINumberMolecule::SetPosition(position);
+    UINumberMolecule::MoveControls(delta);
     m_field.Move(delta);
 }
 
@@ -88,16 +88,6 @@ void UISpinMolecule::RenewRules()
 bool UISpinMolecule::WriteNumber(std::int64_t value)
 {
     return GetSite().valueWriter.SetInteger(GetBoundFeature(), static_cast<int>(value));
-}
-
-bool UISpinMolecule::WriteAndReadBack(std::int64_t value)
-{
-    const auto transaction = GetSite().featureServices.OpenTransaction();
-    const bool taken = WriteNumber(value);
-    if (taken)
-        LoadValue();
-    transaction->Close(true);
-    return taken;
 }
 
 void UISpinMolecule::ShowNumber(std::optional<std::int64_t> value)

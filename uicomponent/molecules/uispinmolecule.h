@@ -17,7 +17,7 @@ public:
     ~UISpinMolecule() override;
 
     bool HandleMessage(const _UIWindowsMessage& message) override;
-    void SetPosition(POINT position) override;
+    void MoveControls(POINT delta) override;
     void CreateControls(UIPageWindow& page) override;
     bool Validate() override;
     void CollectWantedMessages(UIMessageMask& mask) const override;
@@ -47,8 +47,6 @@ protected:
     void RenewRules();
 
 private:
-    bool WriteAndReadBack(std::int64_t value);
-
     UINumberField m_field;
     const UISpinControlData* m_spinData = nullptr;
 };

@@ -63,10 +63,8 @@ CXString UIStatusMolecule::GetInfoTitle(const FeatureIdWithContext&) const
     return m_status.reasonsTitle;
 }
 
-void UIStatusMolecule::SetPosition(POINT position)
+void UIStatusMolecule::MoveControls(POINT delta)
 {
-    const POINT delta{position.x - GetPosition().x, position.y - GetPosition().y};
-    UIMolecule::SetPosition(position);
     if (m_text)
         m_text->move(delta, false);
 }

@@ -29,7 +29,7 @@ public:
     void SetStatus(const Status& status);
 
     bool HandleMessage(const _UIWindowsMessage& message) override;
-    void SetPosition(POINT position) override;
+    void MoveControls(POINT delta) override;
     void CreateControls(UIPageWindow& page) override;
     void InitializeFromDescription() override;
     void DumpControls() const override;

@@ -52,10 +52,8 @@ void UITextMolecule::CreateControls(UIPageWindow& page)
         m_text->boldText(true);
 }
 
-void UITextMolecule::SetPosition(POINT position)
+void UITextMolecule::MoveControls(POINT delta)
 {
-    const POINT delta{position.x - GetPosition().x, position.y - GetPosition().y};
-    UIMolecule::SetPosition(position);
     if (m_text)
         m_text->move(delta, false);
 }

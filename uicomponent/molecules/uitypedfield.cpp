@@ -14,6 +14,8 @@
 namespace {
 
 constexpr UINT kTipMilliseconds = 8000;
+// A notification of the box to its own molecule, beyond those of the system.
+constexpr WORD kPlaceTip = 0x7002;
 
 // Controls of the page itself. What stands below these numbers (OK, Cancel and Help of a dialog)
 // judges the page as a whole.
@@ -116,6 +118,9 @@ bool UITypedField::HandleMessage(const _UIWindowsMessage& message)
     case EN_KILLFOCUS:
         Left(GetFocus());
         return true;
+    case kPlaceTip:
+        PlaceTip();
+        return true;
     default:
         return false;
     }
@@ -212,7 +217,17 @@ void UITypedField::ShowText(const CXString& text)
 
 void UITypedField::ShowTip(const CXString& text)
 {
-    if (!m_toolTips || !m_edit || !IsWindowVisible(GetHwnd()))
+    if (!m_toolTips || !m_edit)
+        return;
+    m_tipToShow = text;
+    PostMessageW(m_page, WM_COMMAND, MAKEWPARAM(m_edit->getId(), kPlaceTip),
+                 reinterpret_cast<LPARAM>(GetHwnd()));
+}
+
+void UITypedField::PlaceTip()
+{
+    const CXString text = std::exchange(m_tipToShow, CXString());
+    if (text.IsEmpty() || !IsWindowVisible(GetHwnd()))
         return;
     RECT place{};
     GetWindowRect(GetHwnd(), &place);
@@ -224,6 +239,7 @@ void UITypedField::ShowTip(const CXString& text)
 
 void UITypedField::HideTip()
 {
+    m_tipToShow = CXString();
     if (!std::exchange(m_tipShown, false))
         return;
     KillTimer(m_page, static_cast<UINT_PTR>(m_edit->getId()));

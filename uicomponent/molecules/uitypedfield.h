@@ -93,6 +93,8 @@ protected:
 
     /// Puts a text into the box, without taking it for typed.
     void ShowText(const CXString& text);
+    /// Shows the tip once the focus has come where it is going: a window that is still to be
+    /// activated would cover it.
     void ShowTip(const CXString& text);
     void HideTip();
     CXString String(unsigned number) const;
@@ -102,6 +104,7 @@ protected:
 private:
     void Typed();
     void Left(HWND next);
+    void PlaceTip();
     void BringPageToFront() const;
     CXString Consequence(unsigned number, const CXString& value) const;
 
@@ -114,5 +117,6 @@ private:
     CXString m_lastText; ///< seen or shown in the box
     bool m_pending = false;
     bool m_filling = false;
+    CXString m_tipToShow; ///< empty when none is about to be shown
     bool m_tipShown = false;
 };

@@ -9,7 +9,6 @@ namespace o7::shared {
 namespace s = o7::settings;
 
 // Paper and job
-inline constexpr UIMoleculeRecord kCopiesGroup[] = {s::kCopies, s::kCollate};
 inline constexpr UIMoleculeRecord kJobGroup[] = {s::kJobType, s::kCopies, s::kCollate};
 inline constexpr UIMoleculeRecord kSidesColourGroup[] = {s::kSides, s::kColourMode};
 inline constexpr UIMoleculeRecord kDataGroup[] = {s::kFonts, s::kImageCompression,
