@@ -10,8 +10,7 @@
 namespace o7 {
 namespace {
 
-constexpr DataModelIds::EventEnum kAcceptingEvents[] = {DataModelIds::kEventOk,
-                                                        DataModelIds::kEventApply};
+constexpr DataModelIds::EventEnum kStoringEvent = DataModelIds::kEventAccepted;
 
 /// Where the person's own choices about the pages are kept, a key for each printer.
 constexpr wchar_t kPersonalSettings[] = L"Software\\Orvik\\Printers";
@@ -53,9 +52,8 @@ DriverSheet::DriverSheet(std::unique_ptr<ProductSession> session, UIMode mode,
       m_manager(std::make_unique<UIManager>(m_session->productData(), nullptr, mode, 0,
                                             Workflow::Standard))
 {
-    for (const auto event : kAcceptingEvents) {
-        m_session->model().RegisterForEvent(*this, EventId(event), DataModelIds::kObserverEvent);
-    }
+    m_session->model().RegisterForEvent(*this, EventId(kStoringEvent),
+                                        DataModelIds::kObserverEvent);
     const Locked locked;
     m_next = std::exchange(g_first, this);
 }
@@ -63,9 +61,8 @@ DriverSheet::DriverSheet(std::unique_ptr<ProductSession> session, UIMode mode,
 DriverSheet::~DriverSheet()
 {
     leaveList();
-    for (const auto event : kAcceptingEvents) {
-        m_session->model().UnregisterForEvent(*this, EventId(event), DataModelIds::kObserverEvent);
-    }
+    m_session->model().UnregisterForEvent(*this, EventId(kStoringEvent),
+                                          DataModelIds::kObserverEvent);
 }
 
 void DriverSheet::leaveList() noexcept
@@ -142,7 +139,7 @@ void DriverSheet::fillHeader(PROPSHEETUI_INFO_HEADER& header) const
 
 void DriverSheet::ProcessNotification(const INotification&, unsigned int)
 {
-    // Registered for accepting events only.
+    // Registered for one event only: the settings were accepted, and nothing was stored yet.
     m_accepted(m_session->model());
     reportAccepted();
 }

@@ -17,12 +17,14 @@ class UIManager;
 namespace o7 {
 
 /// The pages of one product inside the print system's property sheet, from reason "init" to reason
-/// "destroy". Owns what stands behind the pages. Settings are accepted when the data model says so
-/// (OK and Apply), because the print system's own result does not tell OK from Cancel everywhere.
+/// "destroy". Owns what stands behind the pages. Settings are stored when the data model says that
+/// it accepted them (after OK and Apply), because the print system's own result does not tell OK
+/// from Cancel everywhere.
 class DriverSheet : private IObserver
 {
 public:
-    /// Called when the settings of the model were accepted; may throw.
+    /// Called when the model has accepted the settings, to store them. Throws when it cannot: then
+    /// the model takes the acceptance back, and the print system is told nothing.
     using Accepted = std::function<void(IDataModel&)>;
 
     /// @param session      with the settings that the pages shall show.

@@ -11,6 +11,7 @@
 #include "console.h"
 #include "datamodelids.h"
 #include "displayedexceptions.h"
+#include "eventnotification.h"
 #include "orvikutilities.h"
 #include "pluginentry.h"
 #include "productcatalogue.h"
@@ -201,7 +202,7 @@ void PreviewRun::openPlugin()
                  }).run(nullptr);
 }
 
-/// A dialog's OK commits its transaction but is no event of the model.
+/// A dialog's OK commits its transaction but is no event of the model, so it is told here.
 void PreviewRun::openDialog(UIManager& manager)
 {
     if (mode() != UIMode::CompactDialog) {
@@ -209,8 +210,8 @@ void PreviewRun::openDialog(UIManager& manager)
     }
     FeatureServices& model = m_session->featureServices();
     if (manager.runAsDialog(model, m_session->strings(), nullptr)) {
-        model.CommitAccepted();
-        m_accepted = true;
+        model.GetNotificationSink().SendNotification(
+            EventNotification(EventId(DataModelIds::kEventOk)));
     }
 }
 

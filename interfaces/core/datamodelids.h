@@ -61,9 +61,11 @@ enum tagValueEnum : std::int32_t
 enum EventEnum : std::int32_t
 {
     kEventButton = 21001, ///< A button whose action has no event of its own.
-    kEventOk = 21002,     ///< The whole UI was left with OK: current settings become the accepted.
+    /// The whole UI was left with OK. Observers are told first, so that what they write is accepted
+    /// with the rest; nothing is stored yet. Then the current settings become the accepted ones.
+    kEventOk = 21002,
     kEventCancelQueried = 21003, ///< Cancel was asked for: the accepted settings come back.
-    kEventApply = 21004,         ///< Apply: current settings become the accepted, the UI stays.
+    kEventApply = 21004,         ///< Like OK, but the UI stays.
     kEventTab21005 = 21005,
     kEventButtonAction14 = 21007,
     kEventButtonAction15 = 21008, ///< Remove the item that is named by the feature.
@@ -88,6 +90,12 @@ enum EventEnum : std::int32_t
     kEventButtonAction45Or46 = 21106,
     kEventSheetSubclassed = 21115, ///< The sheet window is known and subclassed.
     kEventFirstPaintDone = 21123,
+
+    /// The settings were accepted, after OK or Apply and with the parameter of that event: the time
+    /// to store them. Told by the model alone (sent to its sink it does nothing), and only when
+    /// they were accepted: not when feature 545 rejects them, not when an observer of OK or Apply
+    /// throws. Whoever cannot store throws, and the former settings are the accepted ones again.
+    kEventAccepted = 21901,
 };
 
 /// Which side of a feature a FeatureChangeNotification tells of.

@@ -69,9 +69,10 @@ public:
     /// designates nothing when there is none.
     virtual ListOfFeaturesRef GetListOfFeaturesByGroup(DataModelIds::tagFeatureEnum group) = 0;
 
-    /// Where events are sent; belongs to the model. Events 21002 and 21004 make the current
-    /// settings the accepted ones, unless feature 545 then has value 8691 (rejected); 21003 brings
-    /// the accepted ones back.
+    /// Where events are sent; belongs to the model. 21002 and 21004 are told to their observers,
+    /// then make the current settings the accepted ones, unless feature 545 has value 8691
+    /// (rejected) by then or an observer threw, which the sender learns; then observers are told of
+    /// 21901, when to store. 21003 brings the accepted settings back.
     virtual INotificationSink& GetNotificationSink() = 0;
 
     /// Whether a setting differs from the accepted ones (UI-private features do not count).

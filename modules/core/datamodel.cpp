@@ -294,28 +294,53 @@ void DataModel::SendNotification(const INotification& notification)
 
 void DataModel::HandleEvent(const EventNotification& event)
 {
-    // Observers come first: what they write when told of OK is accepted with the rest. If one of
-    // them throws, the settings are accepted all the same, and then the caller learns of it.
+    switch (event.GetEventId().GetEventEnum()) {
+    case DataModelIds::kEventOk:
+    case DataModelIds::kEventApply:
+        Accept(event);
+        break;
+    case DataModelIds::kEventCancelQueried:
+        Cancel(event);
+        break;
+    case DataModelIds::kEventAccepted: // not for others to say
+        break;
+    default:
+        m_notifier.DeliverEvent(event);
+        break;
+    }
+}
+
+void DataModel::Accept(const EventNotification& event)
+{
+    // Observers come first: what they write is accepted with the rest. One that throws has not done
+    // its share, so nothing is accepted.
+    m_notifier.DeliverEvent(event);
+    const auto result = GetOptionFeatureRef(DataModelIds::kFeatureApplyResult).GetValue();
+    if (result.GetValueEnum() == DataModelIds::kValueApplyRejected)
+        return;
+    SettingsSnapshot before = std::exchange(m_accepted, CaptureSettings(*m_root));
+    try {
+        m_notifier.DeliverEvent(
+            EventNotification(EventId(DataModelIds::kEventAccepted), event.GetParam()));
+    } catch (...) {
+        // What could not be stored must not count as kept.
+        m_accepted = std::move(before);
+        throw;
+    }
+}
+
+void DataModel::Cancel(const EventNotification& event)
+{
+    // Nobody can keep a person from leaving without the changes.
     std::exception_ptr failure;
     try {
         m_notifier.DeliverEvent(event);
     } catch (...) {
         failure = std::current_exception();
     }
-    ActOn(event.GetEventId().GetEventEnum());
+    RevertToAccepted();
     if (failure)
         std::rethrow_exception(failure);
-}
-
-void DataModel::ActOn(DataModelIds::EventEnum event)
-{
-    if (event == DataModelIds::kEventCancelQueried) {
-        RevertToAccepted();
-    } else if (event == DataModelIds::kEventOk || event == DataModelIds::kEventApply) {
-        const auto result = GetOptionFeatureRef(DataModelIds::kFeatureApplyResult).GetValue();
-        if (result.GetValueEnum() != DataModelIds::kValueApplyRejected)
-            CommitAccepted();
-    }
 }
 
 } // namespace o7

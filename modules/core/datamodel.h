@@ -96,7 +96,8 @@ private:
     void Deliver(std::vector<Change> changes);
     void DeliverPending();
     void HandleEvent(const EventNotification& event);
-    void ActOn(DataModelIds::EventEnum event);
+    void Accept(const EventNotification& event);
+    void Cancel(const EventNotification& event);
     SettingsSnapshot DefaultsOf() const { return ResettableDefaults(*m_root); }
     /// Makes a complete set of settings the current and the accepted one.
     void Adopt(const SettingsSnapshot& settings);

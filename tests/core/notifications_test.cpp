@@ -6,6 +6,7 @@
 
 #include <iterator>
 #include <stdexcept>
+#include <utility>
 
 namespace {
 
@@ -269,6 +270,114 @@ TEST_F(Notifications, EventsReachThoseWhoAskedAndWhatTheyWriteOnOkIsAccepted)
     product.model->UnregisterForEvent(recorder, ok, DataModelIds::kObserverEvent);
     sink.SendNotification(EventNotification(ok));
     EXPECT_EQ(recorder.bundles.size(), 1U);
+}
+
+/// A product whose settings can be rejected at OK, and what is told of its acceptance.
+class Acceptance : public testing::Test
+{
+protected:
+    static constexpr auto kCopies = test::kCopies;
+
+    Acceptance()
+    {
+        for (const auto& [observer, event] : Registrations())
+            product.model->RegisterForEvent(*observer, EventId(event),
+                                            DataModelIds::kObserverEvent);
+        storing.reaction = [&] { stored.push_back(Stored()); };
+    }
+    ~Acceptance() override
+    {
+        for (const auto& [observer, event] : Registrations())
+            product.model->UnregisterForEvent(*observer, EventId(event),
+                                              DataModelIds::kObserverEvent);
+    }
+
+    std::vector<std::pair<Recorder*, DataModelIds::EventEnum>> Registrations()
+    {
+        return {{&told, DataModelIds::kEventOk},
+                {&told, DataModelIds::kEventApply},
+                {&storing, DataModelIds::kEventAccepted}};
+    }
+    void Send(DataModelIds::EventEnum event)
+    {
+        product.model->GetNotificationSink().SendNotification(EventNotification(EventId(event)));
+    }
+    bool SetCopies(int copies) { return product.All().GetIntegerFeature(kCopies).SetValue(copies); }
+    /// The copies that somebody would read who gets what can be stored now.
+    int Stored() const
+    {
+        std::vector<std::uint8_t> block;
+        EXPECT_TRUE(product.model->ExportSettings(block));
+        const Product reader(test::Whole{kText});
+        EXPECT_TRUE(reader.model->ImportSettings(block.data(), block.size()));
+        return reader.Number(kCopies);
+    }
+
+    static constexpr std::string_view kText = R"({
+ "formatVersion": 1,
+ "product": { "id": "test", "modelName": "Test 1", "uniqueId": "TST1",
+              "controllerFamily": 8430, "languages": ["en"] },
+ "features": [
+  { "enum": 103, "name": "odrv-copies", "kind": "integer", "default": 1,
+    "range": { "min": 1, "max": 99 } },
+  { "enum": 545, "name": "odrv-warn", "kind": "option", "default": "no",
+    "options": [ { "enum": 8690, "name": "no" }, { "enum": 8691, "name": "warn" } ] } ],
+ "constraints": [] })";
+
+    Product product{test::Whole{kText}};
+    Recorder told;
+    Recorder storing;
+    std::vector<int> stored;
+};
+
+TEST_F(Acceptance, StoringComesAfterwardsAndGetsWhatObserversWrote)
+{
+    for (const auto event : {DataModelIds::kEventOk, DataModelIds::kEventApply}) {
+        SCOPED_TRACE(event);
+        stored.clear();
+        SetCopies(5);
+        const int before = Stored();
+        told.reaction = [&] {
+            EXPECT_TRUE(stored.empty());
+            EXPECT_EQ(Stored(), before) << "not accepted yet";
+            SetCopies(event == DataModelIds::kEventOk ? 6 : 7);
+        };
+        Send(event);
+        EXPECT_EQ(stored, std::vector<int>{event == DataModelIds::kEventOk ? 6 : 7});
+        EXPECT_FALSE(product.model->IsModified());
+    }
+}
+
+TEST_F(Acceptance, NothingIsStoredUnlessAccepted)
+{
+    const auto fail = [] { throw std::runtime_error("observer"); };
+    const auto reject = [&] {
+        product.Set(DataModelIds::kFeatureApplyResult, DataModelIds::kValueApplyRejected);
+    };
+    for (const auto event : {DataModelIds::kEventOk, DataModelIds::kEventApply}) {
+        SCOPED_TRACE(event);
+        SetCopies(5);
+        told.reaction = reject;
+        Send(event);
+        told.reaction = fail;
+        product.Set(DataModelIds::kFeatureApplyResult,
+                    static_cast<DataModelIds::tagValueEnum>(8690));
+        EXPECT_THROW(Send(event), std::runtime_error);
+        EXPECT_TRUE(storing.bundles.empty());
+
+        // Who cannot store says so, and the person can still leave without the changes.
+        told.reaction = nullptr;
+        storing.reaction = fail;
+        EXPECT_THROW(Send(event), std::runtime_error);
+        EXPECT_TRUE(product.model->IsModified());
+        storing.bundles.clear();
+        Send(DataModelIds::kEventCancelQueried);
+        EXPECT_EQ(product.Number(kCopies), 1);
+    }
+    SetCopies(5);
+    Send(DataModelIds::kEventAccepted);
+    EXPECT_TRUE(storing.bundles.empty()) << "for the model alone to tell";
+    EXPECT_TRUE(product.model->IsModified());
 }
 
 } // namespace
