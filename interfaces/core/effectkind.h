@@ -12,6 +12,7 @@ enum class EffectKind : std::uint8_t
     Hide,
     Info,
     Conflict,
+    Force, ///< The feature has another value than its own: shown, read and printed, not changeable.
 };
 
 } // namespace o7

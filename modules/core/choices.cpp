@@ -55,10 +55,10 @@ const std::vector<FeatureValue>& Choices(FeatureNode& feature)
 bool IsPresent(const FeatureNode& feature, const FeatureValue& value)
 {
     if (value.index() == 0)
-        return !feature.StoredSpecified();
-    return feature.StoredSpecified() &&
-           (feature.IsCoded() ? feature.StoredCode() == CodeOf(feature.Description(), value)
-                              : feature.StoredValue() == value);
+        return !feature.PresentSpecified();
+    return feature.PresentSpecified() &&
+           (feature.IsCoded() ? feature.PresentCode() == CodeOf(feature.Description(), value)
+                              : feature.PresentValue() == value);
 }
 
 bool IsFree(const FeatureNode& feature, const FeatureValue& value)

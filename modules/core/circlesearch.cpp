@@ -19,7 +19,7 @@ std::vector<Influence> InfluencesOf(const ListDescription& list)
 {
     std::vector<Influence> influences;
     for (const ConstraintDescription& constraint : list.constraints) {
-        if (constraint.kind == EffectKind::Clear)
+        if (constraint.kind == EffectKind::Clear || constraint.kind == EffectKind::Force)
             influences.push_back({constraint.id, &constraint.when, constraint.target});
     }
     for (const FeatureDescription& feature : list.features) {

@@ -13,7 +13,7 @@ constexpr int kMostTrials = 400;
 /// Whether the resolver may change the feature: a setting of the job.
 bool MayGiveWay(const FeatureNode& feature)
 {
-    return IsPersons(feature) && !feature.Description().flags.device;
+    return IsPersons(feature) && !feature.Description().flags.device && !feature.IsForced();
 }
 
 /// How far apart two values stand in the list of options.

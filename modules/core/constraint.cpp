@@ -12,6 +12,19 @@ bool Constraint::Cause::Holds() const
     return actual == nullptr ? holdsWithoutValue || test.MatchesNothing() : test.Matches(*actual);
 }
 
+FeatureValue Constraint::Forced() const
+{
+    if (forced.side == ForcedValue::Side::None)
+        return forced.value;
+    const FeatureNode& medium = *when.back().feature;
+    const auto* size = medium.Description().SizeOf(medium.EffectiveValue());
+    if (size == nullptr)
+        return {};
+    const Dimension& side = forced.side == ForcedValue::Side::Width ? size->first : size->second;
+    return Dimension::FromCount(side.GetCount(),
+                                target->Description().units.value_or(side.GetUnits()));
+}
+
 bool ComesBefore(const Constraint* a, const Constraint* b)
 {
     const auto key = [](const Constraint* c) {

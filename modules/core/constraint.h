@@ -27,6 +27,7 @@ struct alignas(64) Constraint
 
     static constexpr int kNoRow = -1;
     static constexpr std::uint32_t kNotBroken = ~0U;
+    static constexpr std::size_t kNoSource = ~std::size_t{0};
 
     FeatureNode* target = nullptr;
     std::uint64_t affectedCodes = 0; ///< Of a target that has codes.
@@ -46,18 +47,23 @@ struct alignas(64) Constraint
     std::string id;
     std::vector<Cause> when;
     ValueTest affected;
+    ForcedValue forced;
     std::shared_ptr<FeatureNode> targetOwner; ///< Keeps the target.
 
     bool Affects(const FeatureValue& value) const { return affected.Matches(value); }
     /// Whether an affected value cannot be chosen while the constraint is active.
-    bool Blocks() const
-    {
-        return kind == EffectKind::Disable || kind == EffectKind::Clear || kind == EffectKind::Hide;
-    }
+    bool Blocks() const { return kind != EffectKind::Info && kind != EffectKind::Conflict; }
     /// Two of the person's choices clash.
     bool IsBroken() const
     {
         return whole ? active && kind == EffectKind::Conflict : hit && kind != EffectKind::Info;
+    }
+    /// Of a forcing one while it is active: what it makes of its target.
+    FeatureValue Forced() const;
+    /// The condition whose feature's value, not only whether it holds, decides what is forced.
+    std::size_t SourceOfForced() const
+    {
+        return forced.side == ForcedValue::Side::None ? kNoSource : when.size() - 1;
     }
 };
 

@@ -64,6 +64,7 @@ void BindConstraints(FeatureNode& feature)
         constraint->target = &FindOutwards(feature, declared.target);
         constraint->affected = declared.affected;
         constraint->kind = declared.kind;
+        constraint->forced = declared.forced;
         constraint->reason = declared.reason;
         constraint->id = declared.id;
         FinishConstraint(*constraint);

@@ -13,7 +13,8 @@ namespace {
 /// Whether the constraint changes what others read of its target.
 bool Influences(const Constraint& constraint)
 {
-    return constraint.defaultRow != Constraint::kNoRow || constraint.kind == EffectKind::Clear;
+    return constraint.defaultRow != Constraint::kNoRow || constraint.kind == EffectKind::Clear ||
+           constraint.kind == EffectKind::Force;
 }
 
 /// Whether a change of `from` can reach `to` along constraints that influence.
@@ -126,8 +127,7 @@ void ConstraintEngine::Activate(Constraint& constraint, bool active)
     constraint.active = active;
     FeatureNode& target = *constraint.target;
     if (constraint.defaultRow != Constraint::kNoRow) {
-        target.isUnsettled = true;
-        Postpone(target);
+        Unsettle(target);
         return;
     }
     if (active)
@@ -137,6 +137,8 @@ void ConstraintEngine::Activate(Constraint& constraint, bool active)
     if (constraint.kind == EffectKind::Clear) {
         target.activeClears += active ? 1U : ~0U;
         Postpone(target);
+    } else if (constraint.kind == EffectKind::Force) {
+        Unsettle(target);
     }
 }
 
@@ -162,9 +164,9 @@ void ConstraintEngine::RemoveEffect(Constraint& constraint)
 
 void ConstraintEngine::UpdateHit(const FeatureNode& feature, FeatureNode::ActiveEffect& effect)
 {
-    const bool hit = !effect.whole && feature.StoredSpecified() &&
-                     (feature.IsCoded() ? IsInMask(effect.codes, feature.StoredCode())
-                                        : effect.constraint->Affects(feature.StoredValue()));
+    const bool hit = !effect.whole && feature.PresentSpecified() &&
+                     (feature.IsCoded() ? IsInMask(effect.codes, feature.PresentCode())
+                                        : effect.constraint->Affects(feature.PresentValue()));
     if (hit == effect.hit)
         return;
     effect.hit = hit;
@@ -190,16 +192,14 @@ void ConstraintEngine::UpdateBroken(Constraint& constraint)
 
 void ConstraintEngine::ValueChanged(FeatureNode& feature)
 {
-    StoredChanged(feature);
-    if (feature.FollowsDefault()) {
-        feature.isUnsettled = true;
-        Postpone(feature);
-    }
+    PresentChanged(feature);
+    if (feature.FollowsDefault())
+        Unsettle(feature);
     AskReaders(feature);
     Settle();
 }
 
-void ConstraintEngine::StoredChanged(FeatureNode& feature)
+void ConstraintEngine::PresentChanged(FeatureNode& feature)
 {
     // A limited feature says something else when its value enters or leaves the limits.
     for (auto& effect : feature.activeEffects) {
@@ -219,8 +219,11 @@ void ConstraintEngine::AskReaders(FeatureNode& feature)
     for (auto& reader : feature.readers) {
         const bool holds = feature.IsCoded() ? IsInMask(reader.holdsFor, code)
                                              : reader.constraint->when[reader.condition].Holds();
-        // The reason of an active constraint may name the value of its cause.
-        if (holds == reader.holds && (!holds || reader.condition != 0))
+        // The reason of an active constraint may name the value of its cause, and what is forced
+        // may depend on one.
+        if (holds == reader.holds &&
+            (!holds ||
+             (reader.condition != 0 && reader.condition != reader.constraint->SourceOfForced())))
             continue;
         reader.changes = holds != reader.holds;
         m_answers.push_back(&reader);
@@ -241,6 +244,8 @@ void ConstraintEngine::Answer(FeatureNode::Reader& reader)
     if (!reader.changes) {
         if (constraint.active && constraint.defaultRow == Constraint::kNoRow)
             TellState(constraint);
+        if (constraint.active && reader.condition == constraint.SourceOfForced())
+            Unsettle(*constraint.target);
         return;
     }
     reader.holds = !reader.holds;
@@ -260,6 +265,12 @@ void ConstraintEngine::Postpone(FeatureNode& feature)
     }
 }
 
+void ConstraintEngine::Unsettle(FeatureNode& feature)
+{
+    feature.isUnsettled = true;
+    Postpone(feature);
+}
+
 void ConstraintEngine::Settle()
 {
     while (!m_pending.empty()) {
@@ -270,8 +281,10 @@ void ConstraintEngine::Settle()
         *next = m_pending.back();
         m_pending.pop_back();
         feature.isPending = false;
-        if (std::exchange(feature.isUnsettled, false))
+        if (std::exchange(feature.isUnsettled, false)) {
             FollowDefault(feature);
+            FollowForce(feature);
+        }
         AskReaders(feature);
     }
     TellStates();
@@ -288,7 +301,23 @@ void ConstraintEngine::FollowDefault(FeatureNode& feature)
         return;
     feature.Store(value, specified, true);
     m_changes.Note(feature, kValueBit);
-    StoredChanged(feature);
+    PresentChanged(feature);
+}
+
+void ConstraintEngine::FollowForce(FeatureNode& feature)
+{
+    // Of several the first in the package: rules stand from the device to the job.
+    const auto governing = std::find_if(
+        feature.effects.begin(), feature.effects.end(), [](const Constraint* constraint) {
+            return constraint->active && constraint->kind == EffectKind::Force;
+        });
+    FeatureValue forced =
+        governing != feature.effects.end() ? (*governing)->Forced() : FeatureValue();
+    if (forced == feature.ForcedValue())
+        return;
+    feature.Force(std::move(forced));
+    m_changes.Note(feature, kValueBit);
+    PresentChanged(feature);
 }
 
 void ConstraintEngine::TellStates()

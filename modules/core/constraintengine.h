@@ -12,9 +12,9 @@ namespace o7 {
 
 /// Keeps the answer of every constraint up to date. Each condition hangs on the feature it reads;
 /// when that changes, only conditions whose answer changes touch their constraint. Features that
-/// were cleared, came back or follow a default are looked at again in the order of their rank, so
-/// that each is looked at once: the result depends on the values alone, and it always ends, because
-/// ranks rise along the way.
+/// were cleared or forced, came back or follow a default are looked at again in the order of their
+/// rank, so that each is looked at once: the result depends on the values alone, and it always
+/// ends, because ranks rise along the way.
 class ConstraintEngine
 {
 public:
@@ -50,12 +50,14 @@ private:
     void RemoveEffect(Constraint& constraint);
     void UpdateHit(const FeatureNode& feature, FeatureNode::ActiveEffect& effect);
     void UpdateBroken(Constraint& constraint);
-    void StoredChanged(FeatureNode& feature);
+    void PresentChanged(FeatureNode& feature);
     void AskReaders(FeatureNode& feature);
     void Answer(FeatureNode::Reader& reader);
     void Postpone(FeatureNode& feature);
     void Settle();
     void FollowDefault(FeatureNode& feature);
+    void FollowForce(FeatureNode& feature);
+    void Unsettle(FeatureNode& feature);
     void TellStates();
     void TellState(const Constraint& constraint);
     void TellMembers(const FeatureNode& list);

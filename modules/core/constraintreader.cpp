@@ -7,12 +7,13 @@
 namespace o7 {
 namespace {
 
-constexpr std::array<Named<EffectKind>, 5> kEffects = {{
+constexpr std::array<Named<EffectKind>, 6> kEffects = {{
     {"disable", EffectKind::Disable},
     {"clear", EffectKind::Clear},
     {"hide", EffectKind::Hide},
     {"info", EffectKind::Info},
     {"conflict", EffectKind::Conflict},
+    {"force", EffectKind::Force},
 }};
 
 } // namespace
@@ -80,6 +81,56 @@ void ConstraintReader::ReadEffect(const LocatedJson& json, const Scope& scope,
         return;
     constraint.target = target->number;
     constraint.affected = m_values.ReadTest(json, *target, "options");
+    ReadForced(json, scope, *target, constraint);
+}
+
+void ConstraintReader::ReadForced(const LocatedJson& json, const Scope& scope,
+                                  const FeatureDescription& target,
+                                  ConstraintDescription& constraint)
+{
+    const bool forces = constraint.kind == EffectKind::Force;
+    const auto* value = json.Find("to");
+    const auto* width = json.Find("toWidthOf");
+    const auto* height = json.Find("toHeightOf");
+    const int told = (value != nullptr) + (width != nullptr) + (height != nullptr);
+    if (told != (forces ? 1 : 0) || (forces && !constraint.affected.values.empty())) {
+        Fail(json, "expected one of \"to\", \"toWidthOf\" and \"toHeightOf\" with kind "
+                   "\"force\", without values that are affected; and none of them elsewhere");
+        return;
+    }
+    if (!forces)
+        return;
+    if (value != nullptr) {
+        const std::size_t faults = m_faults.size();
+        constraint.forced.value = m_values.ReadInitial(*value, target);
+        if (constraint.forced.value.index() == 0 && m_faults.size() == faults)
+            Fail(*value, NameOf(target) + ": expected a value to force");
+        return;
+    }
+    const auto* medium = FindFeature(width != nullptr ? *width : *height, scope);
+    if (medium == nullptr)
+        return;
+    constraint.forced.side =
+        width != nullptr ? ForcedValue::Side::Width : ForcedValue::Side::Height;
+    if (target.kind != FeatureKind::Dimension)
+        Fail(json, NameOf(target) + ": expected a dimension to take a side of a medium");
+    AddMedia(json, *medium, constraint);
+}
+
+void ConstraintReader::AddMedia(const LocatedJson& json, const FeatureDescription& medium,
+                                ConstraintDescription& constraint)
+{
+    // It holds only for media that have a size.
+    ConditionDescription sized;
+    sized.feature = medium.number;
+    for (const OptionDescription& option : medium.options) {
+        if (option.size)
+            sized.test.values.emplace_back(
+                ValueId(option.number, medium.Id(), option.name, CXString()));
+    }
+    if (sized.test.values.empty())
+        Fail(json, NameOf(medium) + " has no option with a size");
+    constraint.when.push_back(std::move(sized));
 }
 
 std::vector<ConstraintDescription> ConstraintReader::ReadNever(const LocatedJson& json,

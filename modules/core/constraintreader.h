@@ -34,6 +34,10 @@ private:
     std::vector<ConditionDescription> ReadConditions(const LocatedJson& json, const Scope& scope);
     ConditionDescription ReadCondition(const LocatedJson& json, const Scope& scope);
     void ReadEffect(const LocatedJson& json, const Scope& scope, ConstraintDescription& constraint);
+    void ReadForced(const LocatedJson& json, const Scope& scope, const FeatureDescription& target,
+                    ConstraintDescription& constraint);
+    void AddMedia(const LocatedJson& json, const FeatureDescription& medium,
+                  ConstraintDescription& constraint);
     std::vector<ConstraintDescription> ReadNever(const LocatedJson& json, const Scope& scope,
                                                  const ConstraintDescription& common);
     std::set<FeatureEnum> ReadLimit(const LocatedJson& json, const Scope& scope);

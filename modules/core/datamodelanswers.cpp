@@ -74,7 +74,7 @@ std::vector<StateReason> DataModel::GetStateReasons(const FeatureIdWithContext& 
     const FeatureNode* node = FindNode(feature);
     for (const FeatureNode* limited = node; limited != nullptr; limited = limited->Parent()) {
         for (const Constraint* constraint : ActiveInOrder(*limited)) {
-            const auto* present = std::get_if<ValueId>(&limited->StoredValue());
+            const auto* present = std::get_if<ValueId>(&limited->PresentValue());
             if (ofOption) {
                 if (!constraint->whole && constraint->Affects(option))
                     add(*constraint, constraint->kind, &option);
@@ -113,7 +113,7 @@ ChangeProposal DataModel::ProposeChange(const FeatureIdWithContext& feature,
         ConflictResolver resolver(m_log, m_engine);
         for (const Constraint* broken : resolver.Try(*node, wanted)) {
             // Said now, while everything has the values that it names.
-            const auto* chosen = std::get_if<ValueId>(&broken->target->StoredValue());
+            const auto* chosen = std::get_if<ValueId>(&broken->target->PresentValue());
             proposal.conflicts.push_back({broken->target->GetId(), CausesOf(*broken),
                                           m_interpreter.Reason(*broken, chosen)});
         }

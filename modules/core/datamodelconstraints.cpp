@@ -59,7 +59,9 @@ bool DataModel::AddConstraint(const std::vector<Condition>& when, const Conditio
     // An empty set has no values to forbid; excluding none of them forbids all.
     const bool nothing =
         mustNotHold.GetValues().IsEmpty() && mustNotHold.GetComparison() != DataModelIds::kNotEqual;
-    if (target == nullptr || !IsLeaf(*target) || constraint->when.empty() || nothing)
+    // A value to force cannot be told here.
+    if (target == nullptr || !IsLeaf(*target) || constraint->when.empty() || nothing ||
+        options.effect == EffectKind::Force)
         return false;
     constraint->target = target;
     constraint->targetOwner = target->shared_from_this();

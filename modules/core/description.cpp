@@ -44,6 +44,16 @@ bool FeatureDescription::AcceptsInteger(int value) const
            });
 }
 
+const std::pair<Dimension, Dimension>* FeatureDescription::SizeOf(const FeatureValue* medium) const
+{
+    const auto* chosen = medium != nullptr ? std::get_if<ValueId>(medium) : nullptr;
+    for (const OptionDescription& option : options) {
+        if (chosen != nullptr && option.number == chosen->GetValueEnum())
+            return option.size ? &*option.size : nullptr;
+    }
+    return nullptr;
+}
+
 bool FeatureDescription::Accepts(FeatureValue& value) const
 {
     switch (kind) {

@@ -36,6 +36,23 @@ struct ConditionDescription
     bool holdsWithoutValue = false; ///< Also where the test itself does not.
 };
 
+/// What a governing setting makes of another one: a value, or a side of the medium that the last
+/// condition of the constraint asks about.
+struct ForcedValue
+{
+    enum class Side
+    {
+        None,
+        Width,
+        Height,
+    };
+
+    FeatureValue value;
+    Side side = Side::None;
+
+    friend bool operator==(const ForcedValue&, const ForcedValue&) = default;
+};
+
 struct ConstraintDescription
 {
     std::string id;
@@ -43,6 +60,7 @@ struct ConstraintDescription
     FeatureEnum target = DataModelIds::kNoFeature;
     ValueTest affected; ///< The values affected; no values in it: the whole feature.
     EffectKind kind = EffectKind::Disable;
+    ForcedValue forced; ///< Of EffectKind::Force.
     unsigned reason = 0;
     unsigned line = 0;
 };
@@ -82,6 +100,9 @@ struct FeatureDescription
     /// Whether the feature is a setting of the job that can be kept outside the process.
     bool IsKept() const { return !flags.readOnly && !flags.stateOnly; }
     FeatureId Id() const { return FeatureId(number, name); }
+
+    /// The size of a medium among the options; null for one without, and for no value.
+    const std::pair<Dimension, Dimension>* SizeOf(const FeatureValue* medium) const;
 
     /// Whether the value fits the feature, apart from constraints. A value of an option feature is
     /// completed: number and name are both filled in (the display string is not).

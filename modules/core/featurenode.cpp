@@ -75,7 +75,7 @@ FeatureKind FeatureNode::GetKind() const
 
 bool FeatureNode::IsSpecified() const
 {
-    return IsAlive() && m_specified;
+    return IsAlive() && PresentSpecified();
 }
 
 bool FeatureNode::SetIsSpecified(bool specified)
@@ -88,11 +88,10 @@ bool FeatureNode::GetValue(FeatureValue& value) const
     if (!IsAlive() || IsList(m_description->kind))
         return false;
     const bool option = m_description->kind == FeatureKind::Option;
-    if (!m_specified && !option)
+    if (!PresentSpecified() && !option)
         return false;
-    value = option ? m_model->Interpreter().Complete(
-                         *this, std::get<ValueId>(m_specified ? m_value : UnspecifiedOption()))
-                   : m_value;
+    const FeatureValue& present = PresentSpecified() ? PresentValue() : UnspecifiedOption();
+    value = option ? m_model->Interpreter().Complete(*this, std::get<ValueId>(present)) : present;
     return value.index() != 0;
 }
 
@@ -202,6 +201,13 @@ void FeatureNode::Store(FeatureValue value, bool specified, bool followsDefault)
         m_code = static_cast<std::uint8_t>(CodeOf(*m_description, m_value));
 }
 
+void FeatureNode::Force(FeatureValue value)
+{
+    m_forced = std::move(value);
+    if (m_coded)
+        m_forcedCode = static_cast<std::uint8_t>(CodeOf(*m_description, m_forced));
+}
+
 const FeatureValue& FeatureNode::CurrentDefault() const
 {
     for (const Constraint* row : defaultRows) {
@@ -217,7 +223,7 @@ bool FeatureNode::IsCleared() const
         activeClears != 0 &&
         std::any_of(activeEffects.begin(), activeEffects.end(), [&](const auto& effect) {
             return effect.constraint->kind == EffectKind::Clear &&
-                   (effect.whole || effect.constraint->Affects(m_value));
+                   (effect.whole || effect.constraint->Affects(PresentValue()));
         });
     return here || (m_parent != nullptr && m_parent->IsCleared());
 }
@@ -226,8 +232,8 @@ const FeatureValue* FeatureNode::EffectiveValue() const
 {
     if (IsCleared())
         return nullptr;
-    if (m_specified)
-        return &m_value;
+    if (PresentSpecified())
+        return &PresentValue();
     return m_description->kind == FeatureKind::Option ? &UnspecifiedOption() : nullptr;
 }
 
@@ -235,8 +241,8 @@ unsigned FeatureNode::EffectiveCode() const
 {
     if (IsCleared())
         return kCodeNothing;
-    if (m_specified)
-        return m_code;
+    if (PresentSpecified())
+        return PresentCode();
     return m_description->kind == FeatureKind::Option ? CodeOf(*m_description, UnspecifiedOption())
                                                       : kCodeNothing;
 }

@@ -58,6 +58,14 @@ public:
     /// Whether it has the default, whatever that becomes; of use only where defaults adapt.
     bool FollowsDefault() const { return m_followsDefault; }
     void Store(FeatureValue value, bool specified, bool followsDefault);
+    /// What a governing setting makes of it meanwhile; monostate: nothing does.
+    const FeatureValue& ForcedValue() const { return m_forced; }
+    bool IsForced() const { return m_forced.index() != 0; }
+    void Force(FeatureValue value);
+    /// What holds: what is forced, else what is stored.
+    const FeatureValue& PresentValue() const { return IsForced() ? m_forced : m_value; }
+    bool PresentSpecified() const { return m_specified || IsForced(); }
+    unsigned PresentCode() const { return IsForced() ? m_forcedCode : m_code; }
     /// The value is given away; Store() has to follow.
     FeatureValue Release() { return std::move(m_value); }
     /// What the default is now; monostate: unspecified.
@@ -73,9 +81,8 @@ public:
     /// Cleared as a whole, with a list around it, or its present value.
     bool IsCleared() const;
 
-    /// Whether the values have codes, and the codes of what is stored and of what is read.
+    /// Whether the values have codes, and the code of what is read.
     bool IsCoded() const { return m_coded; }
-    unsigned StoredCode() const { return m_code; }
     unsigned EffectiveCode() const;
 
     /// Active constraints disable, clear or hide the feature, or a list around it, as a whole.
@@ -123,7 +130,7 @@ public:
     unsigned activeClears = 0;                            ///< How many of the active effects clear.
     unsigned rank = 0;        ///< Above those whose clearing or value can change this one's.
     bool isPending = false;   ///< Its readers have to look again.
-    bool isUnsettled = false; ///< Its default may have changed.
+    bool isUnsettled = false; ///< Its default, or what is forced, may have changed.
 
     // One line of memory for what a change of another feature touches here.
     alignas(64) std::vector<ActiveEffect> activeEffects; ///< In no order.
@@ -136,6 +143,7 @@ private:
     bool m_followsDefault = false;
     bool m_coded = false;
     std::uint8_t m_code = 0;
+    std::uint8_t m_forcedCode = 0;
 
     bool IsAlive() const { return m_model != nullptr && m_attached; }
 
@@ -145,6 +153,7 @@ private:
     FeatureIdWithContext m_id;
     std::vector<std::shared_ptr<FeatureNode>> m_children;
     FeatureValue m_value;
+    FeatureValue m_forced;
     bool m_attached = true;
     int m_nextItem = 0;
 };

@@ -222,6 +222,19 @@ void ListAnalysis::FindCircles()
     }
 }
 
+/// Whether the question about the target of a rule can hold while the rule is at work.
+bool HoldsAfter(const Rule& rule, const RuleSpace::Question& question)
+{
+    if (rule.constraint->kind != EffectKind::Force ||
+        rule.constraint->forced.side != ForcedValue::Side::None)
+        return true;
+    for (std::size_t i = 0; i < question.holds.size(); ++i) {
+        if (question.holds[i] && !rule.affected[i])
+            return true;
+    }
+    return false;
+}
+
 bool ListAnalysis::FollowCircle(const Rule& rule, std::vector<const Rule*>& path)
 {
     // A cleared feature no longer fulfils conditions, so only these can hold each other.
@@ -244,7 +257,7 @@ bool ListAnalysis::FollowCircle(const Rule& rule, std::vector<const Rule*>& path
     path.push_back(&rule);
     for (const Rule& next : m_space.Rules()) {
         if (!next.when.empty() && next.when.front().feature == rule.target &&
-            FollowCircle(next, path))
+            HoldsAfter(rule, next.when.front()) && FollowCircle(next, path))
             return true;
     }
     path.pop_back();
@@ -309,7 +322,7 @@ void FindConflictsOfDefaults(const LoadedPackage& package, std::vector<PackageFi
         const FeatureDescription& target = broken->target->Description();
         findings.push_back({PackageFindingKind::DefaultConflict, target.line,
                             broken->id + " is broken by the defaults: " + target.name.ToUtf8() +
-                                " starts as " + PlainText(broken->target->StoredValue())});
+                                " starts as " + PlainText(broken->target->PresentValue())});
     }
 }
 

@@ -78,7 +78,8 @@ ListDescription PackageReader::ReadList(const LocatedJson& json, Scope& scope)
     if (!circle.empty()) {
         const auto* constraints = json.Find("constraints");
         Fail(constraints != nullptr ? *constraints : json,
-             "the constraints clear each other, or defaults adapt, in a circle: " + circle);
+             "the constraints clear or force each other, or defaults adapt, in a circle: " +
+                 circle);
     }
     scope.pop_back();
     return list;

@@ -3,6 +3,7 @@
 #include "representatives.h"
 
 #include <algorithm>
+#include <deque>
 #include <set>
 #include <stdexcept>
 
@@ -34,9 +35,8 @@ bool Meets(const RuleSpace::ValueSet& a, const RuleSpace::ValueSet& b)
 
 bool RuleSpace::Rule::Blocks() const
 {
-    return constraint != nullptr &&
-           (constraint->kind == EffectKind::Disable || constraint->kind == EffectKind::Clear ||
-            constraint->kind == EffectKind::Hide);
+    return constraint != nullptr && constraint->kind != EffectKind::Info &&
+           constraint->kind != EffectKind::Conflict;
 }
 
 RuleSpace::RuleSpace(const ListDescription& list, const std::vector<const ListDescription*>& outer)
@@ -77,6 +77,7 @@ const FeatureDescription& RuleSpace::Find(FeatureEnum number) const
 void RuleSpace::MakeDomains(const std::vector<Source>& sources)
 {
     std::map<const FeatureDescription*, std::vector<const ValueTest*>> tests;
+    std::deque<ValueTest> forced;
     std::set<const FeatureDescription*> cleared;
     for (const Source& source : sources) {
         auto& own = tests[source.target];
@@ -84,6 +85,9 @@ void RuleSpace::MakeDomains(const std::vector<Source>& sources)
             own.push_back(&source.constraint->affected);
             if (source.constraint->kind == EffectKind::Clear)
                 cleared.insert(source.target);
+            if (source.constraint->forced.value.index() != 0)
+                own.push_back(&forced.emplace_back(
+                    ValueTest{DataModelIds::kEqual, {source.constraint->forced.value}}));
         }
         for (const ConditionDescription& condition : *source.when)
             tests[&Find(condition.feature)].push_back(&condition.test);
@@ -116,7 +120,10 @@ RuleSpace::Rule RuleSpace::MakeRule(const Source& source) const
     }
     if (source.constraint != nullptr) {
         for (const FeatureValue& value : m_domains[rule.target].values)
-            rule.affected.push_back(rule.IsWhole() || source.constraint->affected.Matches(value));
+            rule.affected.push_back(source.constraint->kind == EffectKind::Force
+                                        ? value != source.constraint->forced.value
+                                        : rule.IsWhole() ||
+                                              source.constraint->affected.Matches(value));
     }
     return rule;
 }

@@ -36,7 +36,8 @@ public:
         /// None for a row of adapting defaults.
         const ConstraintDescription* constraint = nullptr;
         std::size_t target = 0;
-        ValueSet affected; ///< Of a constraint on the whole feature all.
+        /// Of a constraint on the whole feature all; of a forcing one all but what it forces.
+        ValueSet affected;
 
         bool IsWhole() const { return constraint->affected.values.empty(); }
         bool Blocks() const;

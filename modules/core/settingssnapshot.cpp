@@ -67,6 +67,15 @@ void Overlay(const FeatureDescription& description, const IFeatureNode& source,
         }
         return;
     }
+    // Of a feature of ours its own value, not what another setting makes of it meanwhile.
+    if (const auto* node = dynamic_cast<const FeatureNode*>(&source)) {
+        FeatureValue own = node->StoredValue();
+        if (!node->StoredSpecified() && !description.flags.required)
+            settings.Choose({});
+        else if (node->StoredSpecified() && description.Accepts(own))
+            settings.Choose(std::move(own));
+        return;
+    }
     FeatureValue value;
     if (!source.IsSpecified() && !description.flags.required)
         settings.Choose({});

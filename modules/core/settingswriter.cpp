@@ -64,8 +64,11 @@ bool SettingsWriter::SetValue(FeatureNode& feature, const FeatureValue& value)
     if (option != nullptr && option->GetValueEnum() == DataModelIds::kValueUnspecified)
         return SetSpecified(feature, false);
     FeatureValue complete = value;
-    if (!IsWritable(feature) || !feature.Description().Accepts(complete) ||
-        (!feature.HasStored(complete, true) && feature.IsBlocked(complete)))
+    if (!IsWritable(feature) || !feature.Description().Accepts(complete))
+        return false;
+    if (feature.IsForced())
+        return complete == feature.PresentValue();
+    if ((!feature.HasStored(complete, true) && feature.IsBlocked(complete)))
         return false;
     Write(feature, std::move(complete), true, false);
     return true;
@@ -73,8 +76,8 @@ bool SettingsWriter::SetValue(FeatureNode& feature, const FeatureValue& value)
 
 bool SettingsWriter::SetSpecified(FeatureNode& feature, bool specified)
 {
-    if (!IsWritable(feature))
-        return specified == feature.StoredSpecified();
+    if (!IsWritable(feature) || feature.IsForced())
+        return specified == feature.PresentSpecified();
     const FeatureValue unspecified = ValueId(DataModelIds::kValueUnspecified);
     if (!specified && feature.StoredSpecified() &&
         (feature.Description().flags.required || feature.IsBlocked(unspecified)))

@@ -36,6 +36,7 @@ void AddEffect(EffectKind kind, const CXString& reason, InterpretedState& state)
 {
     switch (kind) {
     case EffectKind::Disable:
+    case EffectKind::Force:
         state.Disable(reason);
         state.AddInfo(reason);
         break;
@@ -133,8 +134,8 @@ CXString StateInterpreter::Reason(const Constraint& constraint, const ValueId* o
     if (reason.View().find(L'{') != std::wstring_view::npos)
         reason = FillIn(
             reason, {FeatureName(cause), FeatureName(*constraint.target),
-                     ValueText(cause, cause.StoredSpecified()
-                                          ? cause.StoredValue()
+                     ValueText(cause, cause.PresentSpecified()
+                                          ? cause.PresentValue()
                                           : FeatureValue(ValueId(DataModelIds::kValueUnspecified))),
                      option != nullptr ? Complete(*constraint.target, *option).GetDisplayString()
                                        : AffectedText(constraint)});
@@ -150,13 +151,13 @@ FeatureValue StateInterpreter::Shown(const FeatureNode& feature, const FeatureVa
 
 FeatureValue StateInterpreter::ShownPresent(const FeatureNode& feature)
 {
-    return feature.StoredSpecified() ? Shown(feature, feature.StoredValue()) : FeatureValue();
+    return feature.PresentSpecified() ? Shown(feature, feature.PresentValue()) : FeatureValue();
 }
 
 void StateInterpreter::AddValueEffect(const FeatureNode& feature, const Constraint& constraint,
                                       InterpretedState& state)
 {
-    const FeatureValue& value = feature.StoredValue();
+    const FeatureValue& value = feature.PresentValue();
     const bool hit = constraint.hit;
     const auto* option = std::get_if<ValueId>(&value);
     if (hit && constraint.kind == EffectKind::Info) {
@@ -270,11 +271,11 @@ std::unique_ptr<CapabilitiesNode> StateInterpreter::OptionCapabilities(const Fea
         if (option.size)
             size = MediaSize{option.size->first, option.size->second};
         options.emplace_back(value, OptionState(active, value), size);
-        currentListed = currentListed || FeatureValue(value) == feature.StoredValue();
+        currentListed = currentListed || FeatureValue(value) == feature.PresentValue();
     }
     // The user's own value has to be in the list that shows it as chosen.
-    const auto* current = std::get_if<ValueId>(&feature.StoredValue());
-    if (!currentListed && description.userDefinedValues && feature.StoredSpecified() &&
+    const auto* current = std::get_if<ValueId>(&feature.PresentValue());
+    if (!currentListed && description.userDefinedValues && feature.PresentSpecified() &&
         current != nullptr) {
         const ValueId value = Complete(feature, *current);
         options.emplace_back(value, OptionState(active, value));

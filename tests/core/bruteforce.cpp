@@ -3,6 +3,7 @@
 #include "testproduct.h"
 
 #include <algorithm>
+#include <map>
 #include <set>
 #include <stdexcept>
 
@@ -73,11 +74,12 @@ std::string InOrder(const std::set<char>& letters)
 /// What a constraint on a whole item makes of it.
 void AddLetters(const std::string& kind, std::set<char>& letters)
 {
-    const std::string all = kind == "disable" ? "di"
-                            : kind == "clear" ? "dci"
-                            : kind == "hide"  ? "h"
-                            : kind == "info"  ? "i"
-                                              : "x";
+    const std::string all = kind.empty()                           ? ""
+                            : kind == "disable" || kind == "force" ? "di"
+                            : kind == "clear"                      ? "dci"
+                            : kind == "hide"                       ? "h"
+                            : kind == "info"                       ? "i"
+                                                                   : "x";
     letters.insert(all.begin(), all.end());
 }
 
@@ -90,11 +92,12 @@ BruteForce::BruteForce(const json& package, const ListOfFeaturesRef& all)
 
 std::vector<std::string> BruteForce::Differences()
 {
-    m_top = std::make_unique<Feature>(Feature{&m_package, m_all.GetNode(), nullptr, {}, false, {}});
+    m_top =
+        std::make_unique<Feature>(Feature{&m_package, m_all.GetNode(), nullptr, {}, {}, false, {}});
     m_limits.clear();
     Read(*m_top);
     CollectLimits(*m_top);
-    SettleClearing();
+    Settle();
     std::vector<std::string> differences;
     for (const auto& member : m_top->members)
         Compare(*member, differences);
@@ -109,14 +112,14 @@ void BruteForce::Read(Feature& list)
     for (const json& member : *found) {
         const auto number = static_cast<DataModelIds::tagFeatureEnum>(member["enum"].get<int>());
         auto feature = std::make_unique<Feature>(
-            Feature{&member, list.node->FindFeature(FeatureId(number)), &list, {}, false, {}});
+            Feature{&member, list.node->FindFeature(FeatureId(number)), &list, {}, {}, false, {}});
         ReadValue(*feature);
         if (member["kind"] == "list")
             Read(*feature);
         for (std::size_t i = 0; member["kind"] == "values" && i < feature->node->GetNumChildren();
              ++i) {
             feature->members.push_back(std::make_unique<Feature>(Feature{
-                &member["item"], feature->node->GetChild(i), feature.get(), {}, false, {}}));
+                &member["item"], feature->node->GetChild(i), feature.get(), {}, {}, false, {}}));
             ReadValue(*feature->members.back());
             Read(*feature->members.back());
         }
@@ -158,6 +161,7 @@ void BruteForce::AddLimits(Feature& list, const json& constraint)
     if (!constraint.contains("never")) {
         Limit limit{{},
                     nullptr,
+                    &constraint["effect"],
                     constraint["effect"]["kind"],
                     &list,
                     &Find(list, constraint["effect"]["feature"])};
@@ -180,7 +184,7 @@ void BruteForce::AddLimits(Feature& list, const json& constraint)
                 [&](const json& reference) { return &Find(list, reference) == &target; });
         if (!limited)
             continue;
-        Limit limit{{}, &together[i], "disable", &list, &target};
+        Limit limit{{}, &together[i], nullptr, "disable", &list, &target};
         for (std::size_t other = 0; other < together.size(); ++other) {
             if (other != i)
                 limit.when.push_back(&together[other]);
@@ -238,10 +242,16 @@ bool BruteForce::Holds(const Feature& list, const json& condition) const
     bool cleared = false;
     for (const Feature* around = &feature; around != nullptr; around = around->list)
         cleared = cleared || around->cleared;
-    if (cleared || feature.value.is_null())
+    const json& value = Now(feature);
+    if (cleared || value.is_null())
         return condition.value("orWithoutValue", false) || condition.contains("isNot") ||
                condition.value("compare", "") == "notEqual";
-    return Asks(feature, condition, feature.value);
+    return Asks(feature, condition, value);
+}
+
+const json& BruteForce::Now(const Feature& feature)
+{
+    return feature.forced.is_null() ? feature.value : feature.forced;
 }
 
 bool BruteForce::AllHold(const Limit& limit) const
@@ -250,24 +260,62 @@ bool BruteForce::AllHold(const Limit& limit) const
                        [&](const json* condition) { return Holds(*limit.list, *condition); });
 }
 
-void BruteForce::SettleClearing()
+void BruteForce::Settle()
 {
-    for (bool again = true; again;) {
-        std::set<Feature*> cleared;
-        for (const Limit& limit : m_limits) {
-            const bool hit =
-                limit.test == nullptr || (!limit.target->value.is_null() &&
-                                          Asks(*limit.target, *limit.test, limit.target->value));
-            if (limit.kind == "clear" && hit && AllHold(limit))
-                cleared.insert(limit.target);
-        }
-        again = false;
-        for (const Limit& limit : m_limits) {
-            const bool now = cleared.count(limit.target) != 0;
-            again = again || now != limit.target->cleared;
-            limit.target->cleared = now;
-        }
+    // Again and again until nothing moves any more; packages in which it never ends do not load.
+    while (SettleClearing() || SettleForcing()) {
     }
+}
+
+bool BruteForce::SettleClearing()
+{
+    std::set<Feature*> cleared;
+    for (const Limit& limit : m_limits) {
+        const json& value = Now(*limit.target);
+        const bool hit =
+            limit.test == nullptr || (!value.is_null() && Asks(*limit.target, *limit.test, value));
+        if (limit.kind == "clear" && hit && AllHold(limit))
+            cleared.insert(limit.target);
+    }
+    bool moved = false;
+    for (const Limit& limit : m_limits) {
+        const bool now = cleared.count(limit.target) != 0;
+        moved = moved || now != limit.target->cleared;
+        limit.target->cleared = now;
+    }
+    return moved;
+}
+
+json BruteForce::ForcedBy(const Limit& limit) const
+{
+    const json& effect = *limit.effect;
+    const json& target = *limit.target->json;
+    if (effect.contains("to"))
+        return Plain(target, effect["to"]);
+    const bool width = effect.contains("toWidthOf");
+    const Feature& medium = Find(*limit.list, effect[width ? "toWidthOf" : "toHeightOf"]);
+    const json& chosen = Now(medium);
+    for (const json& option : (*medium.json)["options"]) {
+        if (!medium.cleared && option["name"] == chosen && option.contains("size"))
+            return Count(target, option["size"][width ? 0 : 1].get<double>());
+    }
+    return {};
+}
+
+bool BruteForce::SettleForcing()
+{
+    std::map<Feature*, json> forced;
+    for (const Limit& limit : m_limits) {
+        json& value = forced[limit.target];
+        if (limit.kind == "force" && value.is_null() && AllHold(limit))
+            value = ForcedBy(limit);
+    }
+    bool moved = false;
+    for (const auto& [feature, value] : forced) {
+        moved = moved || feature->forced != value;
+        feature->forced = value;
+    }
+    return moved;
 }
 
 std::string BruteForce::StateOf(const Feature& feature) const
@@ -280,10 +328,11 @@ std::string BruteForce::StateOf(const Feature& feature) const
         if ((!around && limit.target != &feature) || !AllHold(limit))
             continue;
         if (limit.test == nullptr) {
-            AddLetters(limit.kind, letters);
+            const bool idle = limit.kind == "force" && ForcedBy(limit).is_null();
+            AddLetters(idle ? "" : limit.kind, letters);
             continue;
         }
-        const bool hit = feature.node->IsSpecified() && Asks(feature, *limit.test, feature.value);
+        const bool hit = feature.node->IsSpecified() && Asks(feature, *limit.test, Now(feature));
         const bool forbids = limit.kind == "disable" || limit.kind == "clear";
         if (hit)
             letters.insert(limit.kind == "info" ? 'i' : 'x');
@@ -329,6 +378,8 @@ void BruteForce::Compare(const Feature& feature, std::vector<std::string>& diffe
                                   models + "\"");
     };
     const auto capabilities = feature.node->GetCapabilities();
+    if (!feature.forced.is_null())
+        differ(" value", feature.forced.dump(), feature.value.dump());
     differ("", StateOf(feature), Letters(capabilities->GetInterpretedState()));
     if (const auto* options = dynamic_cast<const OptionCapability*>(capabilities.get())) {
         for (std::size_t i = 0; i < options->GetNumberOfValues(); ++i) {

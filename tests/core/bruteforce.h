@@ -27,8 +27,9 @@ private:
     {
         const nlohmann::json* json;
         IFeatureNode::Ptr node;
-        Feature* list;        ///< Around it; null for the top.
-        nlohmann::json value; ///< null: none.
+        Feature* list;         ///< Around it; null for the top.
+        nlohmann::json value;  ///< As the model says; null: none.
+        nlohmann::json forced; ///< As worked out here; null: nothing forces it.
         bool cleared = false;
         std::vector<std::unique_ptr<Feature>> members;
     };
@@ -36,7 +37,8 @@ private:
     struct Limit
     {
         std::vector<const nlohmann::json*> when;
-        const nlohmann::json* test; ///< Of the values affected; null: all of the feature.
+        const nlohmann::json* test;   ///< Of the values affected; null: all of the feature.
+        const nlohmann::json* effect; ///< null: of an invalid combination.
         std::string kind;
         Feature* list;
         Feature* target;
@@ -46,10 +48,14 @@ private:
     void ReadValue(Feature& feature);
     void CollectLimits(Feature& list);
     void AddLimits(Feature& list, const nlohmann::json& constraint);
-    void SettleClearing();
+    void Settle();
+    bool SettleClearing();
+    bool SettleForcing();
+    nlohmann::json ForcedBy(const Limit& limit) const;
     bool Holds(const Feature& list, const nlohmann::json& condition) const;
     bool AllHold(const Limit& limit) const;
     static Feature& Find(const Feature& list, const nlohmann::json& reference);
+    static const nlohmann::json& Now(const Feature& feature);
     static bool Asks(const Feature& feature, const nlohmann::json& test,
                      const nlohmann::json& value);
     void Compare(const Feature& feature, std::vector<std::string>& differences) const;

@@ -3,6 +3,7 @@
 
 #include "featurechangenotification.h"
 #include "notificationbundle.h"
+#include "packageanalysis.h"
 
 #include <gtest/gtest.h>
 
@@ -153,6 +154,13 @@ TEST_P(Products, BruteForceAgreesAfterTenThousandRandomChanges)
             ASSERT_EQ(bruteForce.Differences(), std::vector<std::string>()) << "after " << change;
         }
     }
+}
+
+TEST_P(Products, HoldNoRuleThatCannotBeMeant)
+{
+    for (const o7::PackageFinding& finding : o7::AnalyseProductPackage(*package))
+        ADD_FAILURE() << finding.line << ": " << o7::NameOf(finding.kind) << ": "
+                      << finding.message;
 }
 
 /// Collects the features whose state it is told of.
