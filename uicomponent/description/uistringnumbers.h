@@ -414,6 +414,29 @@
 #define O7STR_S_CONFLICTS_TITLE 34205 // "Settings in Conflict"
 #define O7STR_S_HIDDEN_TITLE 34206 // "Not Shown on This Page"
 
+// Ways out of a conflict: {0} is the name of a setting, {1} its new value (34300 to 34399)
+#define O7STR_W_TURN_ON 34300 // "Turn {0} on"
+#define O7STR_W_TURN_OFF 34301 // "Turn {0} off"
+#define O7STR_W_SET 34302 // "Set {0} to {1}"
+#define O7STR_W_CHANGE 34303 // "Change {0}"
+#define O7STR_W_LEAVE_EMPTY 34304 // "Leave {0} empty"
+#define O7STR_W_IS_ON 34305 // "{0} is turned on"
+#define O7STR_W_IS_OFF 34306 // "{0} is turned off"
+#define O7STR_W_BECOMES 34307 // "{0} becomes {1}"
+#define O7STR_W_CHANGES 34308 // "{0} changes"
+#define O7STR_W_IS_EMPTY 34309 // "{0} becomes empty"
+#define O7STR_W_NOT_APPLIED 34310 // "{0} no longer applies"
+#define O7STR_W_SEPARATOR 34311 // "; "
+#define O7STR_W_WHAT_HELPS 34320 // "What can be done:"
+#define O7STR_W_CARRY_OUT 34321 // "&Carry Out"
+#define O7STR_W_CLOSE 34322 // "C&lose"
+#define O7STR_W_TOGETHER 34330 // "Some settings do not go together:"
+#define O7STR_W_WOULD_SETTLE 34331 // "This settles it:"
+#define O7STR_W_STAYS 34332 // "Still in conflict then: %s"
+#define O7STR_W_SETTLE 34333 // "&Settle"
+#define O7STR_W_GO_BACK 34334 // "&Go Back"
+#define O7STR_W_KEEP 34335 // "&Keep"
+
 // Messages of the sheet when it is applied
 #define O7STR_M_VALUE_MISSING 34250 // "“%s” has no value yet. Enter or choose one..."
 // clang-format on

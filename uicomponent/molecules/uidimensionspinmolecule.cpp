@@ -10,6 +10,7 @@
 #include "uispincontroldata.h"
 #include "uistringnumbers.h"
 #include "uivaluewriter.h"
+#include "unitsinuse.h"
 
 namespace {
 
@@ -30,14 +31,8 @@ void UIDimensionSpinMolecule::InitializeFromDescription()
 
 bool UIDimensionSpinMolecule::IsMetric() const
 {
-    ValueId units;
-    GetSite()
-        .featureServices.GetOptionFeatureRef(FeatureIdWithContext{FeatureId(o7::kMeasurementUnits)})
-        .GetValue(units, FeatureRef::kDoNotAssertIfUnsupported);
-    const auto value = units.GetValueEnum();
-    if (value == o7::kUnitsMillimetres || value == o7::kUnitsInches)
-        return value == o7::kUnitsMillimetres;
-    return GetSite().services.getRegionalSettings().metric;
+    return o7::showsMillimetres(GetSite().featureServices,
+                                GetSite().services.getRegionalSettings());
 }
 
 std::optional<Dimension::UnitsEnum> UIDimensionSpinMolecule::StoredUnits() const
