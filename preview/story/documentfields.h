@@ -10,7 +10,7 @@ namespace o7::story {
 
 /// The public fields of a DEVMODE under the names and in the words of stories:
 ///
-///     paper        A4, Letter and so on, or the system's number
+///     paper        A4, Letter and so on, custom, or the system's number
 ///     width length millimetres, such as 210 or 215.9
 ///     orientation  portrait, landscape
 ///     duplex       none, long, short
@@ -23,7 +23,10 @@ namespace o7::story {
 /// The names, in the order above.
 std::span<const std::string_view> documentFieldNames();
 
-/// What a field says, in the words above; "not set" when its bit is not set.
+/// What a field says whose bit is not set.
+inline constexpr std::string_view kNotSet = "not set";
+
+/// What a field says, in the words above, or that it is not set.
 std::string documentFieldText(const PublicFields& fields, std::string_view name);
 
 /// Sets a field and its bit, as a program does.

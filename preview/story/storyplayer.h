@@ -11,7 +11,8 @@
 namespace o7::story {
 
 /// Makes the stage for a session; `store` is the folder in which the printer and the user of this
-/// story keep what they keep, the same for all its sessions. Throws what says why it cannot.
+/// story keep what they keep (StoryStore: device settings, printing defaults, the user's document),
+/// the same for all its sessions, so that a restart finds them. Throws what says why it cannot.
 using StageFactory = std::function<std::unique_ptr<StoryStage>(const Session& session,
                                                                const std::filesystem::path& store)>;
 
@@ -40,8 +41,9 @@ public:
 private:
     struct Run;
 
-    void step(Run& run, const Step& step);
-    void act(StoryStage& stage, const Step& step) const;
+    bool take(Run& run, const Step& step);
+    bool guarded(const Story& story, const Step& step, const std::function<void()>& action);
+    static void act(StoryStage& stage, const Step& step);
     void report(const Story& story, const Step& step, const std::string& fault);
 
     StageFactory m_stages;
