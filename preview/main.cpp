@@ -13,6 +13,7 @@
 #include "packagecheckrun.h"
 #include "previewoptions.h"
 #include "previewrun.h"
+#include "storyfiles.h"
 
 namespace {
 
@@ -68,6 +69,9 @@ o7::ExitCode runPreview(const std::vector<std::wstring>& words)
     const ComApartment apartment;
     if (parsed.options.gallery) {
         return o7::runGallery(parsed.options);
+    }
+    if (!parsed.options.stories.empty()) {
+        return o7::runStoryFiles(parsed.options, programFolder());
     }
     return o7::PreviewRun(parsed.options, programFolder()).run();
 }

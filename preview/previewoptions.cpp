@@ -37,6 +37,8 @@ constexpr std::wstring_view kUsage =
     L"  --family N       run with another device family (feature 285), keep nothing\n"
     L"  --check PACKAGE  open nothing; say all that is wrong with a product package: its\n"
     L"                   folder, its package.json, or the name of a product\n"
+    L"  --story FILE...  play stories, each line as a person would, and say what came out\n"
+    L"                   otherwise than told\n"
     L"  --gallery        show every control in every state; takes --shots and --snapshot\n"
     L"  --mirrored       the gallery right to left\n"
     L"  --classic        the gallery without themes\n"
@@ -148,7 +150,22 @@ std::wstring_view conflictIn(const PreviewOptions& options)
         return L"Options --mirrored and --classic go with --gallery.";
     if (options.longer && options.entry == PreviewEntry::Cpsui) // the plug-in brings the texts
         return L"Option --longer does not go with --entry cpsui.";
+    if (!options.stories.empty() &&
+        (options.unattended() || options.gallery || !options.checkedPackage.empty() ||
+         options.family || !options.product.empty() || options.mode))
+        return L"Option --story goes with --products only: a story says what it opens.";
     return {};
+}
+
+/// The files that follow the option, up to the next option.
+/// @return the position of the last one, or of the option itself when there is none.
+std::size_t takeStories(PreviewOptions& options, std::span<const std::wstring> words,
+                        std::size_t at)
+{
+    while (at + 1 < words.size() && !words[at + 1].starts_with(L"--")) {
+        options.stories.push_back(words[++at]);
+    }
+    return at;
 }
 
 } // namespace
@@ -161,6 +178,15 @@ ParsedOptions parsePreviewOptions(std::span<const std::wstring> words)
         if (const auto* const flag = std::ranges::find(kFlags, word, &FlagRow::name);
             flag != kFlags.end()) {
             result.options.*flag->field = true;
+            continue;
+        }
+        if (word == L"--story") {
+            const std::size_t last = takeStories(result.options, words, i);
+            if (last == i) {
+                result.error = L"Option --story needs a value.";
+                return result;
+            }
+            i = last;
             continue;
         }
         const std::size_t equals = word.find(L'=');

@@ -4,6 +4,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace o7 {
 
@@ -29,10 +30,11 @@ struct PreviewOptions
     std::wstring userDirectory;  ///< empty: the person's application directory
     std::optional<int> family;   ///< another value of feature 285
     std::wstring checkedPackage; ///< not empty: check this package instead of opening anything
-    bool gallery = false;        ///< the controls themselves instead of a product
-    bool longer = false;         ///< every text a third longer
-    bool mirrored = false;       ///< the gallery right to left
-    bool classic = false;        ///< the gallery without themes
+    std::vector<std::wstring> stories; ///< not empty: play these instead of opening anything
+    bool gallery = false;              ///< the controls themselves instead of a product
+    bool longer = false;               ///< every text a third longer
+    bool mirrored = false;             ///< the gallery right to left
+    bool classic = false;              ///< the gallery without themes
     bool help = false;
 
     /// The mode to open: as given, else the one that the entry shows something in.

@@ -36,6 +36,9 @@ const RefusedRow kRefused[] = {
     {"longer texts of the plug-in", {L"--longer", L"--entry", L"cpsui"}, L"not go with"},
     {"mirrored without gallery", {L"--mirrored"}, L"go with --gallery"},
     {"classic without gallery", {L"--classic", L"--mode=2"}, L"go with --gallery"},
+    {"story without a file", {L"--story", L"--products", L"d"}, L"--story needs a value"},
+    {"story and product", {L"--product", L"p", L"--story", L"a"}, L"goes with --products only"},
+    {"story and pictures", {L"--story", L"a", L"b", L"--shots=d"}, L"goes with --products only"},
     {"flag with a value", {L"--gallery=1"}, L"Unknown option \"--gallery\""},
     {"family beyond any number", {L"--family", L"84308430843084"}, L"a number such as 8430"},
 };
@@ -46,6 +49,15 @@ TEST(PreviewOptions, BadWordsGetASentenceThatNamesThem)
         const o7::ParsedOptions parsed = o7::parsePreviewOptions(row.words);
         EXPECT_NE(parsed.error.find(row.expectedInError), std::wstring::npos) << row.name;
     }
+}
+
+TEST(PreviewOptions, StoriesAreAllFilesUpToTheNextOption)
+{
+    const Words words{L"--story", L"a.story", L"-b.story", L"--products", L"d"};
+    const auto [options, error] = o7::parsePreviewOptions(words);
+    EXPECT_TRUE(error.empty());
+    EXPECT_EQ(options.stories, (Words{L"a.story", L"-b.story"}));
+    EXPECT_EQ(options.productsDirectory, L"d");
 }
 
 TEST(PreviewOptions, BothSpellingsAreTheSame)
