@@ -1,35 +1,8 @@
 #include "input.h"
 
-#include <vector>
+#include "personinput.h"
 
 namespace o7::test {
-namespace {
-
-INPUT keyInput(WORD key, DWORD flags)
-{
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = key;
-    input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
-    input.ki.dwFlags = flags;
-    return input;
-}
-
-INPUT buttonInput(DWORD flags)
-{
-    INPUT input{};
-    input.type = INPUT_MOUSE;
-    input.mi.dwFlags = flags;
-    return input;
-}
-
-void send(std::vector<INPUT> inputs)
-{
-    SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
-    pumpUntilQuiet();
-}
-
-} // namespace
 
 void pumpMessages()
 {
@@ -72,35 +45,26 @@ void pumpUntilQuiet(int milliseconds)
 
 void sendClick(int x, int y)
 {
-    SetCursorPos(x, y);
-    send({buttonInput(MOUSEEVENTF_LEFTDOWN), buttonInput(MOUSEEVENTF_LEFTUP)});
+    input::click({x, y});
+    pumpUntilQuiet();
 }
 
 void sendClick(HWND window)
 {
-    RECT area{};
-    GetWindowRect(window, &area);
-    sendClick((area.left + area.right) / 2, (area.top + area.bottom) / 2);
+    input::click(input::middleOf(window));
+    pumpUntilQuiet();
 }
 
 void sendMouse(DWORD event, LONG right, int wheel)
 {
-    INPUT input = buttonInput(event);
-    input.mi.dx = right;
-    input.mi.mouseData = static_cast<DWORD>(wheel);
-    send({input});
+    input::mouse(event, right, wheel);
+    pumpUntilQuiet();
 }
 
 void sendKey(WORD virtualKey, std::initializer_list<WORD> held)
 {
-    std::vector<INPUT> inputs;
-    for (const WORD key : held)
-        inputs.push_back(keyInput(key, 0));
-    inputs.push_back(keyInput(virtualKey, 0));
-    inputs.push_back(keyInput(virtualKey, KEYEVENTF_KEYUP));
-    for (const WORD key : held)
-        inputs.push_back(keyInput(key, KEYEVENTF_KEYUP));
-    send(std::move(inputs));
+    input::key(virtualKey, {held.begin(), held.size()});
+    pumpUntilQuiet();
 }
 
 } // namespace o7::test
