@@ -2,15 +2,11 @@
 
 #include <windows.h>
 
-#include <prsht.h>
-
-#include <compstui.h>
-
 #include <filesystem>
 #include <functional>
 #include <string>
-#include <vector>
 
+#include "pluginsheet.h"
 #include "printerstandin.h"
 #include "productsession.h"
 #include "uimode.h"
@@ -19,10 +15,9 @@ class UIManager;
 
 namespace o7 {
 
-/// Shows a product's pages through the driver's plug-in, exactly as the print system does: asks the
-/// plug-in for the size of its DEVMODE and for defaults, hands settings in, lets it add its pages
-/// to the system's common property sheet (`CommonPropertySheetUIW` of compstui.dll), and takes back
-/// what it wrote. In place of an installed printer the session says what the printer is like.
+/// Shows a product's pages through the driver's plug-in (PluginSheet). In place of an installed
+/// printer the session says what the printer is like, and in place of a program's document it has
+/// the settings.
 class PluginEntry : private PrinterStandIn
 {
 public:
@@ -33,14 +28,13 @@ public:
     /// @param package  the product's folder, for the plug-in to open by itself.
     PluginEntry(ProductSession& session, const std::filesystem::path& package, UIMode mode,
                 PagesAdded pagesAdded);
-    ~PluginEntry();
+    ~PluginEntry() = default;
     PluginEntry(const PluginEntry&) = delete;
     PluginEntry& operator=(const PluginEntry&) = delete;
 
     /// Modal.
     /// @return whether settings were accepted, with OK or Apply.
-    /// @throws std::runtime_error when plug-in or print system refuse, with the reason as far as
-    ///         they tell it. What goes wrong inside the plug-in, the plug-in shows.
+    /// @throws std::runtime_error as PluginSheet does.
     bool run(HWND owner);
 
 private:
@@ -50,9 +44,7 @@ private:
     bool storeDeviceSettings(const IDataModel& model) override;
     void pagesAdded(UIManager& manager) override { m_pagesAdded(manager); }
 
-    bool runDocument(HWND owner, LPWSTR printerName);
-    bool runDevice(HWND owner, LPWSTR printerName);
-    void showSheet(HWND owner, PFNPROPSHEETUI entry, void* header) const;
+    bool runDocument(HWND owner);
 
     ProductSession& m_session;
     std::wstring m_package;
@@ -60,6 +52,7 @@ private:
     UIMode m_mode;
     PagesAdded m_pagesAdded;
     bool m_deviceStored = false;
+    PluginSheet m_sheet; // last: it hears of the others
 };
 
 } // namespace o7

@@ -7,11 +7,10 @@
 #include <utility>
 
 #include "acceptancewatch.h"
-#include "childentry.h"
 #include "console.h"
 #include "datamodelids.h"
 #include "displayedexceptions.h"
-#include "eventnotification.h"
+#include "entryshow.h"
 #include "orvikutilities.h"
 #include "pluginentry.h"
 #include "productcatalogue.h"
@@ -168,25 +167,15 @@ void PreviewRun::openEntry()
     if (m_options.entry == PreviewEntry::Cpsui) {
         return openPlugin();
     }
-    UIManager manager(m_session->productData(), nullptr, mode(), 0, Workflow::Standard);
-    m_manager = &manager;
-    manager.setPersonalSettings(personalSettings());
-    FeatureServices& model = m_session->featureServices();
-    ProductStringLoader& strings = m_session->strings();
-    switch (m_options.entry) {
-    case PreviewEntry::Sheet:
-        manager.runAsPropertySheet(model, strings, nullptr);
-        return;
-    case PreviewEntry::Dialog:
-        return openDialog(manager);
-    case PreviewEntry::Child:
-        ChildEntry(wide(m_session->productData().GetModelName()), aboutText()).run([&](HWND sheet) {
-            manager.initialize(sheet, model, strings, nullptr);
-        });
-        return;
-    case PreviewEntry::Cpsui:
-        return;
+    if (m_options.entry == PreviewEntry::Dialog && mode() != UIMode::CompactDialog) {
+        printError(L"The entry \"dialog\" shows something in mode 3 only.");
     }
+    EntryShow(*m_session, m_options.entry, mode(), aboutText(), [this](UIManager* manager) {
+        m_manager = manager;
+        if (manager != nullptr) {
+            manager->setPersonalSettings(personalSettings());
+        }
+    }).run();
 }
 
 /// The plug-in has a session of its own; what was accepted comes back into ours.
@@ -200,19 +189,6 @@ void PreviewRun::openPlugin()
                      m_manager = &manager;
                      manager.setPersonalSettings(personalSettings());
                  }).run(nullptr);
-}
-
-/// A dialog's OK commits its transaction but is no event of the model, so it is told here.
-void PreviewRun::openDialog(UIManager& manager)
-{
-    if (mode() != UIMode::CompactDialog) {
-        printError(L"The entry \"dialog\" shows something in mode 3 only.");
-    }
-    FeatureServices& model = m_session->featureServices();
-    if (manager.runAsDialog(model, m_session->strings(), nullptr)) {
-        model.GetNotificationSink().SendNotification(
-            EventNotification(EventId(DataModelIds::kEventOk)));
-    }
 }
 
 UIMode PreviewRun::mode() const

@@ -46,7 +46,6 @@ private:
     bool showVisited();
     void openEntry();
     void openPlugin();
-    void openDialog(UIManager& manager);
     UIMode mode() const;
     std::filesystem::path jobTicketPath() const;
     CXString personalSettings() const;
