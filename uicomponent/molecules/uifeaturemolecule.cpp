@@ -164,7 +164,10 @@ CXString UIFeatureMolecule::StateText() const
 {
     if (!m_shown)
         return CXString(L"hidden");
-    if (m_enabled)
-        return CXString(L"enabled");
-    return CXString(m_state.IsCleared() ? L"disabled, cleared" : L"disabled");
+    CXString text(m_enabled ? L"enabled" : L"disabled");
+    if (!m_enabled && m_state.IsCleared())
+        text += L", cleared";
+    if (HasConflictMessage())
+        text += L", conflict";
+    return text;
 }

@@ -42,7 +42,8 @@ protected:
     /// The state last shown, for descriptions.
     const InterpretedState& GetState() const { return m_state; }
     bool IsEnabled() const { return m_enabled; }
-    /// "enabled", "disabled", "disabled, cleared" or "hidden".
+    /// "hidden", or "enabled" or "disabled" with ", cleared" and the mark that is shown, ",
+    /// conflict".
     CXString StateText() const;
 
 private:
