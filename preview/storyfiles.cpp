@@ -4,11 +4,12 @@
 #include <string>
 
 #include "console.h"
+#include "crashreport.h"
 #include "cxstring.h"
 #include "modelstages.h"
 #include "productstringloader.h"
-#include "stepfailure.h"
 #include "storyrun.h"
+#include "windowstages.h"
 
 namespace o7 {
 namespace {
@@ -34,13 +35,13 @@ ExitCode runStoryFiles(const PreviewOptions& options, const fs::path& programFol
     story::ModelStages models(run.products, textsOf);
     run.stages = [&](const story::Session& session, const fs::path& store) {
         if (session.entry != story::Entry::Model) {
-            throw story::StepFailure("This program cannot play entry " +
-                                     std::string(story::entryName(session.entry)) + " yet.");
+            return story::makeWindowStage(session, run.products, programFolder, store);
         }
         return models.make(session, store);
     };
     run.print = [](const std::string& line) { print(CXString::FromUtf8(line).View()); };
     run.printError = [](const std::string& line) { printError(CXString::FromUtf8(line).View()); };
+    const story::CrashReport crashes(run.print);
     return static_cast<ExitCode>(story::runStories(run));
 }
 

@@ -4,8 +4,8 @@
 #
 #   tools/in-app.sh [--product P] [--shots DIR]
 #
-# Ends 0 when a change made with OK was there again at the next opening and one made with Cancel was
-# not, and when paper and sides went from our sheet into the program's own settings and back.
+# Ends 0 when paper and sides went from our sheet into the program's own settings and back, and all
+# stories that play in the text editor went well (tests/stories).
 set -u
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
@@ -31,17 +31,19 @@ if [ -n "${O7_LOCK_FD:-}" ]; then
     o7_wine_env
 else
     o7_need "${O7_PACKAGES_BUILD[@]}" "${O7_PACKAGES_WINE[@]}"
-    o7_build windows products/all plugin/all || exit 1
+    o7_build windows products/all plugin/all preview/all || exit 1
     o7_wine_begin virtual
 fi
 
 bin=$O7_ROOT/build/windows/bin
 [ -f "$bin/products/$product/package.json" ] ||
     o7_die "there is no product \"$product\"; there are: $(cd "$bin/products" && echo *)" 2
-# The list that is changed is found by its texts, so the language of the desktop has to be known.
+# Menus and lists are found by their texts, so the language of the desktop has to be known.
 export LC_ALL=C.UTF-8
-printer="C430 on the second floor"
-o7_wine "$bin/o7install.exe" "$(o7_winpath "$bin")" --product "$product" --printer "$printer" ||
-    o7_die "the plug-in could not be installed as a printer"
-o7_wine "$bin/o7drive.exe" "$(o7_winpath "$bin/products/$product/strings-en.dll")" "$printer" \
-    ${shots[@]+"${shots[@]}"} || o7_die "the sheet in the print dialog did not do what it must"
+o7_wine "$bin/o7drive.exe" "$product" ${shots[@]+"${shots[@]}"} ||
+    o7_die "the sheet in the print dialog did not do what it must"
+stories=()
+for story in "$O7_ROOT"/tests/stories/in-app-*.story; do
+    stories+=("$(o7_winpath "$story")")
+done
+o7_wine "$bin/o7preview.exe" --story "${stories[@]}"

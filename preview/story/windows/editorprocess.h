@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-namespace o7::inapp {
+namespace o7::story {
 
 /// The system's text editor, started with a small text. Ended with the object, when it is still
 /// running then.
@@ -16,6 +16,11 @@ public:
     EditorProcess& operator=(const EditorProcess&) = delete;
 
     DWORD process() const { return m_info.dwProcessId; }
+    /// The thread of its windows.
+    DWORD thread() const { return m_info.dwThreadId; }
+    /// @throws std::runtime_error with the code that it ended with, when it is not running any
+    /// more.
+    void requireRunning() const;
 
     /// @throws std::runtime_error when it does not end within ten seconds, or does not end well.
     void waitForEnd() const;
@@ -24,4 +29,4 @@ private:
     PROCESS_INFORMATION m_info{};
 };
 
-} // namespace o7::inapp
+} // namespace o7::story

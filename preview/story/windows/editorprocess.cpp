@@ -5,14 +5,14 @@
 #include <stdexcept>
 #include <string>
 
-namespace o7::inapp {
+namespace o7::story {
 namespace {
 
 constexpr DWORD kEndMilliseconds = 10000;
 
 std::filesystem::path writeText()
 {
-    auto file = std::filesystem::temp_directory_path() / L"o7drive.txt";
+    auto file = std::filesystem::temp_directory_path() / L"o7story.txt";
     std::ofstream(file) << "A page to print.\n";
     return file;
 }
@@ -44,6 +44,16 @@ EditorProcess::~EditorProcess()
     CloseHandle(m_info.hProcess);
 }
 
+void EditorProcess::requireRunning() const
+{
+    DWORD code = 0;
+    if (WaitForSingleObject(m_info.hProcess, 0) == WAIT_OBJECT_0) {
+        GetExitCodeProcess(m_info.hProcess, &code);
+        throw std::runtime_error("The text editor has ended with code " + std::to_string(code) +
+                                 ".");
+    }
+}
+
 void EditorProcess::waitForEnd() const
 {
     DWORD code = 0;
@@ -56,4 +66,4 @@ void EditorProcess::waitForEnd() const
     }
 }
 
-} // namespace o7::inapp
+} // namespace o7::story

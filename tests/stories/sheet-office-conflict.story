@@ -1,0 +1,24 @@
+# Two choices that clash are marked wherever they stand, and F8 leads to them.
+product office-c430
+entry sheet
+mode 1
+open
+choose "Sides" "Two-sided, long edge"
+expect "Sides" no conflict
+expect tab "Paper/Output" unmarked
+choose "Paper type" "Transparency"
+expect "Sides" conflict
+expect tab "Paper/Output" marked
+expect status contains "Sides"
+page "Layout"
+key F8
+key Home
+expect "Sides" is "One-sided"
+expect no conflict
+expect tab "Paper/Output" unmarked
+press "OK"
+expect closed
+reopen
+expect "Paper type" is "Transparency"
+expect "Sides" is "One-sided"
+press "Cancel"
