@@ -11,7 +11,7 @@ namespace {
 
 constexpr DWORD kInstallMilliseconds = 60000;
 
-/// Runs o7install, which is silent when all is well.
+/// Runs o7install. What it says of success does not belong among the lines of a story.
 void install(const std::filesystem::path& programs, const std::string& product)
 {
     std::wstring command = L"\"" + (programs / "o7install.exe").wstring() + L"\" \"" +
@@ -19,6 +19,7 @@ void install(const std::filesystem::path& programs, const std::string& product)
                            L"\" --printer \"" + wide(EditorStage::printerName(product)) + L"\"";
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
+    startup.dwFlags = STARTF_USESTDHANDLES; // none
     PROCESS_INFORMATION process{};
     if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
                         &startup, &process)) {
