@@ -12,8 +12,11 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <atomic>
 #include <string>
 #include <string_view>
+#include <thread>
+#include <vector>
 
 namespace {
 
@@ -114,12 +117,41 @@ TEST(IsolationAware, UsesTheCallersOwnContext)
         const IsolationAware::CallerContext caller(own.get());
         EXPECT_EQ(own.get(), currentContext());
         for (const HANDLE none : {HANDLE{nullptr}, INVALID_HANDLE_VALUE}) {
-            const IsolationAware::CallerContext same(none);
-            EXPECT_EQ(own.get(), currentContext());
+            const IsolationAware::CallerContext nested(none);
+            EXPECT_EQ(modules, currentContext()) << "of nobody else";
         }
+        EXPECT_EQ(own.get(), currentContext());
     }
     EXPECT_NE(own.get(), modules);
     EXPECT_EQ(modules, currentContext());
+}
+
+/// While one thread closes its sheet, others open theirs: nobody finds the context gone.
+TEST(IsolationAware, SessionsOfSeveralThreadsDoNotDisturbEachOther)
+{
+    constexpr int kThreads = 4;
+    constexpr int kRounds = 300;
+    std::atomic<int> failures{0};
+    std::vector<std::thread> threads;
+    for (int thread = 0; thread < kThreads; ++thread) {
+        threads.emplace_back([&] {
+            for (int round = 0; round < kRounds; ++round) {
+                const IsolationAware::Session session;
+                const IsolationAware::ActivationScope scope;
+                PROPSHEETPAGEW page{};
+                page.dwSize = sizeof page;
+                page.pszTemplate = MAKEINTRESOURCEW(O7_DIALOG_EMPTY_PAGE);
+                page.hInstance = IsolationAware::moduleInstance();
+                const HPROPSHEETPAGE made = IsolationAware::createPropertySheetPage(page);
+                if (!scope.isActive() || !made || !IsolationAware::destroyPropertySheetPage(made))
+                    ++failures;
+            }
+        });
+    }
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(failures, 0);
+    const IsolationAware::Session leftAsFound;
 }
 
 TEST(IsolationAware, SaysSoWhenItIsUsedAfterTheCleanUpButWorks)

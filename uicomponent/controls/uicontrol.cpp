@@ -3,18 +3,19 @@
 #include "accessibility.h"
 #include "dialogconversion.h"
 #include "isolationaware.h"
+#include "threadslot.h"
 #include "uidump.h"
 #include "uiservices.h"
 #include "uiwindowsmessage.h"
 #include "windowtext.h"
 
 #include <cstdlib>
-#include <utility>
 
 namespace {
 
 /// The parent that is being destroyed on this thread.
-thread_local HWND s_goingParent = nullptr;
+struct GoingParentTag;
+using GoingParentSlot = o7::ThreadSlot<GoingParentTag>;
 
 int withSignOf(int sign, int magnitude)
 {
@@ -38,19 +39,21 @@ UIControl::UIControl(HWND parent, int id, UIServices& services, HFONT font, POIN
 UIControl::~UIControl()
 {
     // A window that went with its parent is not ours any more, nor is one that got its number.
-    if (m_window && (m_parent == s_goingParent || ::GetParent(m_window.get()) != m_parent)) {
+    if (m_window &&
+        (m_parent == GoingParentSlot::get() || ::GetParent(m_window.get()) != m_parent)) {
         m_window.release();
     }
 }
 
 UIControl::ParentGoes::ParentGoes(HWND parent) noexcept
-    : m_outer(std::exchange(s_goingParent, parent))
+    : m_outer(static_cast<HWND>(GoingParentSlot::get()))
 {
+    GoingParentSlot::set(parent);
 }
 
 UIControl::ParentGoes::~ParentGoes()
 {
-    s_goingParent = m_outer;
+    GoingParentSlot::set(m_outer);
 }
 
 bool UIControl::handleMessage(const _UIWindowsMessage& /*message*/)

@@ -1,5 +1,6 @@
 #include "isolationaware.h"
 
+#include "threadslot.h"
 #include "uiresourceids.h"
 
 #include <commctrl.h>
@@ -8,7 +9,9 @@
 
 namespace {
 
-thread_local HANDLE s_callerContext = INVALID_HANDLE_VALUE;
+/// The context that the caller gave for what runs on this thread now; null for the module's own.
+struct CallerContextTag;
+using CallerContextSlot = o7::ThreadSlot<CallerContextTag>;
 
 /// Exclusive use of a slim lock for a scope.
 class LockScope
@@ -36,7 +39,7 @@ struct State
     std::atomic<HANDLE> context{INVALID_HANDLE_VALUE};
     std::atomic<HMODULE> library{nullptr};
     std::atomic<bool> cleanedUp{false};
-    std::atomic<long> sessions{0};
+    long sessions = 0; ///< under the lock, as is what their end cleans up
 };
 
 State s_state;
@@ -124,6 +127,19 @@ LibraryFunction<decltype(&::PropertySheetW)> s_propertySheet("PropertySheetW");
 LibraryFunction<decltype(&::CreatePropertySheetPageW)> s_createPage("CreatePropertySheetPageW");
 LibraryFunction<decltype(&::DestroyPropertySheetPage)> s_destroyPage("DestroyPropertySheetPage");
 
+/// The lock is held.
+void releaseAll() noexcept
+{
+    s_propertySheet.forget();
+    s_createPage.forget();
+    s_destroyPage.forget();
+    s_state.library = nullptr;
+    s_state.context = INVALID_HANDLE_VALUE;
+    s_state.libraryOwner.reset();
+    s_state.contextOwner.reset();
+    s_state.cleanedUp = true;
+}
+
 /// Runs a call inside the context; its error is kept when it answers with the failure value.
 template <class Answer, class Function, class... Arguments>
 Answer callInside(Answer failure, LibraryFunction<Function>& function,
@@ -181,7 +197,8 @@ IsolationAware::ActivationScope::ActivationScope() noexcept
     if (s_state.cleanedUp.load(std::memory_order_relaxed)) {
         ::OutputDebugStringW(L"IsolationAware function called after IsolationAwareCleanup\n");
     }
-    const HANDLE context = s_callerContext != INVALID_HANDLE_VALUE ? s_callerContext : ownContext();
+    const HANDLE callers = CallerContextSlot::get();
+    const HANDLE context = callers != nullptr ? callers : ownContext();
     m_isActive = context != INVALID_HANDLE_VALUE && ::ActivateActCtx(context, &m_cookie) != FALSE;
 }
 
@@ -198,42 +215,37 @@ IsolationAware::ActivationScope::~ActivationScope()
 }
 
 IsolationAware::CallerContext::CallerContext(HANDLE activationContext) noexcept
-    : m_outer(s_callerContext)
+    : m_outer(CallerContextSlot::get())
 {
-    if (activationContext != nullptr && activationContext != INVALID_HANDLE_VALUE) {
-        s_callerContext = activationContext;
-    }
+    CallerContextSlot::set(activationContext != INVALID_HANDLE_VALUE ? activationContext : nullptr);
 }
 
 IsolationAware::CallerContext::~CallerContext()
 {
-    s_callerContext = m_outer;
+    CallerContextSlot::set(m_outer);
 }
 
 IsolationAware::Session::Session() noexcept
 {
+    const LockScope lock(s_state.lock);
     ++s_state.sessions;
     s_state.cleanedUp = false;
 }
 
 IsolationAware::Session::~Session()
 {
+    // Under one lock: whoever opens a session meanwhile comes before the last one's end and so
+    // prevents the cleaning up, or after it.
+    const LockScope lock(s_state.lock);
     if (--s_state.sessions == 0) {
-        cleanUp();
+        releaseAll();
     }
 }
 
 void IsolationAware::cleanUp() noexcept
 {
     const LockScope lock(s_state.lock);
-    s_propertySheet.forget();
-    s_createPage.forget();
-    s_destroyPage.forget();
-    s_state.library = nullptr;
-    s_state.context = INVALID_HANDLE_VALUE;
-    s_state.libraryOwner.reset();
-    s_state.contextOwner.reset();
-    s_state.cleanedUp = true;
+    releaseAll();
 }
 
 HINSTANCE IsolationAware::moduleInstance() noexcept

@@ -63,7 +63,8 @@ public:
     };
 
     /// While an object of this class lives, calls on this thread use the activation context that
-    /// the caller gave (borrowed). Null and the invalid handle change nothing.
+    /// the caller gave (borrowed); with null or the invalid handle the module's own, whatever a
+    /// caller further out has given.
     class O7UI_API CallerContext
     {
     public:
@@ -76,8 +77,9 @@ public:
         HANDLE m_outer;
     };
 
-    /// A time during which the module is in use. The end of the last session cleans up; a new one
-    /// makes calls legal again.
+    /// A time during which the module is in use, on any thread; every UIManager is one. The end of
+    /// the last session cleans up; a new one makes calls legal again. What a session has created is
+    /// gone before it ends.
     class O7UI_API Session
     {
     public:

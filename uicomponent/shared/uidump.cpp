@@ -1,44 +1,52 @@
 #include "uidump.h"
 
+#include "threadslot.h"
+
 namespace {
 
-thread_local UIDump* s_collector = nullptr;
+struct CollectorTag;
+using CollectorSlot = o7::ThreadSlot<CollectorTag>;
+
+UIDump* collector() noexcept
+{
+    return static_cast<UIDump*>(CollectorSlot::get());
+}
 
 } // namespace
 
-UIDump::UIDump(std::wstring& text) : m_text(text), m_outer(s_collector)
+UIDump::UIDump(std::wstring& text) : m_text(text), m_outer(collector())
 {
-    s_collector = this;
+    CollectorSlot::set(this);
 }
 
 UIDump::~UIDump()
 {
-    s_collector = m_outer;
+    CollectorSlot::set(m_outer);
 }
 
 bool UIDump::isCollecting()
 {
-    return s_collector != nullptr;
+    return collector() != nullptr;
 }
 
 void UIDump::line(std::wstring_view text)
 {
-    if (s_collector != nullptr) {
-        s_collector->m_text.append(std::size_t{2} * s_collector->m_level, L' ');
-        s_collector->m_text.append(text).push_back(L'\n');
+    if (UIDump* const own = collector()) {
+        own->m_text.append(std::size_t{2} * own->m_level, L' ');
+        own->m_text.append(text).push_back(L'\n');
     }
 }
 
 UIDump::Level::Level()
 {
-    if (s_collector != nullptr) {
-        ++s_collector->m_level;
+    if (UIDump* const own = collector()) {
+        ++own->m_level;
     }
 }
 
 UIDump::Level::~Level()
 {
-    if (s_collector != nullptr && s_collector->m_level > 0) {
-        --s_collector->m_level;
+    if (UIDump* const own = collector(); own && own->m_level > 0) {
+        --own->m_level;
     }
 }

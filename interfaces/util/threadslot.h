@@ -1,5 +1,6 @@
 #pragma once
-// ThreadSlot: one pointer per thread, a separate one for each Tag.
+// ThreadSlot: one pointer per thread, a separate one for each Tag. Written in the header alone:
+// each module has slots of its own.
 //
 // On Windows a slot of the operating system and not thread_local: the module can be unloaded while
 // threads of the host live on, and what the language runtime allocates for thread_local in each of
