@@ -51,6 +51,22 @@ protected:
     IComboListControl& m_list = m_combo;
 };
 
+TEST_F(UIComboBox, TakesNoOtherWindowForItsList)
+{
+    const HWND other = o7::test::makeStatic(m_page);
+    const auto procedure = ::GetWindowLongPtrW(other, GWLP_WNDPROC);
+    ::SendMessageW(m_list.getHwnd(), WM_CTLCOLORLISTBOX, 0, reinterpret_cast<LPARAM>(other));
+    ::SendMessageW(m_list.getHwnd(), WM_CTLCOLORLISTBOX, 0, 0);
+    EXPECT_EQ(procedure, ::GetWindowLongPtrW(other, GWLP_WNDPROC));
+    COMBOBOXINFO info{};
+    info.cbSize = sizeof info;
+    ASSERT_TRUE(::GetComboBoxInfo(m_list.getHwnd(), &info));
+    const auto before = ::GetWindowLongPtrW(info.hwndList, GWLP_WNDPROC);
+    ::SendMessageW(m_list.getHwnd(), WM_CTLCOLORLISTBOX, 0,
+                   reinterpret_cast<LPARAM>(info.hwndList));
+    EXPECT_NE(before, ::GetWindowLongPtrW(info.hwndList, GWLP_WNDPROC));
+}
+
 TEST_F(UIComboBox, TakesTheHeightOfItsFont)
 {
     const int height = o7::TextMeasure(m_page.font()).fontHeight();

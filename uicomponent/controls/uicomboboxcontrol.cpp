@@ -143,8 +143,9 @@ LRESULT UIComboBoxControl::subclassWindowProcedure(HWND window, UINT message, WP
         return 0;
     }
     // The list asks for its colours before it is seen for the first time.
-    if (message == WM_CTLCOLORLISTBOX && m_droppedList == nullptr) {
-        m_droppedList = std::make_unique<o7::DroppedList>(*this, reinterpret_cast<HWND>(lParam));
+    if (message == WM_CTLCOLORLISTBOX && m_droppedList == nullptr && lParam != 0 &&
+        reinterpret_cast<HWND>(lParam) == entryWindow()) { // anybody can name any window
+        m_droppedList = std::make_unique<o7::DroppedList>(*this, entryWindow());
     }
     if (message == WM_PAINT || message == WM_SETFONT) {
         m_measure.reset();
