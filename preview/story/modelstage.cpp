@@ -98,12 +98,29 @@ ModelStage::ModelStage(Product product, const Session& session, const std::files
 {
 }
 
+ModelStage::~ModelStage()
+{
+    close();
+}
+
 void ModelStage::open()
 {
+    close();
     m_model = newModel();
     if (const auto document = m_store.load(StoryStore::Record::Document);
         document && record() == StoryStore::Record::Document) {
         mergeDevMode(*m_model, *document);
+    }
+    m_model->RegisterForEvent(*this, EventId(DataModelIds::kEventAccepted),
+                              DataModelIds::kObserverEvent);
+}
+
+void ModelStage::close()
+{
+    if (m_model) {
+        m_model->UnregisterForEvent(*this, EventId(DataModelIds::kEventAccepted),
+                                    DataModelIds::kObserverEvent);
+        m_model.reset();
     }
 }
 
@@ -118,13 +135,12 @@ void ModelStage::press(const std::string& button)
 {
     if (button == "Cancel") {
         send(DataModelIds::kEventCancelQueried);
-        m_model.reset();
-    } else if (button == "OK") {
-        if (accept(DataModelIds::kEventOk)) {
-            m_model.reset();
-        }
-    } else {
-        accept(DataModelIds::kEventApply);
+        return close();
+    }
+    m_accepted = false;
+    send(button == "OK" ? DataModelIds::kEventOk : DataModelIds::kEventApply);
+    if (button == "OK" && m_accepted) {
+        close();
     }
 }
 
@@ -133,17 +149,10 @@ void ModelStage::send(DataModelIds::EventEnum event)
     model().GetNotificationSink().SendNotification(EventNotification(EventId(event)));
 }
 
-/// Whether the settings were accepted; then they are kept.
-bool ModelStage::accept(DataModelIds::EventEnum event)
+void ModelStage::ProcessNotification(const INotification&, unsigned int)
 {
-    send(event);
-    const auto result =
-        model().GetOptionFeatureRef(DataModelIds::kFeatureApplyResult).GetValue().GetValueEnum();
-    if (result == DataModelIds::kValueApplyRejected) {
-        return false;
-    }
     store();
-    return true;
+    m_accepted = true;
 }
 
 void ModelStage::store() const

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "datamodelfactory.h"
+#include "iobserver.h"
 #include "session.h"
 #include "storystage.h"
 #include "storystore.h"
@@ -16,7 +17,7 @@ namespace o7::story {
 /// the package, those inside lists as "list/feature" or "list[2]/feature" (the second item). What
 /// is accepted is kept, and comes back, the way the driver does it: what is installed with the
 /// printer, everything else in a document.
-class ModelStage final : public StoryStage
+class ModelStage final : public StoryStage, private IObserver
 {
 public:
     /// What stages of the same product share.
@@ -27,6 +28,7 @@ public:
     };
 
     ModelStage(Product product, const Session& session, const std::filesystem::path& store);
+    ~ModelStage() override;
 
     void open() override;
     void reopen() override { open(); }
@@ -47,6 +49,9 @@ public:
     void setDocumentField(const std::string& field, const std::string& value) override;
 
 private:
+    /// The model has accepted: the time to store.
+    void ProcessNotification(const INotification& notification, unsigned int kind) override;
+
     IDataModel& model() const;
     IFeatureNode::Ptr feature(const ControlName& name) const;
     /// Throws unless a person can change the feature in this mode now.
@@ -55,7 +60,7 @@ private:
     InterpretedState stateOfEntry(const ControlName& feature, const std::string& entry,
                                   bool& listed) const;
     void send(DataModelIds::EventEnum event);
-    bool accept(DataModelIds::EventEnum event);
+    void close();
     void store() const;
 
     std::unique_ptr<IDataModel> newModel() const;
@@ -67,6 +72,7 @@ private:
     int m_mode;
     StoryStore m_store;
     std::unique_ptr<IDataModel> m_model; ///< while it is open
+    bool m_accepted = false;             ///< by the last event
 };
 
 } // namespace o7::story

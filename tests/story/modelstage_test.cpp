@@ -219,11 +219,11 @@ TEST_F(ModelStageTest, NothingIsDoneOrReadWhileNothingIsOpen)
 TEST_F(ModelStageTest, WhatIsMissingIsNamed)
 {
     EXPECT_NE(failure([&] {
-                  stages.make({"none", Entry::Model, 1, "en"}, folder.path());
+                  stages().make({"none", Entry::Model, 1, "en"}, folder.path());
               }).find("package"),
               std::string::npos);
     EXPECT_NE(failure([&] {
-                  stages.make({"office-c430", Entry::Model, 1, "xx"}, folder.path());
+                  stages().make({"office-c430", Entry::Model, 1, "xx"}, folder.path());
               }).find("\"xx\""),
               std::string::npos);
 }
