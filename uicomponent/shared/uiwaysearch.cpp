@@ -1,13 +1,16 @@
 #include "uiwaysearch.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "featureservices.h"
 
 namespace {
 
 constexpr int kMostTrials = 200;
-constexpr std::ptrdiff_t kMostValues = 3; // of one setting
+// How many values of one setting are offered: of the one that it is about, and of others.
+constexpr std::ptrdiff_t kMostOwnValues = 3;
+constexpr std::ptrdiff_t kMostValues = 2;
 constexpr std::size_t kMostWays = 8;
 
 bool isKeptFromBeingChosen(const InterpretedState& state)
@@ -60,9 +63,11 @@ std::vector<UIWaySearch::Found> UIWaySearch::run()
         tryAlone(reason);
     if (m_found.empty())
         tryTogether(0, {});
-    std::stable_sort(m_found.begin(), m_found.end(), [](const Found& a, const Found& b) {
-        return changedValues(a) < changedValues(b);
-    });
+    const auto rank = [this](const Found& found) {
+        return std::pair(changedValues(found), !startsWith(found, m_feature));
+    };
+    std::stable_sort(m_found.begin(), m_found.end(),
+                     [&](const Found& a, const Found& b) { return rank(a) < rank(b); });
     if (m_found.size() > kMostWays)
         m_found.resize(kMostWays);
     return std::move(m_found);
@@ -96,10 +101,11 @@ bool UIWaySearch::take(const Changes& changes)
     const auto all = joined(m_start, changes);
     if (!all || !mayChange(changes) || m_budget <= 0)
         return false;
+    const FeatureIdWithContext& first = changes.front().feature;
     const auto sameStart = std::count_if(m_found.begin(), m_found.end(), [&](const Found& found) {
-        return found.alternative.changes[m_start.size()].feature == changes.front().feature;
+        return startsWith(found, first);
     });
-    if (isKnown(*all) || sameStart >= kMostValues)
+    if (isKnown(*all) || sameStart >= (first == m_feature ? kMostOwnValues : kMostValues))
         return true;
     --m_budget;
     o7::Alternative alternative{o7::AlternativeKind::KeepNew, *all};
@@ -108,6 +114,12 @@ bool UIWaySearch::take(const Changes& changes)
         return false;
     m_found.push_back({std::move(alternative), std::move(consequences)});
     return true;
+}
+
+bool UIWaySearch::startsWith(const Found& found, const FeatureIdWithContext& feature) const
+{
+    const Changes& changes = found.alternative.changes;
+    return changes.size() > m_start.size() && changes[m_start.size()].feature == feature;
 }
 
 bool UIWaySearch::helps(const std::vector<o7::Consequence>& consequences) const

@@ -30,7 +30,8 @@ public:
     /// @param settled  what they have brought out of conflict, which has to stay so
     void startFrom(const Changes& changes, const Features& settled);
 
-    /// Those that change least come first; of one setting no more than the first few values. None
+    /// Those that change least come first, and of these what the feature itself can give up. Of one
+    /// setting no more than the first few values. None
     /// where the feature is not limited, or the device itself limits it.
     std::vector<Found> run();
 
@@ -46,6 +47,7 @@ private:
     bool helps(const std::vector<o7::Consequence>& consequences) const;
     bool mayChange(const Changes& changes) const;
     bool isKnown(const Changes& changes) const;
+    bool startsWith(const Found& found, const FeatureIdWithContext& feature) const;
     std::optional<Changes> withOthersGivingWay(const o7::SettingChange& change) const;
     std::optional<Changes> joined(const Changes& first, const Changes& second) const;
 

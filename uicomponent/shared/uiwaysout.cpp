@@ -47,8 +47,17 @@ o7::Settlement UIWaysOut::settle(const std::vector<FeatureIdWithContext>& confli
                 settlement.left.push_back(feature);
                 continue;
             }
-            settlement.alternative = std::move(ways.front().alternative);
-            consequences = std::move(ways.front().consequences);
+            const auto left = [&](const UIWaySearch::Found& way) {
+                return std::count_if(conflicts.begin(), conflicts.end(), [&](const auto& other) {
+                    return UIWaySearch::stateAfter(m_featureServices, other, way.consequences)
+                        .HasCbrBtnMsg();
+                });
+            };
+            const auto best =
+                std::min_element(ways.begin(), ways.end(),
+                                 [&](const auto& a, const auto& b) { return left(a) < left(b); });
+            settlement.alternative = std::move(best->alternative);
+            consequences = std::move(best->consequences);
         }
         settled.push_back(feature);
     }

@@ -49,7 +49,7 @@ public:
     /// To choosing an entry that is grey now.
     std::vector<o7::WayOut> toEntry(const FeatureIdWithContext& feature,
                                     const ValueId& entry) const;
-    /// Out of all these conflicts, each settled by what changes least.
+    /// Out of all these conflicts, each by what settles most of the others as well.
     o7::Settlement settle(const std::vector<FeatureIdWithContext>& conflicts) const;
 
     /// Makes the changes, as one transaction. False, and nothing changed, when a setting does not
