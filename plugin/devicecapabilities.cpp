@@ -70,7 +70,7 @@ bool isRuledOut(IDataModel& model, const FeatureIdWithContext& feature, const Va
 {
     return std::ranges::any_of(model.GetStateReasons(feature, option), [&](const StateReason& r) {
         const bool limits = r.effect == EffectKind::Disable || r.effect == EffectKind::Clear ||
-                            r.effect == EffectKind::Hide;
+                            r.effect == EffectKind::Hide || r.effect == EffectKind::Force;
         return limits && !r.causes.empty() &&
                std::ranges::all_of(r.causes, [&](const FeatureIdWithContext& cause) {
                    return isDeviceFeature(model, cause);

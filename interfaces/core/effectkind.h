@@ -13,6 +13,7 @@ enum class EffectKind : std::uint8_t
     Info,
     Conflict,
     Force, ///< The feature has another value than its own: shown, read and printed, not changeable.
+    Require, ///< The feature needs a value.
 };
 
 } // namespace o7

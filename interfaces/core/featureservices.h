@@ -6,6 +6,7 @@
 #include "iconstraintsintegrator.h"
 #include "inotificationsink.h"
 #include "iobserver.h"
+#include "lengthformat.h"
 #include "listoffeaturesref.h"
 #include "settingsinstanceid.h"
 #include "transactionref.h"
@@ -115,6 +116,9 @@ public:
     /// Writes an alternative of a proposal as one transaction. False, and nothing changed, when a
     /// feature does not exist any more or does not take its value.
     virtual bool ApplyAlternative(const o7::Alternative& alternative) = 0;
+
+    /// How lengths stand in sentences from now on; whoever shows some already has to ask again.
+    virtual void SetLengthFormat(const o7::LengthFormat&) {}
 
     FeatureServices(const FeatureServices&) = delete;
     FeatureServices& operator=(const FeatureServices&) = delete;

@@ -31,6 +31,7 @@ public:
     /// False when the feature has no value to give: unsupported, a list, or unspecified (an
     /// unspecified option feature gives value 5001 and true).
     virtual bool GetValue(o7::FeatureValue& value) const = 0;
+    /// What it would have after RestoreToDefaultValue(); false when that is none.
     virtual bool GetDefaultValue(o7::FeatureValue& value) const = 0;
     /// False, and nothing changed, when the value is of the wrong kind, not one of the options,
     /// out of range, currently disabled or hidden by a constraint, or the feature is read-only.

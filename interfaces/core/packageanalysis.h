@@ -26,6 +26,8 @@ enum class PackageFindingKind
     Duplicate,
     /// The defaults break a constraint.
     DefaultConflict,
+    /// A single change from the defaults puts a setting in conflict that nobody has touched.
+    UntouchedConflict,
 };
 
 /// "unreachable option" and so on, for messages.

@@ -12,6 +12,12 @@ bool Constraint::Cause::Holds() const
     return actual == nullptr ? holdsWithoutValue || test.MatchesNothing() : test.Matches(*actual);
 }
 
+bool Constraint::IsBroken() const
+{
+    return (whole ? active && kind == EffectKind::Conflict : hit && kind != EffectKind::Info) &&
+           !target->IsIdle();
+}
+
 FeatureValue Constraint::Forced() const
 {
     if (forced.side == ForcedValue::Side::None)

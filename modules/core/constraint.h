@@ -52,12 +52,9 @@ struct alignas(64) Constraint
 
     bool Affects(const FeatureValue& value) const { return affected.Matches(value); }
     /// Whether an affected value cannot be chosen while the constraint is active.
-    bool Blocks() const { return kind != EffectKind::Info && kind != EffectKind::Conflict; }
-    /// Two of the person's choices clash.
-    bool IsBroken() const
-    {
-        return whole ? active && kind == EffectKind::Conflict : hit && kind != EffectKind::Info;
-    }
+    bool Blocks() const { return o7::Blocks(kind); }
+    /// Two of the person's choices clash; one that is without effect clashes with none.
+    bool IsBroken() const;
     /// Of a forcing one while it is active: what it makes of its target.
     FeatureValue Forced() const;
     /// The condition whose feature's value, not only whether it holds, decides what is forced.

@@ -134,12 +134,16 @@ void ConstraintEngine::Activate(Constraint& constraint, bool active)
         AddEffect(constraint);
     else
         RemoveEffect(constraint);
+    if (constraint.whole && constraint.Blocks())
+        target.wholeLimits += active ? 1U : ~0U;
     if (constraint.kind == EffectKind::Clear) {
         target.activeClears += active ? 1U : ~0U;
         Postpone(target);
     } else if (constraint.kind == EffectKind::Force) {
         Unsettle(target);
     }
+    if (constraint.kind == EffectKind::Clear || (constraint.whole && constraint.Blocks()))
+        UpdateAllBroken(target);
 }
 
 void ConstraintEngine::AddEffect(Constraint& constraint)
@@ -190,6 +194,14 @@ void ConstraintEngine::UpdateBroken(Constraint& constraint)
     }
 }
 
+void ConstraintEngine::UpdateAllBroken(FeatureNode& feature)
+{
+    for (const auto& effect : feature.activeEffects)
+        UpdateBroken(*effect.constraint);
+    for (const auto& child : feature.Children())
+        UpdateAllBroken(*child);
+}
+
 void ConstraintEngine::ValueChanged(FeatureNode& feature)
 {
     PresentChanged(feature);
@@ -208,6 +220,9 @@ void ConstraintEngine::PresentChanged(FeatureNode& feature)
         if (effect.hit != before)
             m_changes.Note(feature, kStateBit);
     }
+    // Whether its value is cleared decides about all of them.
+    if (feature.activeClears != 0)
+        UpdateAllBroken(feature);
 }
 
 void ConstraintEngine::AskReaders(FeatureNode& feature)
@@ -324,9 +339,12 @@ void ConstraintEngine::TellStates()
 {
     for (Constraint* constraint : m_toggled) {
         constraint->toggled = false;
-        if (constraint->active != constraint->activeBefore &&
-            constraint->defaultRow == Constraint::kNoRow)
-            TellState(*constraint);
+        if (constraint->active == constraint->activeBefore ||
+            constraint->defaultRow != Constraint::kNoRow)
+            continue;
+        TellState(*constraint);
+        if (constraint->target->isWayOut && constraint->Blocks())
+            TellReaders(*constraint->target);
     }
     m_toggled.clear();
 }
@@ -336,6 +354,16 @@ void ConstraintEngine::TellState(const Constraint& constraint)
     m_changes.Note(*constraint.target, kStateBit);
     if (constraint.onList)
         TellMembers(*constraint.target);
+}
+
+void ConstraintEngine::TellReaders(const FeatureNode& feature)
+{
+    // Their reasons name a way out that may be open or closed now.
+    for (const auto& reader : feature.readers) {
+        if (reader.holds && reader.constraint->active &&
+            reader.constraint->defaultRow == Constraint::kNoRow)
+            TellState(*reader.constraint);
+    }
 }
 
 void ConstraintEngine::TellMembers(const FeatureNode& list)

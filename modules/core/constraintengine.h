@@ -50,6 +50,7 @@ private:
     void RemoveEffect(Constraint& constraint);
     void UpdateHit(const FeatureNode& feature, FeatureNode::ActiveEffect& effect);
     void UpdateBroken(Constraint& constraint);
+    void UpdateAllBroken(FeatureNode& feature);
     void PresentChanged(FeatureNode& feature);
     void AskReaders(FeatureNode& feature);
     void Answer(FeatureNode::Reader& reader);
@@ -61,6 +62,7 @@ private:
     void TellStates();
     void TellState(const Constraint& constraint);
     void TellMembers(const FeatureNode& list);
+    void TellReaders(const FeatureNode& feature);
 
     ChangeLog& m_changes;
     std::vector<std::unique_ptr<Constraint>> m_added;

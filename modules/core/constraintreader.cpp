@@ -7,13 +7,14 @@
 namespace o7 {
 namespace {
 
-constexpr std::array<Named<EffectKind>, 6> kEffects = {{
+constexpr std::array<Named<EffectKind>, 7> kEffects = {{
     {"disable", EffectKind::Disable},
     {"clear", EffectKind::Clear},
     {"hide", EffectKind::Hide},
     {"info", EffectKind::Info},
     {"conflict", EffectKind::Conflict},
     {"force", EffectKind::Force},
+    {"require", EffectKind::Require},
 }};
 
 } // namespace
@@ -81,6 +82,8 @@ void ConstraintReader::ReadEffect(const LocatedJson& json, const Scope& scope,
         return;
     constraint.target = target->number;
     constraint.affected = m_values.ReadTest(json, *target, "options");
+    if (constraint.kind == EffectKind::Require && !constraint.affected.values.empty())
+        Fail(json, "kind \"require\" concerns the whole feature");
     ReadForced(json, scope, *target, constraint);
 }
 

@@ -50,6 +50,10 @@ public:
                                  const FeatureValue& value) override;
     std::vector<Consequence> PreviewAlternative(const Alternative& alternative) override;
     bool ApplyAlternative(const Alternative& alternative) override;
+    void SetLengthFormat(const LengthFormat& format) override
+    {
+        m_interpreter.SetLengthFormat(format);
+    }
 
     // IDataModel
     bool SaveJobTicket(const std::filesystem::path& file, std::string& message) override;

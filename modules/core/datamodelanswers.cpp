@@ -12,18 +12,18 @@ namespace {
 /// What a constraint on some values does to the feature as a whole, now; nothing: it does not show.
 std::optional<EffectKind> EffectOnFeature(const Constraint& constraint)
 {
-    if (constraint.whole)
+    const bool clash = constraint.whole ? constraint.kind == EffectKind::Conflict
+                                        : constraint.hit && constraint.kind != EffectKind::Info &&
+                                              constraint.kind != EffectKind::Clear;
+    if (clash)
+        return constraint.IsBroken() ? std::optional(EffectKind::Conflict) : std::nullopt;
+    if (constraint.whole || constraint.hit)
         return constraint.kind;
-    if (constraint.hit) {
-        const bool mild =
-            constraint.kind == EffectKind::Info || constraint.kind == EffectKind::Clear;
-        return mild ? constraint.kind : EffectKind::Conflict;
-    }
-    if (constraint.kind != EffectKind::Disable && constraint.kind != EffectKind::Clear)
-        return {};
-    // Of two values one is left.
-    return constraint.target->Description().kind == FeatureKind::Boolean ? EffectKind::Disable
-                                                                         : EffectKind::Info;
+    if (constraint.Blocks() && constraint.target->IsLastChoice())
+        return EffectKind::Disable;
+    const bool told =
+        constraint.kind == EffectKind::Disable || constraint.kind == EffectKind::Clear;
+    return told ? std::optional(EffectKind::Info) : std::nullopt;
 }
 
 std::vector<FeatureIdWithContext> CausesOf(const Constraint& constraint)

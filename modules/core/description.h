@@ -36,6 +36,12 @@ struct ConditionDescription
     bool holdsWithoutValue = false; ///< Also where the test itself does not.
 };
 
+/// Whether a constraint keeps what it affects from being chosen.
+inline bool Blocks(EffectKind kind)
+{
+    return kind != EffectKind::Info && kind != EffectKind::Conflict && kind != EffectKind::Require;
+}
+
 /// What a governing setting makes of another one: a value, or a side of the medium that the last
 /// condition of the constraint asks about.
 struct ForcedValue

@@ -100,6 +100,9 @@ bool FeatureNode::GetDefaultValue(FeatureValue& value) const
     if (!IsAlive() || IsList(m_description->kind))
         return false;
     value = CurrentDefault();
+    // With its own value at the default, restoring it would leave what is forced.
+    if (IsForced() && HasStored(value.index() != 0 ? value : m_value, value.index() != 0))
+        value = m_forced;
     if (m_description->kind == FeatureKind::Option) {
         const auto& found = value.index() != 0 ? value : UnspecifiedOption();
         value = m_model->Interpreter().Complete(*this, std::get<ValueId>(found));
@@ -249,9 +252,36 @@ unsigned FeatureNode::EffectiveCode() const
 
 bool FeatureNode::IsLimitedWhole() const
 {
-    const bool here = std::any_of(activeEffects.begin(), activeEffects.end(),
-                                  [](const auto& effect) { return effect.whole && effect.blocks; });
-    return here || (m_parent != nullptr && m_parent->IsLimitedWhole());
+    return wholeLimits != 0 || (m_parent != nullptr && m_parent->IsLimitedWhole());
+}
+
+bool FeatureNode::IsIdle() const
+{
+    return IsLimitedWhole() || IsCleared();
+}
+
+bool FeatureNode::IsRequired() const
+{
+    const auto requires_ = [](const ActiveEffect& effect) {
+        return effect.constraint->kind == EffectKind::Require;
+    };
+    return m_description->flags.required ||
+           (std::any_of(activeEffects.begin(), activeEffects.end(), requires_) && !IsIdle());
+}
+
+bool FeatureNode::IsLastChoice() const
+{
+    const bool flag = m_description->kind == FeatureKind::Boolean;
+    if (!m_coded || !PresentSpecified())
+        return false;
+    std::uint64_t blocked = 0;
+    for (const ActiveEffect& effect : activeEffects)
+        blocked |= !effect.whole && effect.blocks ? effect.codes : 0;
+    unsigned left = 0;
+    const std::size_t values = flag ? 2 : m_description->options.size();
+    for (unsigned code = 0; code < values; ++code)
+        left += IsInMask(blocked, code) ? 0 : 1;
+    return blocked != 0 && left == 1 && !IsInMask(blocked, PresentCode());
 }
 
 bool FeatureNode::IsBlocked(const FeatureValue& value) const

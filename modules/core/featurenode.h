@@ -87,8 +87,14 @@ public:
 
     /// Active constraints disable, clear or hide the feature, or a list around it, as a whole.
     bool IsLimitedWhole() const;
+    /// What is chosen for it counts for nothing now: limited as a whole, or cleared.
+    bool IsIdle() const;
+    /// It needs a value: always, or because an active constraint says so.
+    bool IsRequired() const;
     /// An active constraint keeps this value from being chosen.
     bool IsBlocked(const FeatureValue& value) const;
+    /// Active constraints leave nothing to choose but what it has.
+    bool IsLastChoice() const;
 
     /// Builds the members below a list; for a list of values builds nothing.
     void BuildMembers();
@@ -128,7 +134,9 @@ public:
     std::unique_ptr<DeliveryList> delivery;               ///< Null until somebody registered.
     std::vector<FeatureValue> choices;                    ///< Kept by Choices().
     unsigned activeClears = 0;                            ///< How many of the active effects clear.
+    unsigned wholeLimits = 0;                             ///< How many of them limit it whole.
     unsigned rank = 0;        ///< Above those whose clearing or value can change this one's.
+    bool isWayOut = false;    ///< A reason that was read sends the person to it.
     bool isPending = false;   ///< Its readers have to look again.
     bool isUnsettled = false; ///< Its default, or what is forced, may have changed.
 

@@ -1,5 +1,6 @@
 #include "packageanalysis.h"
 
+#include "choices.h"
 #include "datamodel.h"
 #include "jsonfields.h"
 #include "loadedpackage.h"
@@ -326,6 +327,60 @@ void FindConflictsOfDefaults(const LoadedPackage& package, std::vector<PackageFi
     }
 }
 
+/// Makes every single change that a person could make to the defaults.
+class SingleChanges
+{
+public:
+    SingleChanges(const LoadedPackage& package, std::vector<PackageFinding>& findings)
+        : m_model(package.GetDescription(), m_strings), m_findings(findings)
+    {
+        const auto& broken = m_model.Engine().Broken();
+        m_before.insert(broken.begin(), broken.end());
+    }
+
+    void Run() { PlayList(*m_model.FindNode(FeatureIdWithContext())); }
+
+private:
+    void PlayList(const FeatureNode& list)
+    {
+        for (const auto& feature : list.Children()) {
+            if (feature->Description().list)
+                PlayList(*feature);
+            else if (IsPersons(*feature))
+                Play(*feature);
+        }
+    }
+
+    void Play(FeatureNode& feature)
+    {
+        const std::vector<FeatureValue> choices = Choices(feature);
+        for (const FeatureValue& value : choices) {
+            const auto transaction = m_model.OpenTransaction(CXString());
+            const bool made =
+                value.index() != 0 ? feature.SetValue(value) : feature.SetIsSpecified(false);
+            for (const Constraint* broken : m_model.Engine().Broken()) {
+                if (made && broken->target != &feature && m_before.count(broken) == 0)
+                    Tell(feature, value, *broken);
+            }
+            transaction->Close(false);
+        }
+    }
+
+    void Tell(const FeatureNode& feature, const FeatureValue& value, const Constraint& broken)
+    {
+        m_findings.push_back({PackageFindingKind::UntouchedConflict, feature.Description().line,
+                              feature.Description().name.ToUtf8() + " " + PlainText(value) +
+                                  " puts " + broken.target->Description().name.ToUtf8() + " " +
+                                  PlainText(broken.target->PresentValue()) +
+                                  ", which nobody has touched, in conflict: " + broken.id});
+    }
+
+    NoStrings m_strings;
+    DataModel m_model;
+    std::vector<PackageFinding>& m_findings;
+    std::set<const Constraint*> m_before;
+};
+
 } // namespace
 
 const char* NameOf(PackageFindingKind kind)
@@ -343,6 +398,8 @@ const char* NameOf(PackageFindingKind kind)
         return "duplicate";
     case PackageFindingKind::DefaultConflict:
         return "conflict of defaults";
+    case PackageFindingKind::UntouchedConflict:
+        return "conflict of an untouched setting";
     }
     return "";
 }
@@ -353,6 +410,7 @@ std::vector<PackageFinding> AnalyseProductPackage(const ProductPackage& package)
     std::vector<PackageFinding> findings;
     AnalyseList(loaded.GetDescription()->root, {}, findings);
     FindConflictsOfDefaults(loaded, findings);
+    SingleChanges(loaded, findings).Run();
     std::sort(findings.begin(), findings.end(), [](const auto& a, const auto& b) {
         return std::tie(a.line, a.message) < std::tie(b.line, b.message);
     });

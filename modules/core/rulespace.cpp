@@ -35,8 +35,7 @@ bool Meets(const RuleSpace::ValueSet& a, const RuleSpace::ValueSet& b)
 
 bool RuleSpace::Rule::Blocks() const
 {
-    return constraint != nullptr && constraint->kind != EffectKind::Info &&
-           constraint->kind != EffectKind::Conflict;
+    return constraint != nullptr && o7::Blocks(constraint->kind);
 }
 
 RuleSpace::RuleSpace(const ListDescription& list, const std::vector<const ListDescription*>& outer)

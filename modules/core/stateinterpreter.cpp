@@ -1,5 +1,6 @@
 #include "stateinterpreter.h"
 
+#include "choices.h"
 #include "listoffeaturescapability.h"
 #include "rangecapability.h"
 #include "rangeofdimensioncapability.h"
@@ -7,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -49,12 +51,61 @@ void AddEffect(EffectKind kind, const CXString& reason, InterpretedState& state)
         state.Hide(reason);
         break;
     case EffectKind::Info:
+    case EffectKind::Require:
         state.AddInfo(reason);
         break;
     case EffectKind::Conflict:
         state.AddConflict(reason);
         break;
     }
+}
+
+/// The units that the person has chosen for lengths; nothing: as in the system.
+std::optional<bool> IsMetric(const FeatureNode& feature)
+{
+    constexpr auto kUnits = static_cast<FeatureEnum>(3047);
+    constexpr auto kMillimetres = static_cast<ValueEnum>(5230);
+    constexpr auto kInches = static_cast<ValueEnum>(5231);
+    const FeatureNode* top = &feature;
+    while (top->Parent() != nullptr)
+        top = top->Parent();
+    const FeatureNode* units = top->FindChild(FeatureId(kUnits));
+    const auto* value = units != nullptr ? units->EffectiveValue() : nullptr;
+    const auto* chosen = value != nullptr ? std::get_if<ValueId>(value) : nullptr;
+    if (chosen == nullptr ||
+        (chosen->GetValueEnum() != kMillimetres && chosen->GetValueEnum() != kInches))
+        return {};
+    return chosen->GetValueEnum() == kMillimetres;
+}
+
+/// Whether a person can give the feature of a condition a value with which it no longer holds.
+bool IsOpen(const Constraint::Cause& cause)
+{
+    FeatureNode& feature = *cause.feature;
+    feature.isWayOut = true;
+    if (!IsPersons(feature) || feature.IsLimitedWhole())
+        return false;
+    const auto& choices = Choices(feature);
+    return std::any_of(choices.begin(), choices.end(), [&](const FeatureValue& value) {
+        return value.index() != 0 && IsFree(feature, value) && !cause.test.Matches(value);
+    });
+}
+
+/// In "Reason.{?0} Way out." what follows the mark stays only while the numbered condition can be
+/// lifted.
+CXString WithOpenWayOut(const CXString& text, const Constraint& constraint)
+{
+    constexpr std::wstring_view kMark = L"{?";
+    constexpr std::size_t kLength = 4;
+    const std::wstring_view whole = text.View();
+    const std::size_t at = whole.find(kMark);
+    if (at == std::wstring_view::npos || at + kLength > whole.size())
+        return text;
+    const auto number = static_cast<std::size_t>(whole[at + kMark.size()] - L'0');
+    std::wstring shown(whole.substr(0, at));
+    if (number >= constraint.when.size() || IsOpen(constraint.when[number]))
+        shown += whole.substr(at + kLength);
+    return CXString(std::wstring_view(shown));
 }
 
 } // namespace
@@ -110,14 +161,32 @@ CXString StateInterpreter::ValueText(const FeatureNode& feature, const FeatureVa
     if (const auto* text = std::get_if<CXString>(&value))
         return *text;
     if (const auto* length = std::get_if<Dimension>(&value))
-        return length->GetStringValue(length->GetUnits(), 2, L'.', true);
+        return LengthText(feature, *length);
     return {};
+}
+
+CXString StateInterpreter::LengthText(const FeatureNode& feature, const Dimension& length) const
+{
+    const bool metric = IsMetric(feature).value_or(m_lengths.metric);
+    const auto units = metric ? Dimension::UnitsEnum::Millimetre : Dimension::UnitsEnum::Inch;
+    // A no-break space keeps number and unit together.
+    return length.GetStringValue(units, metric ? 1 : 2, m_lengths.decimalSeparator, true) +
+           L"\u00a0" + (metric ? m_lengths.millimetre : m_lengths.inch);
 }
 
 CXString StateInterpreter::AffectedText(const Constraint& constraint)
 {
     CXString all;
-    for (const FeatureValue& value : constraint.affected.values) {
+    std::vector<FeatureValue> values = constraint.affected.values;
+    // Of options "none of these" means all others.
+    if (constraint.affected.comparison == DataModelIds::kNotEqual) {
+        values.clear();
+        for (const OptionDescription& option : constraint.target->Description().options) {
+            if (constraint.Affects(ValueId(option.number)))
+                values.emplace_back(ValueId(option.number));
+        }
+    }
+    for (const FeatureValue& value : values) {
         const CXString text = ValueText(*constraint.target, value);
         if (!all.IsEmpty() && !text.IsEmpty())
             all += L", ";
@@ -129,7 +198,7 @@ CXString StateInterpreter::AffectedText(const Constraint& constraint)
 CXString StateInterpreter::Reason(const Constraint& constraint, const ValueId* option)
 {
     const FeatureNode& cause = *constraint.when.front().feature;
-    CXString reason = Text(constraint.reason);
+    CXString reason = WithOpenWayOut(Text(constraint.reason), constraint);
     // Most reasons are whole sentences.
     if (reason.View().find(L'{') != std::wstring_view::npos)
         reason = FillIn(
@@ -160,33 +229,40 @@ void StateInterpreter::AddValueEffect(const FeatureNode& feature, const Constrai
     const FeatureValue& value = feature.PresentValue();
     const bool hit = constraint.hit;
     const auto* option = std::get_if<ValueId>(&value);
-    if (hit && constraint.kind == EffectKind::Info) {
-        state.AddInfo(Reason(constraint, option));
-    } else if (hit) {
+    if (hit) {
+        const CXString reason = Reason(constraint, option);
         // The user's own choice is one that another choice rules out.
-        state.AddConflict(Reason(constraint, option));
+        if (constraint.IsBroken())
+            state.AddConflict(reason);
         if (constraint.kind == EffectKind::Clear)
-            state.Clear(Reason(constraint, option));
-    } else if (constraint.kind == EffectKind::Disable || constraint.kind == EffectKind::Clear) {
-        state.AddInfo(Reason(constraint));
-        // Of two values one is left: there is nothing to choose.
-        if (feature.Description().kind == FeatureKind::Boolean)
-            state.Disable(Reason(constraint));
+            state.Clear(reason);
+        if (constraint.kind == EffectKind::Info || constraint.kind == EffectKind::Clear)
+            state.AddInfo(reason);
+        return;
     }
+    if (constraint.kind == EffectKind::Disable || constraint.kind == EffectKind::Clear)
+        state.AddInfo(Reason(constraint));
+    if (constraint.Blocks() && feature.IsLastChoice())
+        state.Disable(Reason(constraint));
 }
 
 InterpretedState StateInterpreter::FeatureState(const FeatureNode& feature)
 {
     InterpretedState state;
+    const auto add = [&](const Constraint& constraint) {
+        // What counts for nothing is in no conflict.
+        if (constraint.kind != EffectKind::Conflict || !feature.IsIdle())
+            AddEffect(constraint.kind, Reason(constraint), state);
+    };
     for (const Constraint* constraint : ActiveInOrder(feature)) {
         if (constraint->whole)
-            AddEffect(constraint->kind, Reason(*constraint), state);
+            add(*constraint);
         else
             AddValueEffect(feature, *constraint, state);
     }
     for (const FeatureNode* list = feature.Parent(); list != nullptr; list = list->Parent()) {
         for (const Constraint* constraint : ActiveInOrder(*list))
-            AddEffect(constraint->kind, Reason(*constraint), state);
+            add(*constraint);
     }
     return state;
 }
@@ -213,7 +289,7 @@ InterpretedState StateInterpreter::UnspecifiedState(const FeatureNode& feature,
     InterpretedState unspecified;
     if (state.IsDisabled())
         unspecified.Disable(state.GetReason());
-    if (feature.Description().flags.required)
+    if (feature.IsRequired())
         unspecified.Disable(FeatureName(feature));
     const ValueId entry(DataModelIds::kValueUnspecified);
     const InterpretedState own = OptionState(feature, entry);
@@ -226,8 +302,9 @@ std::unique_ptr<CapabilitiesNode> StateInterpreter::Capabilities(const FeatureNo
 {
     const FeatureDescription& description = feature.Description();
     const InterpretedState state = FeatureState(feature);
-    auto base = std::make_unique<CapabilitiesNode>(description.flags, state,
-                                                   UnspecifiedState(feature, state));
+    CapabilityFlags flags = description.flags;
+    flags.required = feature.IsRequired();
+    auto base = std::make_unique<CapabilitiesNode>(flags, state, UnspecifiedState(feature, state));
     switch (description.kind) {
     case FeatureKind::Option:
         return OptionCapabilities(feature, *base);

@@ -2,6 +2,7 @@
 
 #include "featurenode.h"
 #include "istringsource.h"
+#include "lengthformat.h"
 #include "optioncapability.h"
 
 #include <memory>
@@ -20,6 +21,8 @@ class StateInterpreter
 public:
     /// Borrowed for the life of the interpreter.
     explicit StateInterpreter(IStringSource& strings) : m_strings(strings) {}
+
+    void SetLengthFormat(const LengthFormat& format) { m_lengths = format; }
 
     std::unique_ptr<CapabilitiesNode> Capabilities(const FeatureNode& feature);
 
@@ -48,10 +51,12 @@ private:
 
     CXString FeatureName(const FeatureNode& feature);
     CXString ValueText(const FeatureNode& feature, const FeatureValue& value);
+    CXString LengthText(const FeatureNode& feature, const Dimension& length) const;
     CXString AffectedText(const Constraint& constraint);
     const CXString& Text(unsigned number);
 
     IStringSource& m_strings;
+    LengthFormat m_lengths;
     std::unordered_map<unsigned, CXString> m_texts;
 };
 

@@ -78,7 +78,7 @@ void AddLetters(const std::string& kind, std::set<char>& letters)
                             : kind == "disable" || kind == "force" ? "di"
                             : kind == "clear"                      ? "dci"
                             : kind == "hide"                       ? "h"
-                            : kind == "info"                       ? "i"
+                            : kind == "info" || kind == "require"  ? "i"
                                                                    : "x";
     letters.insert(all.begin(), all.end());
 }
@@ -169,7 +169,7 @@ void BruteForce::AddLimits(Feature& list, const json& constraint)
             limit.when.push_back(&condition);
         const json& effect = constraint["effect"];
         for (const char* key :
-             {"options", "compare", "between", "outside", "sizeWithin", "sizeOutside"})
+             {"options", "isNot", "compare", "between", "outside", "sizeWithin", "sizeOutside"})
             limit.test = effect.contains(key) ? &effect : limit.test;
         m_limits.push_back(std::move(limit));
         return;
@@ -335,15 +335,50 @@ std::string BruteForce::StateOf(const Feature& feature) const
         const bool hit = feature.node->IsSpecified() && Asks(feature, *limit.test, Now(feature));
         const bool forbids = limit.kind == "disable" || limit.kind == "clear";
         if (hit)
-            letters.insert(limit.kind == "info" ? 'i' : 'x');
+            letters.insert(limit.kind == "info" || limit.kind == "clear" ? 'i' : 'x');
         if (hit && limit.kind == "clear")
             letters.insert('c');
         if (!hit && forbids)
             letters.insert('i');
-        if (!hit && forbids && (*feature.json)["kind"] == "boolean")
+        if (!hit && (forbids || limit.kind == "hide") && IsLastChoice(feature))
             letters.insert('d');
     }
+    if (IsIdle(feature))
+        letters.erase('x');
     return InOrder(letters);
+}
+
+/// What is chosen for it counts for nothing, because of it or of a list around it.
+bool BruteForce::IsIdle(const Feature& feature) const
+{
+    for (const Feature* one = &feature; one != nullptr; one = one->list) {
+        const bool limited = std::any_of(m_limits.begin(), m_limits.end(), [&](const Limit& limit) {
+            return limit.target == one && limit.test == nullptr && limit.kind != "info" &&
+                   limit.kind != "conflict" && limit.kind != "require" && AllHold(limit);
+        });
+        if (one->cleared || limited)
+            return true;
+    }
+    return false;
+}
+
+bool BruteForce::IsLastChoice(const Feature& feature) const
+{
+    const json& description = *feature.json;
+    const json flags = description.value("flags", json::array());
+    const bool open = std::find(flags.begin(), flags.end(), "userDefinedValues") != flags.end();
+    std::vector<json> values;
+    if (description["kind"] == "boolean")
+        values = {false, true};
+    for (const json& option : description.value("options", json::array()))
+        values.push_back(option["name"]);
+    std::erase_if(values, [&](const json& value) {
+        return std::any_of(m_limits.begin(), m_limits.end(), [&](const Limit& limit) {
+            return limit.target == &feature && limit.test != nullptr && limit.kind != "info" &&
+                   limit.kind != "conflict" && AllHold(limit) && Asks(feature, *limit.test, value);
+        });
+    });
+    return !open && feature.node->IsSpecified() && values == std::vector<json>{Now(feature)};
 }
 
 std::string BruteForce::StateOfOption(const Feature& feature, const std::string& option) const
@@ -392,7 +427,7 @@ void BruteForce::Compare(const Feature& feature, std::vector<std::string>& diffe
     const json expected = DefaultOf(feature);
     o7::FeatureValue now;
     const auto* option = feature.node->GetDefaultValue(now) ? std::get_if<ValueId>(&now) : nullptr;
-    if (!expected.is_null() && option != nullptr)
+    if (!expected.is_null() && option != nullptr && feature.forced.is_null())
         differ(" default", expected, option->GetValueName().ToUtf8());
     for (const auto& member : feature.members)
         Compare(*member, differences);

@@ -59,6 +59,8 @@ private:
     static bool Asks(const Feature& feature, const nlohmann::json& test,
                      const nlohmann::json& value);
     void Compare(const Feature& feature, std::vector<std::string>& differences) const;
+    bool IsIdle(const Feature& feature) const;
+    bool IsLastChoice(const Feature& feature) const;
     std::string StateOf(const Feature& feature) const;
     std::string StateOfOption(const Feature& feature, const std::string& option) const;
     nlohmann::json DefaultOf(const Feature& feature) const;

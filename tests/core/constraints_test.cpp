@@ -41,7 +41,7 @@ TEST(Constraints, EveryEffectOnFeatureAndOption)
         {"disable", true, "di", "di", ""},  {"clear", true, "dci", "dci", ""},
         {"hide", true, "h", "h", ""},       {"info", true, "i", "i", ""},
         {"conflict", true, "x", "x", ""},   {"disable", false, "i", "x", "di"},
-        {"clear", false, "i", "cx", "dci"}, {"hide", false, "", "x", "h"},
+        {"clear", false, "i", "ci", "dci"}, {"hide", false, "", "x", "h"},
         {"info", false, "", "i", "i"},      {"conflict", false, "", "x", "x"},
     };
     for (const Effect& effect : effects) {

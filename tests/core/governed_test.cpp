@@ -43,8 +43,9 @@ protected:
     double Width() const
     {
         Dimension width;
-        product.All().GetDimensionFeature(test::kWidth).GetValue(width,
-                                                                 FeatureRef::kAssertIfUnsupported);
+        product.All()
+            .GetDimensionFeature(test::kWidth)
+            .GetValue(width, FeatureRef::kAssertIfUnsupported);
         return width.GetDoubleValue(kMillimetre);
     }
     bool OwnSides(const Product& of) const { return of.Get(test::kSides) == test::kTwoSided; }
@@ -67,6 +68,29 @@ TEST_F(Governed, ShowTheForcedValueAndKeepTheirOwn)
     EXPECT_EQ(product.Get(test::kSides), test::kOneSided);
     EXPECT_EQ(test::Letters(product.State(test::kSides)), "");
     EXPECT_TRUE(product.Set(test::kStaple, test::kOneStaple));
+}
+
+TEST_F(Governed, DifferFromTheirDefaultOnlyByTheirOwnValue)
+{
+    const auto differs = [&] {
+        const auto node = product.All().GetFeature(test::kSides)->GetNode();
+        o7::FeatureValue value;
+        o7::FeatureValue standard;
+        return node->GetValue(value) && node->GetDefaultValue(standard) && value != standard;
+    };
+    Booklet(true);
+    EXPECT_FALSE(differs());
+    Booklet(false);
+    product.Set(test::kSides, test::kTwoSided);
+    product.All().GetBooleanFeature(test::kCollate).SetValue(false);
+    EXPECT_FALSE(differs()) << "one-sided is the default, whatever lies behind it";
+    product.All().GetBooleanFeature(test::kCollate).SetValue(true);
+    Booklet(true);
+    EXPECT_TRUE(differs());
+    product.All().GetFeature(test::kSides)->RestoreToDefaultValue();
+    EXPECT_FALSE(differs());
+    Booklet(false);
+    EXPECT_EQ(product.Get(test::kSides), test::kOneSided);
 }
 
 TEST_F(Governed, TheFirstRuleOfThePackageCounts)
@@ -99,15 +123,17 @@ TEST(GovernedSizes, FollowFromMediumToMedium)
 {
     std::string text = Sized();
     const std::string_view plain = R"("name": "plain" }, { "enum": 6002, "name": "film", "size")";
-    text.replace(text.find(plain), plain.size(),
-                 R"("name": "plain", "size": [210, 297] }, { "enum": 6002, "name": "film", "size")");
+    text.replace(
+        text.find(plain), plain.size(),
+        R"("name": "plain", "size": [210, 297] }, { "enum": 6002, "name": "film", "size")");
     const Product product{test::Whole{text}};
     test::Recorder recorder;
     product.model->RegisterObserver(recorder, kInstance, test::kWidth, 1);
     product.Set(test::kMedia, test::kFilm);
     Dimension width;
-    product.All().GetDimensionFeature(test::kWidth).GetValue(width,
-                                                             FeatureRef::kAssertIfUnsupported);
+    product.All()
+        .GetDimensionFeature(test::kWidth)
+        .GetValue(width, FeatureRef::kAssertIfUnsupported);
     EXPECT_EQ(width.GetDoubleValue(kMillimetre), 148.5) << "the rule held before and holds now";
     ASSERT_EQ(recorder.bundles.size(), 1U);
     EXPECT_NE(recorder.bundles[0].find("odrv-width value"), std::string::npos)
@@ -184,7 +210,8 @@ std::string Faults(const std::string& effect)
     std::vector<o7::PackageError> errors;
     o7::ParseProductPackage(
         test::PackageText(R"({ "id": "x", "when": [ { "feature": 130, "is": [true] } ],
-            "effect": {)" + effect + R"(}, "reason": 60000 })"),
+            "effect": {)" +
+                          effect + R"(}, "reason": 60000 })"),
         "test/package.json", errors);
     std::string text;
     for (const auto& error : errors)

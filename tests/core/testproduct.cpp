@@ -98,6 +98,7 @@ Strings::Strings()
             {46021, L"No staple"},
             {46022, L"1 staple"},
             {60000, L"{1} not with {0}"},
+            {60298, L"{1} not with {0}"},
             {60001, L"{3} ({1}) not with {0}: {2}"}}
 {
 }

@@ -76,6 +76,33 @@ public:
         }
     }
 
+    bool write(int feature, const o7::FeatureValue& value)
+    {
+        return m_model->GetFeatureRef(featureId(feature))->GetNode()->SetValue(value);
+    }
+
+    /// What every setting with a value has now.
+    std::map<int, o7::FeatureValue> values()
+    {
+        std::map<int, o7::FeatureValue> result;
+        for (const int feature : features()) {
+            o7::FeatureValue value;
+            if (m_model->GetFeatureRef(featureId(feature))->GetNode()->GetValue(value))
+                result[feature] = value;
+        }
+        return result;
+    }
+
+    bool has(int feature, int value)
+    {
+        const o7::FeatureValue now = values()[feature];
+        const auto* option = std::get_if<ValueId>(&now);
+        const auto* length = std::get_if<Dimension>(&now);
+        return option != nullptr
+                   ? *option == valueId(value)
+                   : length != nullptr && length->GetDoubleValue(length->GetUnits()) == value;
+    }
+
     std::vector<int> features()
     {
         std::vector<int> result;
@@ -149,7 +176,8 @@ TEST_P(Products, HaveEveryTextTheyNeed)
     const StringTable strings = o7::productStrings(GetParam().name, "en");
     for (const unsigned number : package->GetStringNumbers())
         EXPECT_TRUE(strings.count(number)) << "missing: " << number;
-    for (const unsigned number : {1357U, 1358U, 11014U, 11015U, 35000U, 35001U, 35002U, 60299U})
+    for (const unsigned number :
+         {1357U, 1358U, 11014U, 11015U, 35000U, 35001U, 35002U, 60298U, 60299U})
         EXPECT_TRUE(strings.count(number)) << "missing: " << number;
 }
 
@@ -225,8 +253,9 @@ TEST(SharedTexts, AreNeededBySomeProduct)
     }
     for (const unsigned number : written) {
         const bool named = number > 20000 && number < 30000;
-        // 60299 is the plug-in's: settings that may not be changed.
-        const bool ofDriver = number == 21781 || number == 21807 || number == 60299;
+        // The general reason, and the plug-in's: settings that may not be changed.
+        const bool ofDriver =
+            number == 21781 || number == 21807 || number == 60298 || number == 60299;
         if ((named || number > 45000) && !ofDriver) {
             EXPECT_TRUE(needed.count(number)) << "never used: " << number;
         }
@@ -281,7 +310,8 @@ const Story kOfficeStories[] = {
     {"no hard disk: normal print", {{3043, 0}}, 3001, 5100, Effect::Free},
     {"labels one-sided", {{3004, 5134}}, 3005, 5141, Effect::Disabled},
     {"two-sided, then labels", {{3005, 5141}, {3004, 5134}}, 3005, 0, Effect::Conflict},
-    {"envelope size, plain paper", {{3002, 5116}}, 3004, 0, Effect::Conflict},
+    {"envelope size, recycled paper", {{3004, 5131}, {3002, 5116}}, 3004, 0, Effect::Conflict},
+    {"envelope size, its type follows", {{3002, 5116}}, 3004, 0, Effect::Disabled},
     {"envelope size and type", {{3002, 5116}, {3004, 5136}}, 3004, 5136, Effect::Free},
     {"envelope type on A4", {{3004, 5136}}, 3004, 0, Effect::Conflict},
     {"envelopes not from tray 2", {{3002, 5116}, {3004, 5136}}, 3003, 5122, Effect::Disabled},
@@ -311,8 +341,8 @@ const Story kOfficeStories[] = {
     {"narrow sheets from the bypass", {{3002, 5250}, {3103, 95}}, 3003, 5121, Effect::Disabled},
     {"a fax is not stapled", {{3050, 1}, {3001, 5240}}, 3012, 0, Effect::Disabled},
     {"recipients of a fax", {{3050, 1}, {3001, 5240}}, 3260, 0, Effect::Free},
-    {"PIN of a secure job", {{3001, 5101}}, 3240, 0, Effect::Free},
-    {"colour not allowed", {{3083, 5786}}, 3009, 0, Effect::Info},
+    {"PIN of a secure job is needed", {{3001, 5101}}, 3240, 0, Effect::Info},
+    {"colour not allowed: nothing to choose", {{3083, 5786}}, 3009, 0, Effect::Disabled},
     {"colour, then not allowed", {{3009, 5151}, {3083, 5786}}, 3009, 0, Effect::Conflict},
     {"glossy paper in tray 2", {{3076, 5133}, {3004, 5133}}, 3003, 5122, Effect::Free},
 };
@@ -374,6 +404,55 @@ constexpr struct
     {"mono-m210", kMonoStories},     {"photo-x150", kPhotoStories},
     {"wide-w360", kWideStories},
 };
+
+/// What holds while something else governs a setting, whatever was chosen for it.
+struct Governed
+{
+    const char* product;
+    std::vector<std::pair<int, int>> choices;
+    int feature;
+    int value;
+};
+
+const Governed kGoverned[] = {
+    {"office-c430", {{3018, 1}}, 3005, 5142},
+    {"office-c430", {{3018, 1}}, 3016, 5181},
+    {"office-c430", {{3121, 5}, {3018, 1}}, 3121, 0},
+    {"office-c430", {{3005, 5141}, {3046, 0}}, 3005, 5140},
+    {"office-c430", {{3018, 1}, {3046, 0}}, 3005, 5140},
+    {"office-c430", {{3012, 5161}, {3050, 1}, {3001, 5240}}, 3012, 5160},
+    {"office-c430", {{3050, 1}, {3001, 5240}}, 3009, 5152},
+    {"production-p900", {{3018, 1}}, 3005, 5142},
+    {"production-p900", {{3018, 1}}, 3016, 5181},
+    {"mono-m210", {{3018, 1}}, 3005, 5142},
+    {"mono-m210", {{3127, 5459}, {3018, 1}}, 3127, 5458},
+    {"mono-m210", {{3016, 5181}, {3127, 5459}}, 3016, 5180},
+    {"wide-w360", {{3003, 5310}}, 3287, 5670},
+};
+
+TEST(Constraints, SayWhatHoldsAndGiveThePersonsOwnBack)
+{
+    for (const Governed& governed : kGoverned) {
+        SCOPED_TRACE(std::string(governed.product) + " " + std::to_string(governed.feature));
+        Product product(governed.product);
+        ASSERT_TRUE(product.loaded());
+        const auto defaults = product.values();
+        std::map<int, o7::FeatureValue> own;
+        for (const auto& [feature, value] : governed.choices) {
+            EXPECT_TRUE(product.set(feature, value)) << feature << "=" << value;
+            own[feature] = product.values()[feature];
+        }
+        EXPECT_TRUE(product.has(governed.feature, governed.value));
+        EXPECT_TRUE(product.state(governed.feature).IsDisabled());
+        EXPECT_FALSE(product.state(governed.feature).HasCbrBtnMsg());
+        // Back to the defaults, the last choice first: what was chosen before stands there again.
+        for (auto choice = governed.choices.rbegin(); choice != governed.choices.rend(); ++choice) {
+            EXPECT_EQ(product.values()[choice->first], own[choice->first]) << choice->first;
+            EXPECT_TRUE(product.write(choice->first, defaults.at(choice->first)));
+        }
+        EXPECT_EQ(product.values(), defaults);
+    }
+}
 
 TEST(Constraints, LimitWhatAPersonExpects)
 {

@@ -2,6 +2,18 @@
 
 #include "featureservices.h"
 
+namespace {
+
+/// An empty text is none.
+bool hasValue(const IFeatureNode& feature)
+{
+    o7::FeatureValue value;
+    const auto* text = feature.GetValue(value) ? std::get_if<CXString>(&value) : nullptr;
+    return feature.IsSpecified() && (text == nullptr || !text->IsBlank());
+}
+
+} // namespace
+
 UIDataValidator::UIDataValidator(FeatureServices& featureServices, UIEventProcessor&)
     : m_featureServices(featureServices)
 {
@@ -14,7 +26,7 @@ bool UIDataValidator::validate(const NMHDR&)
     const std::size_t count = node ? node->GetNumChildren() : 0;
     for (std::size_t index = 0; index < count; ++index) {
         const auto feature = node->GetChild(index);
-        if (!feature || feature->IsSpecified())
+        if (!feature || hasValue(*feature))
             continue;
         const auto capabilities = feature->GetCapabilities();
         if (!capabilities || !capabilities->IsRequired())

@@ -11,6 +11,7 @@
 #include "optionfeatureref.h"
 #include "productdata.h"
 #include "productstringloader.h"
+#include "trace.h"
 #include "uicoloraccesspinhandler.h"
 #include "uicolorhandler.h"
 #include "uicontext.h"
@@ -26,6 +27,7 @@
 #include "uipopupsheet.h"
 #include "uiservices.h"
 #include "uispecialfeaturehandler.h"
+#include "uistringnumbers.h"
 #include "uitabmanager.h"
 #include "uitvtabmanager.h"
 
@@ -99,7 +101,14 @@ void UIManager::initializePartI(FeatureServices& featureServices, ProductStringL
                             .GetValue()
                             .GetValueEnum();
     m_uiData = m_dataSource->createDescription(m_mode, family, m_workflow);
+    if (m_uiData->isEmpty())
+        o7::trace(CXString::Formatted(L"nothing to show: no description for family %d in mode %d",
+                                      static_cast<int>(family), static_cast<int>(m_mode)));
     m_services = std::make_unique<UIServices>(strings.GetLanguage());
+    const UIRegionalSettings& regional = m_services->getRegionalSettings();
+    featureServices.SetLengthFormat({regional.metric, regional.decimalSeparator,
+                                     strings.LoadStringW(O7STR_U_MILLIMETRE),
+                                     strings.LoadStringW(O7STR_U_INCH)});
     m_messageManager = std::make_unique<UIMessageManager>();
     m_context.reset(new UIContext{featureServices, strings, m_productData});
     m_popupLauncher = std::make_unique<UIPopupLauncher>(

@@ -52,7 +52,9 @@ void UISheetApply::pageAnswered(const _UIWindowsMessage& message) const
 bool UISheetApply::isAcceptable(const _UIWindowsMessage& message) const
 {
     UIDataValidator validator(m_featureServices, m_eventProcessor);
-    const bool isComplete = validator.validate(*reinterpret_cast<const NMHDR*>(message.lParam));
+    // Whoever sets defaults for everybody leaves names and numbers to each person.
+    const bool isComplete = m_mode == UIMode::PrintingDefaults ||
+                            validator.validate(*reinterpret_cast<const NMHDR*>(message.lParam));
     if (isComplete && m_areas.validate())
         return true;
     if (!isComplete)
