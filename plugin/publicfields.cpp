@@ -168,13 +168,19 @@ bool setCustomSize(const ListOfFeaturesRef& features, const ValueId& paper, int 
         return dimension(features, id)
             .SetValue(Dimension(size, Dimension::UnitsEnum::TenthOfMillimetre));
     };
-    const PaperSize before = sizeOfPaper(features, kCustomPaper);
-    if (set(kCustomWidth, width) && set(kCustomLength, length) &&
-        featureOf(features, DocumentField::PaperSize).SetValue(paper)) {
+    // The paper first: while it is one with a size, that is what both lengths say.
+    OptionFeatureRef papers = featureOf(features, DocumentField::PaperSize);
+    const ValueId paperBefore = papers.GetValue();
+    if (!papers.SetValue(paper)) {
+        return false;
+    }
+    const PaperSize before = sizeOfPaper(features, paper);
+    if (set(kCustomWidth, width) && set(kCustomLength, length)) {
         return true;
     }
     set(kCustomWidth, before.width);
     set(kCustomLength, before.height);
+    papers.SetValue(paperBefore);
     return false;
 }
 
