@@ -1,5 +1,4 @@
-// The small black-and-white device. It has printing preferences and device settings only: what it
-// can do fits one look, so there is no compact dialog and no page of defaults.
+// The small black-and-white device.
 #include "rootrecords.h"
 #include "sharedgroups.h"
 
@@ -89,15 +88,25 @@ constexpr UIColumnRecord kTrayContentsColumns[] = {left(kTrayContentsLeft),
 constexpr UIContainerRecord kTrayContentsPage =
     devicePage(2, O7STR_TAB_TRAYS, kTrayContentsColumns);
 
-// The two interfaces
+// Dialogs
+constexpr UIMoleculeRecord kQuickPaperGroup[] = {s::kPaperSize, s::kPaperTray, s::kSides,
+                                                 s::kOrientation, s::kCopies};
+constexpr UIMoleculeRecord kQuickOutputGroup[] = {s::kPrintQualityList, s::kJobType};
+constexpr UIMoleculeRecord kQuickLeft[] = {group(O7STR_G_PAPER, kQuickPaperGroup)};
+constexpr UIMoleculeRecord kQuickRight[] = {group(O7STR_G_OUTPUT, kQuickOutputGroup)};
+constexpr UIColumnRecord kQuickColumns[] = {left(kQuickLeft), right(kQuickRight)};
+
+// The four interfaces
 constexpr UIContainerRecord kPreferences[] = {kBasicsPage, kLayoutPage, kImagePage, kJobPage,
                                               kAdvancedPage};
 constexpr UIContainerRecord kDevice[] = {kServicePage, kTrayContentsPage};
-constexpr UIContainerRecord kDialogs[] = {kTrackingOffDialog};
+constexpr UIContainerRecord kDialogs[] = {quick(183, kQuickColumns), kTrackingOffDialog};
 
 constexpr UIRootRecord kRoots[] = {
     preferences(DataModelIds::kValueFamily8432, kPreferences, kDialogs),
     deviceSettings(DataModelIds::kValueFamily8432, kDevice, kDialogs),
+    compact(DataModelIds::kValueFamily8432, kDialogs),
+    defaults(DataModelIds::kValueFamily8432, kPreferences, kDialogs),
 };
 
 } // namespace
