@@ -20,8 +20,6 @@ choose "Sides" "Two-sided, short edge"
 untick "Collate copies"
 press "OK"
 expect document paper is A5
-expect document width is 148
-expect document length is 210
 expect document duplex is short
 expect document collate is off
 expect document copies is 3

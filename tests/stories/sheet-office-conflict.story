@@ -6,10 +6,11 @@ open
 choose "Sides" "Two-sided, long edge"
 expect "Sides" no conflict
 expect tab "Paper/Output" unmarked
-choose "Paper type" "Transparency"
+choose "Paper type" "Labels"
 expect "Sides" conflict
+expect count conflicts 1
 expect tab "Paper/Output" marked
-expect status contains "Sides"
+expect status contains "In conflict"
 page "Layout"
 key F8
 key Home
@@ -19,6 +20,6 @@ expect tab "Paper/Output" unmarked
 press "OK"
 expect closed
 reopen
-expect "Paper type" is "Transparency"
+expect "Paper type" is "Labels"
 expect "Sides" is "One-sided"
 press "Cancel"

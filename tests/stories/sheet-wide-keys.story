@@ -1,4 +1,4 @@
-# Everything by the keyboard: a list that opens with Alt+Down, a box that Space ticks, Enter for OK.
+# By the keyboard: a list that opens with Alt+Down, a box that Space ticks, Enter for OK.
 product wide-w360
 entry sheet
 mode 1
@@ -9,7 +9,7 @@ key Enter
 expect "Cutting" is "After the job"
 key Space in "Collate copies"
 expect "Collate copies" is "unchecked"
-key Ctrl+Tab
+page "Layout"
 expect "Orientation" is "Landscape"
 choose "Orientation" "Portrait"
 key Enter
