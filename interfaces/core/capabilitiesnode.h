@@ -11,6 +11,7 @@ struct CapabilityFlags
     bool required = false;  ///< Cannot be left unspecified.
     bool stateOnly = false; ///< Reports a state of the device; not a setting of the job.
     bool device = false;    ///< An installed option: belongs to the printer, not to a job.
+    bool secret = false;    ///< Never shown, and kept nowhere but in the document it is chosen for.
 };
 
 } // namespace o7
@@ -32,6 +33,7 @@ public:
     bool IsRequired() const { return m_flags.required; }
     bool IsStateOnlyFeature() const { return m_flags.stateOnly; }
     bool IsDeviceFeature() const { return m_flags.device; }
+    bool IsSecret() const { return m_flags.secret; }
 
     /// The state of the whole feature.
     const InterpretedState& GetInterpretedState() const { return m_state; }

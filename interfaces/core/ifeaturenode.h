@@ -39,7 +39,8 @@ public:
 
     /// A snapshot of limits and constraint state, of the class that fits the kind
     /// (OptionCapability, RangeCapability, RangeOfDimensionCapability, StringCapability,
-    /// ListOfFeaturesCapability, else CapabilitiesNode). Null for an unsupported feature.
+    /// ListOfFeaturesCapability, ListOfValuesCapability, else CapabilitiesNode). Null for an
+    /// unsupported feature.
     virtual std::unique_ptr<CapabilitiesNode> GetCapabilities() const = 0;
 
     /// The feature of this list of features. Never null: an unknown feature gives a node of kind

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "featureref.h"
+#include "listofvaluescapability.h"
 #include "optionfeatureref.h"
 
 #include <cstddef>
@@ -25,8 +26,14 @@ public:
     }
     inline ListOfFeaturesRef GetListOfFeatures(std::size_t index) const;
 
+    /// How much the list takes, and whether and why not a further item.
+    std::unique_ptr<ListOfValuesCapability> GetListOfValuesCapabilities() const
+    {
+        return CapabilitiesAs<ListOfValuesCapability>();
+    }
+
     /// Appends an item with default values; designates nothing when refused (unsupported,
-    /// read-only, full, or items are of the other kind).
+    /// read-only, full, no room in a document, or items are of the other kind).
     OptionFeatureRef CreateOptionFeature()
     {
         return OptionFeatureRef(Create(o7::FeatureKind::Option));

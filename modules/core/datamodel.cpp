@@ -1,5 +1,6 @@
 #include "datamodel.h"
 
+#include "settingsblock.h"
 #include "trace.h"
 #include "transaction.h"
 
@@ -51,6 +52,7 @@ DataModel::DataModel(std::shared_ptr<const ProductDescription> product, IStringS
     m_root =
         std::make_shared<FeatureNode>(*this, nullptr, m_rootDescription, FeatureIdWithContext());
     m_root->BuildMembers();
+    m_room = std::make_unique<SettingsRoom>(*m_product, *m_root);
     m_engine.Attach(*m_root);
     m_log.TakeBase();
     m_accepted = CaptureSettings(*m_root);
@@ -145,16 +147,31 @@ ListOfFeaturesRef DataModel::GetListOfFeaturesByGroup(FeatureEnum group)
 
 bool DataModel::SetValue(FeatureNode& feature, const FeatureValue& value)
 {
+    const FeatureDescription& description = feature.Description();
+    const std::size_t bytes = RoomFor(description, value);
+    if (m_interpreter.IsLocked(feature) ||
+        (bytes != 0 && !m_room->Take(bytes, RoomFor(description, feature.StoredValue()))))
+        return false;
     return Operate([&] { return m_writer.SetValue(feature, value); });
 }
 
 bool DataModel::SetSpecified(FeatureNode& feature, bool specified)
 {
+    const std::size_t bytes = specified && !feature.StoredSpecified()
+                                  ? RoomFor(feature.Description(), feature.StoredValue())
+                                  : 0;
+    if (m_interpreter.IsLocked(feature) || (bytes != 0 && !m_room->Take(bytes)))
+        return false;
     return Operate([&] { return m_writer.SetSpecified(feature, specified); });
 }
 
 std::shared_ptr<FeatureNode> DataModel::CreateItem(FeatureNode& list)
 {
+    const auto* kind = list.Description().item.get();
+    if (m_interpreter.IsLocked(list))
+        return nullptr;
+    if (kind != nullptr && !m_room->Take(LongestEntry(*kind, DefaultSettings(*kind))))
+        return nullptr;
     std::shared_ptr<FeatureNode> item;
     Operate([&] { return (item = m_writer.CreateItem(list)) != nullptr; });
     return item;
@@ -162,17 +179,27 @@ std::shared_ptr<FeatureNode> DataModel::CreateItem(FeatureNode& list)
 
 bool DataModel::DeleteItems(FeatureNode& list, const std::vector<std::size_t>& indices)
 {
-    return Operate([&] { return m_writer.DeleteItems(list, indices); });
+    return !m_interpreter.IsLocked(list) &&
+           Operate([&] { return m_writer.DeleteItems(list, indices); });
 }
 
 bool DataModel::CopyFrom(FeatureNode& feature, const IFeatureNode& source)
 {
-    return Operate([&] { return m_writer.CopyFrom(feature, source); });
+    if (m_interpreter.IsLocked(feature))
+        return false;
+    if (IsLeaf(feature))
+        return Operate([&] { return m_writer.CopyFrom(feature, source); });
+    // How much a list brings along shows when it is there.
+    const auto transaction = OpenTransaction(CXString());
+    m_room->Forget();
+    const bool copied = m_writer.CopyFrom(feature, source) && m_room->IsEnough();
+    transaction->Close(copied);
+    return copied;
 }
 
 bool DataModel::RestoreToDefault(FeatureNode& feature)
 {
-    return Operate([&] {
+    return !m_interpreter.IsLocked(feature) && Operate([&] {
         m_writer.RestoreToDefault(feature);
         return true;
     });
@@ -191,6 +218,7 @@ void DataModel::RollBackInnermost()
         m_writer.Undo(std::move(*step));
     undo.clear();
     m_log.Innermost().undo = std::move(undo);
+    m_room->Forget();
 }
 
 bool DataModel::CloseTransaction(std::uint64_t transaction, bool commit)
@@ -264,6 +292,7 @@ void DataModel::RevertToAccepted()
 {
     while (m_log.IsAnyOpen())
         CloseTransaction(m_log.Innermost().id, false);
+    m_room->Forget();
     Operate([&] {
         m_writer.Apply(*m_root, m_accepted);
         return true;
@@ -272,6 +301,7 @@ void DataModel::RevertToAccepted()
 
 void DataModel::Adopt(const SettingsSnapshot& settings)
 {
+    m_room->Forget();
     Operate([&] {
         m_writer.Apply(*m_root, settings);
         // Accepted before anybody is told, so that an observer's answer counts as a modification.

@@ -5,6 +5,7 @@
 #include "counted.h"
 #include "idatamodel.h"
 #include "notifier.h"
+#include "settingsroom.h"
 #include "settingswriter.h"
 #include "stateinterpreter.h"
 
@@ -58,14 +59,20 @@ public:
     // IDataModel
     bool SaveJobTicket(const std::filesystem::path& file, std::string& message) override;
     JobTicketResult LoadJobTicket(const std::filesystem::path& file) override;
-    bool ExportSettings(std::vector<std::uint8_t>& block, std::size_t limit) const override;
-    bool ImportSettings(const std::uint8_t* bytes, std::size_t size) override;
+    bool ExportSettings(std::vector<std::uint8_t>& block, std::size_t limit,
+                        SettingsScope scope) const override;
+    bool ImportSettings(const std::uint8_t* bytes, std::size_t size, SettingsScope scope) override;
     std::uint64_t GetEvaluationCount() const override { return m_engine.Evaluations(); }
+    void LockSettings(unsigned reasonStringNumber) override
+    {
+        m_interpreter.Lock(reasonStringNumber);
+    }
 
     // For the nodes and the transactions.
     FeatureNode* FindNode(const FeatureIdWithContext& feature) const;
     const ConstraintEngine& Engine() const { return m_engine; }
     StateInterpreter& Interpreter() { return m_interpreter; }
+    std::unique_ptr<CapabilitiesNode> Capabilities(const FeatureNode& feature);
     bool SetValue(FeatureNode& feature, const FeatureValue& value);
     bool SetSpecified(FeatureNode& feature, bool specified);
     std::shared_ptr<FeatureNode> CreateItem(FeatureNode& list);
@@ -103,6 +110,9 @@ private:
     void Accept(const EventNotification& event);
     void Cancel(const EventNotification& event);
     SettingsSnapshot DefaultsOf() const { return ResettableDefaults(*m_root); }
+    /// What keeps a list from getting a further item; disabled, with the reason, when anything
+    /// does.
+    InterpretedState NewItemState(const FeatureNode& list);
     /// Makes a complete set of settings the current and the accepted one.
     void Adopt(const SettingsSnapshot& settings);
 
@@ -114,6 +124,7 @@ private:
     Notifier m_notifier;
     StateInterpreter m_interpreter;
     std::shared_ptr<FeatureNode> m_root;
+    std::unique_ptr<SettingsRoom> m_room;
     SettingsSnapshot m_accepted;
     /// What the job ticket held besides our settings, as JSON text.
     std::string m_foreignTicketEntries;

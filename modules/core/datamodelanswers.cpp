@@ -72,6 +72,9 @@ std::vector<StateReason> DataModel::GetStateReasons(const FeatureIdWithContext& 
                            RemediesOf(constraint)});
     };
     const FeatureNode* node = FindNode(feature);
+    if (node != nullptr && m_interpreter.IsLocked(*node))
+        reasons.push_back(
+            {"locked", EffectKind::Disable, m_interpreter.LockReason(), node->GetId(), {}, {}});
     for (const FeatureNode* limited = node; limited != nullptr; limited = limited->Parent()) {
         for (const Constraint* constraint : ActiveInOrder(*limited)) {
             const auto* present = std::get_if<ValueId>(&limited->PresentValue());
@@ -105,7 +108,7 @@ ChangeProposal DataModel::ProposeChange(const FeatureIdWithContext& feature,
     const auto* option = std::get_if<ValueId>(&wanted);
     if (option != nullptr && option->GetValueEnum() == DataModelIds::kValueUnspecified)
         wanted = {};
-    if (node == nullptr || !m_writer.CanTake(*node, wanted))
+    if (node == nullptr || m_interpreter.IsLocked(*node) || !m_writer.CanTake(*node, wanted))
         return proposal;
     proposal.possible = true;
     std::vector<ConflictResolver::Plan> plans;
@@ -137,7 +140,7 @@ DataModel::Resolved(const Alternative& alternative)
     for (const SettingChange& change : alternative.changes) {
         FeatureNode* node = FindNode(change.feature);
         FeatureValue value = change.after;
-        if (node == nullptr || !m_writer.CanTake(*node, value))
+        if (node == nullptr || m_interpreter.IsLocked(*node) || !m_writer.CanTake(*node, value))
             return {};
         writes.emplace_back(node, std::move(value));
     }

@@ -1,6 +1,7 @@
 // The part of the data model that keeps settings outside the process.
 #include "datamodel.h"
 #include "jobticket.h"
+#include "listofvaluescapability.h"
 #include "settingsblock.h"
 
 #include <fstream>
@@ -10,6 +11,10 @@
 
 namespace o7 {
 namespace {
+
+/// Why a list takes no further item: texts of every product.
+constexpr unsigned kDocumentIsFull = 60296;
+constexpr unsigned kListIsFull = 60269;
 
 constexpr std::uintmax_t kLargestTicket = 4U << 20U;
 
@@ -85,6 +90,7 @@ JobTicketResult DataModel::LoadJobTicket(const std::filesystem::path& file)
     std::string fault = "it cannot be read";
     JobTicket ticket{DefaultsOf(), {}, {}};
     if (ReadWhole(file, text) && ReadJobTicket(*m_product, text, ticket, fault)) {
+        const std::string trimmed = TrimToRoom(*m_product, ticket.settings);
         m_foreignTicketEntries = std::move(ticket.foreignEntries);
         Adopt(ticket.settings);
         result.outcome = JobTicketOutcome::Loaded;
@@ -92,6 +98,11 @@ JobTicketResult DataModel::LoadJobTicket(const std::filesystem::path& file)
             result.message = "These settings have values that this product does not have, and "
                              "start from their defaults: " +
                              ticket.refused;
+        if (!trimmed.empty())
+            result.message += (result.message.empty() ? "" : ". ") +
+                              ("These lists have more entries than a document has room for, and "
+                               "lose the last ones: " +
+                               trimmed);
         return result;
     }
     result.outcome = JobTicketOutcome::Damaged;
@@ -103,22 +114,46 @@ JobTicketResult DataModel::LoadJobTicket(const std::filesystem::path& file)
     return result;
 }
 
-bool DataModel::ExportSettings(std::vector<std::uint8_t>& block, std::size_t limit) const
+bool DataModel::ExportSettings(std::vector<std::uint8_t>& block, std::size_t limit,
+                               SettingsScope scope) const
 {
-    block = EncodeSettings(*m_product, m_accepted);
+    block = EncodeSettings(*m_product, m_accepted, scope);
     if (block.size() <= limit)
         return true;
     block.clear();
     return false;
 }
 
-bool DataModel::ImportSettings(const std::uint8_t* bytes, std::size_t size)
+bool DataModel::ImportSettings(const std::uint8_t* bytes, std::size_t size, SettingsScope scope)
 {
-    SettingsSnapshot settings = DefaultsOf();
-    if (!DecodeSettings(*m_product, bytes, size, settings))
+    SettingsSnapshot settings = ResettableDefaults(*m_root, scope);
+    if (!DecodeSettings(*m_product, bytes, size, scope, settings))
         return false;
+    TrimToRoom(*m_product, settings);
     Adopt(settings);
     return true;
+}
+
+InterpretedState DataModel::NewItemState(const FeatureNode& list)
+{
+    InterpretedState state;
+    const FeatureDescription& item = *list.Description().item;
+    if (m_interpreter.IsLocked(list))
+        state.Disable(m_interpreter.LockReason());
+    else if (list.Children().size() >= list.Description().maxItems)
+        state.Disable(m_interpreter.Sentence(kListIsFull));
+    else if (!m_room->Has(LongestEntry(item, DefaultSettings(item))))
+        state.Disable(m_interpreter.Sentence(kDocumentIsFull));
+    return state;
+}
+
+std::unique_ptr<CapabilitiesNode> DataModel::Capabilities(const FeatureNode& feature)
+{
+    auto capabilities = m_interpreter.Capabilities(feature);
+    if (!feature.Description().item)
+        return capabilities;
+    return std::make_unique<ListOfValuesCapability>(*capabilities, feature.Description().maxItems,
+                                                    NewItemState(feature));
 }
 
 } // namespace o7

@@ -11,6 +11,37 @@ std::size_t Utf16Length(const CXString& text)
     return text.ToUtf16Le().size() / 2;
 }
 
+constexpr auto kNumber = [](const auto& one) { return static_cast<int>(one.number); };
+constexpr auto kName = [](const auto& one) -> const CXString& { return one.name; };
+
+/// What it was called in that version, if not as today; else an empty id.
+template <typename Id, typename Part>
+Id FormerOf(const FormerIds& former, unsigned version, Part part)
+{
+    for (const FormerId& id : former) {
+        if (id.until >= version && part(id) != Id())
+            return part(id);
+    }
+    return Id();
+}
+
+/// A former number may have been given to another since, so former ones count first.
+template <typename Described, typename Id, typename Part>
+std::size_t FindAt(const std::vector<Described>& all, unsigned version, const Id& id, Part part)
+{
+    const auto index = [&](const auto& isMeant) {
+        const auto found = std::find_if(all.begin(), all.end(), isMeant);
+        return found == all.end() ? ListDescription::kNotThere
+                                  : static_cast<std::size_t>(found - all.begin());
+    };
+    const std::size_t renamed = index([&](const Described& one) {
+        return !one.former.empty() && id != Id() && FormerOf<Id>(one.former, version, part) == id;
+    });
+    return renamed != ListDescription::kNotThere ? renamed : index([&](const Described& one) {
+        return part(one) == id && FormerOf<Id>(one.former, version, part) == Id();
+    });
+}
+
 } // namespace
 
 bool FeatureDescription::IsPrivate() const
@@ -35,6 +66,23 @@ bool FeatureDescription::AcceptsOption(ValueId& value) const
     value = ValueId(DataModelIds::kValueFirstUserText, Id(), value.GetValueName(),
                     value.GetValueName());
     return true;
+}
+
+ValueId FeatureDescription::PresentOption(const ValueId& value, unsigned version) const
+{
+    if (value.GetValueEnum() == DataModelIds::kValueFirstUserText)
+        return value;
+    const bool byName = value.GetValueEnum() == DataModelIds::kValueByName;
+    const std::size_t found =
+        byName ? FindAt(options, version, value.GetValueName(), kName)
+               : FindAt(options, version, static_cast<int>(value.GetValueEnum()), kNumber);
+    if (found < options.size())
+        return ValueId(options[found].number, Id(), options[found].name, CXString());
+    // What is not an option's name today either may be a text of the user's own.
+    const bool own = byName && std::none_of(options.begin(), options.end(), [&](const auto& one) {
+                         return one.name == value.GetValueName();
+                     });
+    return own ? value : ValueId(DataModelIds::kNoValue);
 }
 
 bool FeatureDescription::AcceptsInteger(int value) const
@@ -97,6 +145,7 @@ bool FeatureDescription::Accepts(FeatureValue& value) const
 void ListDescription::Add(FeatureDescription feature)
 {
     m_index.try_emplace(feature.number, features.size());
+    m_hasFormer = m_hasFormer || !feature.former.empty();
     features.push_back(std::move(feature));
 }
 
@@ -104,6 +153,30 @@ std::size_t ListDescription::IndexOf(FeatureEnum number) const
 {
     const auto found = m_index.find(number);
     return found == m_index.end() ? kNotThere : found->second;
+}
+
+std::size_t ListDescription::IndexAt(unsigned version, std::uint64_t number) const
+{
+    constexpr std::uint64_t kHighest = 0x7FFFFFFF;
+    if (number > kHighest)
+        return kNotThere;
+    return m_hasFormer ? FindAt(features, version, static_cast<int>(number), kNumber)
+                       : IndexOf(static_cast<FeatureEnum>(number));
+}
+
+std::size_t ListDescription::IndexAt(unsigned version, const CXString& name) const
+{
+    return FindAt(features, version, name, kName);
+}
+
+CXString ListDescription::NameAt(unsigned version, std::size_t index) const
+{
+    const FeatureDescription& feature = features[index];
+    if (!m_hasFormer)
+        return feature.name;
+    const CXString former = FormerOf<CXString>(feature.former, version, kName);
+    const CXString& name = former.IsEmpty() ? feature.name : former;
+    return IndexAt(version, name) == index ? name : CXString();
 }
 
 const FeatureDescription* ListDescription::Find(FeatureEnum number) const

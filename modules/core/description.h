@@ -8,6 +8,7 @@
 #include "valuetest.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -22,11 +23,23 @@ using FeatureEnum = DataModelIds::tagFeatureEnum;
 using ValueEnum = DataModelIds::tagValueEnum;
 using Comparison = DataModelIds::tagComparisonEnum;
 
+/// What a feature or a value was called up to a version of the package.
+struct FormerId
+{
+    unsigned until = 0; ///< The last version in which it was so.
+    int number = 0;     ///< 0: as afterwards.
+    CXString name;      ///< Empty: as afterwards.
+};
+
+/// In rising order of their versions.
+using FormerIds = std::vector<FormerId>;
+
 struct OptionDescription
 {
     ValueEnum number = DataModelIds::kNoValue;
     CXString name;
     std::optional<std::pair<Dimension, Dimension>> size; ///< Of a medium: width and height.
+    FormerIds former = {};
 };
 
 struct ConditionDescription
@@ -100,6 +113,7 @@ struct FeatureDescription
     std::shared_ptr<const ListDescription> list;    ///< ListOfFeatures: its members.
     std::shared_ptr<const FeatureDescription> item; ///< ListOfValues: what its items are.
     std::size_t maxItems = 1000;
+    FormerIds former;
     unsigned line = 0;
 
     bool IsPrivate() const;
@@ -113,6 +127,10 @@ struct FeatureDescription
     /// Whether the value fits the feature, apart from constraints. A value of an option feature is
     /// completed: number and name are both filled in (the display string is not).
     bool Accepts(FeatureValue& value) const;
+
+    /// The option that a package of this version knew by the number or the name of `value`; one
+    /// that there is not (any more) comes back as a value that Accepts() refuses.
+    ValueId PresentOption(const ValueId& value, unsigned version) const;
 
 private:
     bool AcceptsOption(ValueId& value) const;
@@ -133,13 +151,24 @@ struct ListDescription
     const FeatureDescription* Find(FeatureEnum number) const;
     const FeatureDescription* Find(const CXString& name) const;
 
+    /// The member that a package of this version knew by the number, or by the name; kNotThere
+    /// without one.
+    std::size_t IndexAt(unsigned version, std::uint64_t number) const;
+    std::size_t IndexAt(unsigned version, const CXString& name) const;
+    /// What a package of this version called the member; empty when that meant another then.
+    CXString NameAt(unsigned version, std::size_t index) const;
+
 private:
     std::unordered_map<int, std::size_t> m_index;
+    bool m_hasFormer = false;
 };
+
+inline constexpr unsigned kHighestPackageVersion = 0xFFFF;
 
 struct ProductDescription
 {
     ProductInfo info;
+    unsigned version = 1; ///< Of the package; settings say which one wrote them, 0 for none.
     std::filesystem::path folder;
     ListDescription root;
 };

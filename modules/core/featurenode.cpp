@@ -117,7 +117,7 @@ bool FeatureNode::SetValue(const FeatureValue& value)
 
 std::unique_ptr<CapabilitiesNode> FeatureNode::GetCapabilities() const
 {
-    return IsAlive() ? m_model->Interpreter().Capabilities(*this) : nullptr;
+    return IsAlive() ? m_model->Capabilities(*this) : nullptr;
 }
 
 IFeatureNode::Ptr FeatureNode::FindFeature(const FeatureId& feature) const

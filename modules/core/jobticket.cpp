@@ -2,6 +2,7 @@
 
 #include "crc32.h"
 #include "locatedjson.h"
+#include "settingsscope.h"
 
 #include <nlohmann/json.hpp>
 
@@ -53,7 +54,7 @@ json ToJson(const ListDescription& list, const SettingsSnapshot& settings, json 
 {
     for (std::size_t i = 0; i < list.features.size(); ++i) {
         const FeatureDescription& member = list.features[i];
-        if (!member.IsKept() || !member.savedInTicket || member.kind == FeatureKind::Resolution)
+        if (!member.savedInTicket || !Travels(member, SettingsScope::All))
             continue;
         const std::string name = member.name.ToUtf8();
         if (settings.children[i].followsDefault) {
@@ -132,17 +133,19 @@ FeatureValue FromJson(const FeatureDescription& description, const json& entry)
 class TicketReader
 {
 public:
-    explicit TicketReader(std::string& refused) : m_refused(refused) {}
+    /// @param version  of the package that wrote the ticket.
+    TicketReader(unsigned version, std::string& refused) : m_version(version), m_refused(refused) {}
 
     void ReadMembers(const ListDescription& list, json& entries, SettingsSnapshot& settings)
     {
         for (std::size_t i = 0; i < list.features.size(); ++i) {
             const FeatureDescription& member = list.features[i];
-            const auto entry = entries.find(member.name.ToUtf8());
+            const auto entry = entries.find(list.NameAt(m_version, i).ToUtf8());
             if (entry == entries.end() || member.kind == FeatureKind::Resolution ||
                 !member.IsKept())
                 continue;
-            if (member.loadedFromTicket)
+            // Secrets were written once; they are not to come back, nor to stay.
+            if (member.loadedFromTicket && !member.flags.secret)
                 Read(member, *entry, settings.children[i]);
             const bool foreignInside = member.list && entry->is_object() && !entry->empty();
             if (!foreignInside && member.savedInTicket)
@@ -164,6 +167,8 @@ private:
             settings.Choose({});
         } else {
             FeatureValue value = FromJson(description, entry);
+            if (auto* option = std::get_if<ValueId>(&value))
+                *option = description.PresentOption(*option, m_version);
             if (description.Accepts(value))
                 settings.Choose(std::move(value));
             else
@@ -173,12 +178,14 @@ private:
 
     void ReadItems(const FeatureDescription& list, json& entry, SettingsSnapshot& settings)
     {
-        if (!entry.is_array() || entry.size() > list.maxItems) {
+        if (!entry.is_array() || entry.size() > list.maxItems)
             Refuse(list);
+        if (!entry.is_array())
             return;
-        }
         settings.children.clear();
         for (json& item : entry) {
+            if (settings.children.size() >= list.maxItems)
+                return; // the first ones stay
             settings.children.push_back(DefaultSettings(*list.item));
             Read(*list.item, item, settings.children.back());
         }
@@ -189,6 +196,7 @@ private:
         m_refused += (m_refused.empty() ? "" : ", ") + description.name.ToUtf8();
     }
 
+    unsigned m_version;
     std::string& m_refused;
 };
 
@@ -196,6 +204,7 @@ std::string Seal(const ProductDescription& product, json settings)
 {
     json document = {{"format", kFormat},
                      {"version", kVersion},
+                     {"packageVersion", product.version},
                      {"product", product.info.uniqueId.ToUtf8()},
                      {"checksum", Checksum(settings)}};
     document["settings"] = std::move(settings);
@@ -244,7 +253,10 @@ bool ReadJobTicket(const ProductDescription& product, std::string_view text, Job
         fault = "its contents do not fit its checksum";
         return false;
     }
-    TicketReader(ticket.refused).ReadMembers(product.root, settings, ticket.settings);
+    const json version = document.value("packageVersion", json());
+    const bool known = version.is_number_unsigned() && version <= kHighestPackageVersion;
+    TicketReader(known ? version.get<unsigned>() : 0, ticket.refused)
+        .ReadMembers(product.root, settings, ticket.settings);
     ticket.foreignEntries = settings.dump(-1, ' ', false, json::error_handler_t::replace);
     return true;
 }

@@ -1,9 +1,11 @@
 // Settings as a job-ticket file: JSON text that a person can read and mend.
 //
-//   { "format": "o7-job-ticket", "version": 1, "product": "<unique id>",
+//   { "format": "o7-job-ticket", "version": 1, "packageVersion": 1, "product": "<unique id>",
 //     "settings": { "<feature name>": <value>, ... }, "checksum": "<8 hex digits>" }
 //
-// The checksum is the CRC-32 of the settings in their shortest form with sorted keys.
+// Secrets are not in it. The version of the package tells which names its author meant; without one
+// they are those of before the first. The checksum is the CRC-32 of the settings in their shortest
+// form with sorted keys.
 #pragma once
 
 #include "settingssnapshot.h"

@@ -40,6 +40,9 @@ ProductDescription PackageReader::Read(const LocatedJson& document)
 {
     ProductDescription product;
     ReadProduct(*document.Find("product"), product.info);
+    if (const auto* version = document.Find("product")->Find("version"))
+        m_version = static_cast<unsigned>(Int(*version));
+    product.version = m_version;
     Scope scope;
     product.root = ReadList(document, scope);
     return product;
@@ -127,10 +130,39 @@ FeatureDescription PackageReader::ReadFeature(const LocatedJson& json, Scope& sc
         Fail(*json.Find("name"),
              "found " + json.Find("name")->ToText() + ", expected a name beginning with odrv-");
     feature.kind = ByName(kKinds, Text(*json.Find("kind")));
+    feature.former = ReadFormer(json);
     ReadFlags(json, feature);
+    const bool around = std::exchange(m_deviceAround, feature.flags.device);
     ReadKind(json, feature, scope);
+    m_deviceAround = around;
     ReadDefault(json, feature);
     return feature;
+}
+
+FormerIds PackageReader::ReadFormer(const LocatedJson& json)
+{
+    FormerIds former;
+    const auto* entries = json.Find("former");
+    if (entries == nullptr)
+        return former;
+    for (const LocatedJson& entry : Entries(*entries)) {
+        FormerId id;
+        id.until = static_cast<unsigned>(Int(*entry.Find("until")));
+        if (const auto* number = entry.Find("enum"))
+            id.number = Int(*number);
+        if (const auto* name = entry.Find("name"))
+            id.name = Wide(*name);
+        if (id.number == 0 && id.name.IsEmpty())
+            Fail(entry, "expected \"enum\" or \"name\": what it was called until then");
+        if (id.until >= m_version)
+            Fail(entry, "found until " + std::to_string(id.until) +
+                            ", expected a version before that of the package, " +
+                            std::to_string(m_version));
+        if (!former.empty() && former.back().until >= id.until)
+            Fail(entry, "expected former names in the order of their versions");
+        former.push_back(std::move(id));
+    }
+    return former;
 }
 
 void PackageReader::ReadKind(const LocatedJson& json, FeatureDescription& feature, Scope& scope)
@@ -191,7 +223,7 @@ void PackageReader::ReadOptions(const LocatedJson& json, FeatureDescription& fea
     std::set<CXString> names;
     for (const LocatedJson& entry : Entries(*options)) {
         OptionDescription option{static_cast<ValueEnum>(Int(*entry.Find("enum"))),
-                                 Wide(*entry.Find("name")), ReadSize(entry)};
+                                 Wide(*entry.Find("name")), ReadSize(entry), ReadFormer(entry)};
         if (!numbers.insert(option.number).second)
             Fail(entry, NameOf(feature) + ": the value " + std::to_string(option.number) +
                             " is used twice");
@@ -248,20 +280,23 @@ void PackageReader::ReadRanges(const LocatedJson& json, FeatureDescription& feat
 
 void PackageReader::ReadFlags(const LocatedJson& json, FeatureDescription& feature)
 {
-    feature.flags.device = feature.name.Find(L"odrv-installed-") == 0;
+    const bool installed = feature.name.Find(L"odrv-installed-") == 0;
+    feature.flags.device = m_deviceAround || installed;
     const auto* flags = json.Find("flags");
-    if (flags == nullptr)
-        return;
-    for (const LocatedJson& entry : Entries(*flags)) {
+    for (const LocatedJson& entry : flags != nullptr ? Entries(*flags) : LocatedJson::Array()) {
         const std::string& flag = Text(entry);
         feature.flags.readOnly |= flag == "readOnly";
         feature.flags.required |= flag == "required";
         feature.flags.stateOnly |= flag == "stateOnly";
         feature.flags.device |= flag == "device";
+        feature.flags.secret |= flag == "secret";
         feature.userDefinedValues |= flag == "userDefinedValues";
         feature.savedInTicket &= flag != "notSaved";
         feature.loadedFromTicket &= flag != "notLoaded";
     }
+    if (m_inItem && feature.flags.device && !m_deviceAround)
+        Fail(json,
+             NameOf(feature) + ": the items of a document's list cannot belong to the device");
 }
 
 void PackageReader::ReadDefault(const LocatedJson& json, FeatureDescription& feature)
@@ -285,8 +320,10 @@ void PackageReader::ReadItem(const LocatedJson& json, FeatureDescription& featur
     item.number = feature.number;
     item.name = feature.name;
     item.kind = ByName(kKinds, Text(*entry->Find("kind")));
+    const bool inItem = std::exchange(m_inItem, true);
     ReadFlags(*entry, item);
     ReadKind(*entry, item, scope);
+    m_inItem = inItem;
     ReadDefault(*entry, item);
     feature.item = std::make_shared<const FeatureDescription>(std::move(item));
 }

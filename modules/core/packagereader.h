@@ -36,6 +36,7 @@ private:
     void ReadOptions(const LocatedJson& json, FeatureDescription& feature);
     std::optional<std::pair<Dimension, Dimension>> ReadSize(const LocatedJson& option);
     void ReadRanges(const LocatedJson& json, FeatureDescription& feature);
+    FormerIds ReadFormer(const LocatedJson& json);
     void ReadFlags(const LocatedJson& json, FeatureDescription& feature);
     void ReadDefault(const LocatedJson& json, FeatureDescription& feature);
     void ReadItem(const LocatedJson& json, FeatureDescription& feature, Scope& scope);
@@ -46,6 +47,9 @@ private:
 
     ConstraintReader m_constraints;
     std::vector<JsonFault>& m_faults;
+    unsigned m_version = 1;      ///< Of the package.
+    bool m_deviceAround = false; ///< What is read lies in a list of the device's.
+    bool m_inItem = false;       ///< ... in the items of a list of values.
 };
 
 } // namespace o7

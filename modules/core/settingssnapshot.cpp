@@ -1,6 +1,7 @@
 #include "settingssnapshot.h"
 
 #include "featurenode.h"
+#include "settingsscope.h"
 
 #include <algorithm>
 
@@ -31,17 +32,32 @@ SettingsSnapshot DefaultSettings(const FeatureDescription& description)
     return snapshot;
 }
 
-SettingsSnapshot ResettableDefaults(const FeatureNode& feature)
+namespace {
+
+template <typename Resettable>
+SettingsSnapshot DefaultsWhere(const FeatureNode& feature, const Resettable& isResettable)
 {
     const FeatureDescription& description = feature.Description();
-    if (!description.IsKept())
+    if (!description.IsKept() || !isResettable(description))
         return CaptureSettings(feature);
     if (!description.list)
         return DefaultSettings(description);
     SettingsSnapshot snapshot = CaptureSettings(feature);
     for (std::size_t i = 0; i < snapshot.children.size(); ++i)
-        snapshot.children[i] = ResettableDefaults(*feature.Children()[i]);
+        snapshot.children[i] = DefaultsWhere(*feature.Children()[i], isResettable);
     return snapshot;
+}
+
+} // namespace
+
+SettingsSnapshot ResettableDefaults(const FeatureNode& feature, SettingsScope scope)
+{
+    return DefaultsWhere(feature, [scope](const auto& one) { return IsInScope(one, scope); });
+}
+
+SettingsSnapshot ResettableDefaults(const FeatureNode& feature)
+{
+    return DefaultsWhere(feature, [](const FeatureDescription&) { return true; });
 }
 
 void Overlay(const FeatureDescription& description, const IFeatureNode& source,

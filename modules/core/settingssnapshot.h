@@ -1,6 +1,7 @@
 #pragma once
 
 #include "description.h"
+#include "idatamodel.h"
 #include "ifeaturenode.h"
 
 #include <utility>
@@ -31,7 +32,9 @@ struct SettingsSnapshot
 
 SettingsSnapshot CaptureSettings(const FeatureNode& feature);
 SettingsSnapshot DefaultSettings(const FeatureDescription& description);
-/// The defaults, except that what is no setting of the job stays as it is.
+/// The defaults, except that what is no setting at all, or not of the scope, stays as it is.
+SettingsSnapshot ResettableDefaults(const FeatureNode& feature, SettingsScope scope);
+/// The same for every setting there is.
 SettingsSnapshot ResettableDefaults(const FeatureNode& feature);
 
 /// Puts what `source` says over `settings`, as far as the description has and accepts it.

@@ -254,6 +254,8 @@ InterpretedState StateInterpreter::FeatureState(const FeatureNode& feature)
         if (constraint.kind != EffectKind::Conflict || !feature.IsIdle())
             AddEffect(constraint.kind, Reason(constraint), state);
     };
+    if (IsLocked(feature))
+        AddEffect(EffectKind::Disable, LockReason(), state);
     for (const Constraint* constraint : ActiveInOrder(feature)) {
         if (constraint->whole)
             add(*constraint);

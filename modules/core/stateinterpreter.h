@@ -35,6 +35,22 @@ public:
     /// The reason, with names filled in; for one value of the target, or for all it affects.
     CXString Reason(const Constraint& constraint, const ValueId* option = nullptr);
 
+    /// From now on all settings are disabled with this reason.
+    void Lock(unsigned reasonStringNumber) { m_lockReason = reasonStringNumber; }
+    bool IsLocked(const FeatureNode& feature) const
+    {
+        return m_lockReason != 0 && feature.Description().IsKept() &&
+               !feature.Description().IsPrivate();
+    }
+    CXString LockReason() { return Sentence(m_lockReason); }
+
+    /// A text of the driver's own.
+    CXString Sentence(unsigned number)
+    {
+        const CXString& text = Text(number);
+        return text.IsBlank() ? CXString::Formatted(L"#%u", number) : text;
+    }
+
     /// A value as it is shown: of an option feature with its display string.
     FeatureValue Shown(const FeatureNode& feature, const FeatureValue& value);
     /// The feature's present one; monostate: unspecified.
@@ -57,6 +73,7 @@ private:
 
     IStringSource& m_strings;
     LengthFormat m_lengths;
+    unsigned m_lockReason = 0; ///< 0: not locked.
     std::unordered_map<unsigned, CXString> m_texts;
 };
 
