@@ -4,6 +4,7 @@
 #include <set>
 #include <utility>
 
+#include "devicecheck.h"
 #include "packageanalysis.h"
 #include "pagecheck.h"
 
@@ -53,15 +54,25 @@ std::set<char> placeholders(const std::string& text)
     return found;
 }
 
-/// Every feature number of a model, those inside lists included.
-void collectFeatures(const IFeatureNode& list, std::set<int>& numbers)
+/// The feature numbers of a model, those inside lists included.
+struct FeatureNumbers
+{
+    std::set<int> all;
+    std::set<int> device; ///< At the top.
+};
+
+void collectFeatures(const IFeatureNode& list, FeatureNumbers& numbers, bool atTop)
 {
     for (std::size_t i = 0; i < list.GetNumChildren(); ++i) {
         const auto child = list.GetChild(i);
-        numbers.insert(child->GetId().GetFeatureId().GetFeatureEnum());
+        const int number = child->GetId().GetFeatureId().GetFeatureEnum();
+        numbers.all.insert(number);
+        if (atTop && child->GetCapabilities()->IsDeviceFeature()) {
+            numbers.device.insert(number);
+        }
         // An item of a list of values shows what its items are made of.
         const auto item = child->CreateItem();
-        collectFeatures(*child, numbers);
+        collectFeatures(*child, numbers, false);
     }
 }
 
@@ -122,13 +133,13 @@ private:
         // Each feature has a name, but for those that only the pages themselves know.
         for (const unsigned number : m_package->GetStringNumbers()) {
             if (number >= kFeatureStringBase && number < kValueStringBase) {
-                m_features.insert(static_cast<int>(number - kFeatureStringBase));
+                m_features.all.insert(static_cast<int>(number - kFeatureStringBase));
             }
         }
         if (isSound()) {
             NoTexts texts;
             const auto model = CreateDataModel(*m_package, texts);
-            o7::collectFeatures(*model->GetFullListOfFeatures().GetNode(), m_features);
+            o7::collectFeatures(*model->GetFullListOfFeatures().GetNode(), m_features, true);
         }
     }
 
@@ -139,6 +150,10 @@ private:
                 {m_report.file, finding.line,
                  std::string(NameOf(finding.kind)) + ": " + finding.message});
         }
+        NoTexts texts;
+        for (const std::string& left : findValuesLeftInForce(*m_package, texts)) {
+            m_report.mistakes.push_back({m_report.file, 0, left});
+        }
     }
 
     void checkPages()
@@ -148,15 +163,26 @@ private:
             const PageCheck pages(data);
             std::ranges::copy(pages.textNumbers(), std::inserter(m_pageTexts, m_pageTexts.end()));
             pages.forEachFeature([&](DataModelIds::tagFeatureEnum feature, unsigned page) {
-                if (!m_features.contains(feature) && (isSound() || feature >= kFirstNamedFeature)) {
-                    m_report.mistakes.push_back(
-                        {m_report.file, 0,
-                         "the page " + quoted(page) + " of family " + std::to_string(family()) +
-                             " shows feature " + std::to_string(feature) + " (" +
-                             quoted(kFeatureStringBase + static_cast<unsigned>(feature)) +
-                             "), which the package does not have"});
-                }
+                checkPlace(mode, feature, page);
             });
+        }
+    }
+
+    void checkPlace(UIMode mode, DataModelIds::tagFeatureEnum feature, unsigned page)
+    {
+        const std::string place = "the page " + quoted(page) + " of family " +
+                                  std::to_string(family()) + " shows feature " +
+                                  std::to_string(feature) + " (" +
+                                  quoted(kFeatureStringBase + static_cast<unsigned>(feature)) + ")";
+        if (!m_features.all.contains(feature) && (isSound() || feature >= kFirstNamedFeature)) {
+            m_report.mistakes.push_back(
+                {m_report.file, 0, place + ", which the package does not have"});
+        }
+        if (mode != UIMode::DeviceSettings && m_features.device.contains(feature)) {
+            m_report.mistakes.push_back(
+                {m_report.file, 0,
+                 place + " in mode " + std::to_string(static_cast<int>(mode)) +
+                     ", but it belongs to the device: what is chosen there would be lost"});
         }
     }
 
@@ -285,7 +311,7 @@ private:
     PackageReport& m_report;
     const BuiltTexts& m_built;
     std::unique_ptr<ProductPackage> m_package;
-    std::set<int> m_features;
+    FeatureNumbers m_features;
     std::set<unsigned> m_pageTexts;
     std::vector<std::pair<std::string, PackageTexts>>
         m_texts; ///< by language, the first is the model

@@ -28,9 +28,11 @@ using BuiltTexts = std::function<std::optional<PackageTexts>(const std::filesyst
 /// of it at once:
 ///  - what keeps the package from loading: syntax, schema, unknown and double ids, circles;
 ///  - rules that cannot be meant: options that nothing makes reachable, contradictions;
+///  - rules of the device that leave a value in force which could no longer be chosen;
 ///  - in each language: texts that are missing or empty, differing placeholders and mnemonics, keys
 ///    that two controls of a page share;
-///  - pages that show a feature which the package does not have;
+///  - pages that show a feature which the package does not have, and pages of documents that show
+///    one of the device's;
 ///  - (hints) texts of the product's own that nothing shows.
 /// @param package  the folder, or package.json in it. When the folder has `strings/<language>.rc`,
 ///                 the scripts are read, and mistakes are told by their lines.

@@ -108,6 +108,53 @@ TEST_F(FaultyPackage, IsToldOfRulesThatCannotBeMeant)
     expectIn(all(report.mistakes), {"package.json", "unreachable option", "en.rc: cannot be read"});
 }
 
+TEST_F(FaultyPackage, IsToldOfValuesThatTheDeviceLeavesInForce)
+{
+    struct Row
+    {
+        const char* effect;
+        bool told;
+    };
+    constexpr Row rows[] = {
+        {R"("feature": 3005, "kind": "disable")", true},
+        {R"("feature": 3005, "kind": "hide")", true},
+        {R"("feature": 3005, "kind": "clear")", false},
+        {R"("feature": 3005, "options": ["two-sided"], "kind": "disable")", false},
+    };
+    for (const Row& row : rows) {
+        writePackage(
+            R"({ "enum": 3046, "name": "odrv-installed-unit", "kind": "boolean", "default": true },
+{ "enum": 3005, "name": "odrv-sides", "kind": "option", "default": "one-sided",
+  "options": [{ "enum": 5140, "name": "one-sided" }, { "enum": 5141, "name": "two-sided" }] })",
+            std::string(R"({ "id": "no-unit", "when": [{ "feature": 3046, "is": [false] }],
+  "effect": { )") +
+                row.effect + R"( }, "reason": 60300 })");
+        const std::string mistakes = all(checkPackage(m_folder).mistakes);
+        EXPECT_EQ(
+            mistakes.find("no-unit: with odrv-installed-unit false, odrv-sides stays two-sided") !=
+                std::string::npos,
+            row.told)
+            << row.effect << "\n"
+            << mistakes;
+    }
+}
+
+TEST_F(FaultyPackage, IsToldOfDeviceSettingsOnPagesOfDocuments)
+{
+    writePackage(
+        R"({ "enum": 3002, "name": "odrv-paper-size", "kind": "option", "flags": ["device"],
+  "default": "a4", "options": [{ "enum": 5111, "name": "a4" }] },
+{ "enum": 3041, "name": "odrv-installed-trays", "kind": "boolean" })",
+        "");
+    const std::string mistakes = all(checkPackage(m_folder).mistakes);
+    for (const char* mode : {"mode 1", "mode 3", "mode 4"}) {
+        expectIn(mistakes, {("shows feature 3002 (\"#23002\") in " + std::string(mode) +
+                             ", but it belongs to the device")
+                                .c_str()});
+    }
+    EXPECT_EQ(mistakes.find("3041"), std::string::npos) << "its place is in mode 2";
+}
+
 TEST_F(FaultyPackage, IsToldOfKeysThatCannotBeUsed)
 {
     struct Row

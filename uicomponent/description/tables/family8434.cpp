@@ -73,7 +73,8 @@ constexpr UIMoleculeRecord kAccountsLeft[] = {group(O7STR_G_ACCOUNTING, kAccount
 constexpr UIMoleculeRecord kAdvancedRight[] = {group(O7STR_G_UNITS, kUnitsGroup),
                                                group(O7STR_G_APPLY, kApplyGroup)};
 constexpr UIColumnRecord kAdvancedColumns[] = {left(kAccountsLeft), right(kAdvancedRight)};
-constexpr UIColumnRecord kPolicyColumns[] = {left(kUnitsAndRegion), right(kApplyAndConnection)};
+constexpr UIMoleculeRecord kPolicyLeft[] = {group(O7STR_G_UNITS, kUnitsGroup)};
+constexpr UIColumnRecord kPolicyColumns[] = {left(kPolicyLeft), right(kApplyAndConnection)};
 constexpr UIContainerRecord kAdvancedPage = page(6, O7STR_TAB_ADVANCED, kAdvancedColumns);
 constexpr UIContainerRecord kPolicyPage = page(7, O7STR_TAB_POLICY, kPolicyColumns);
 
