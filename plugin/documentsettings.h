@@ -15,10 +15,11 @@ inline constexpr std::size_t kDevModeSize = kPublicPartSize + kPrivatePartSize;
 
 /// Writes the accepted settings of a data model into a DEVMODE. Every byte is written; a text that
 /// is too long for its field is cut.
-/// @return false when the settings do not fit: the private part then holds none, and the public
-///         fields are all that the DEVMODE says.
+/// @return false when the settings do not fit, which a data model of this driver never lets come to
+///         pass (kSettingsBlockLimit): the private part then holds none.
 bool writeDevMode(IDataModel& model, const CXString& printerName,
-                  std::span<std::uint8_t, kDevModeSize> devMode);
+                  std::span<std::uint8_t, kDevModeSize> devMode,
+                  SettingsScope scope = SettingsScope::Document);
 
 /// Merges a DEVMODE that an application hands in: the private part gives all settings when it is
 /// ours and whole, then those public fields whose bits are set have their way, as they may be newer
@@ -26,6 +27,8 @@ bool writeDevMode(IDataModel& model, const CXString& printerName,
 /// for the fields in use is passed over.
 /// The settings of the device itself stay as they are in the model: they are the printer's.
 /// @param devMode  as many bytes as the DEVMODE says it has.
-void mergeDevMode(IDataModel& model, std::span<const std::uint8_t> devMode);
+/// @param scope    Document, or Defaults for one that new documents begin with.
+void mergeDevMode(IDataModel& model, std::span<const std::uint8_t> devMode,
+                  SettingsScope scope = SettingsScope::Document);
 
 } // namespace o7

@@ -73,6 +73,12 @@ bool wants(const DocumentPropertyHeader& header, DWORD mode)
     return (header.fMode & mode) != 0;
 }
 
+/// What new documents begin with holds nobody's secrets.
+SettingsScope scopeOf(const DocumentPropertyHeader& header)
+{
+    return wants(header, kUserDefaults) ? SettingsScope::Defaults : SettingsScope::Document;
+}
+
 /// The printer's own settings, then what the application hands in.
 std::unique_ptr<ProductSession> openDocument(const DocumentPropertyHeader& header)
 {
@@ -80,22 +86,20 @@ std::unique_ptr<ProductSession> openDocument(const DocumentPropertyHeader& heade
     if (header.hPrinter != nullptr) {
         const auto defaults = printerDefaults(header.hPrinter);
         if (defaults.get() != nullptr) {
-            mergeDevMode(session->model(), bytesOf(*defaults.get()->pDevMode));
+            mergeDevMode(session->model(), bytesOf(*defaults.get()->pDevMode),
+                         SettingsScope::Defaults);
         }
     }
     if (wants(header, DM_IN_BUFFER) && header.pdmIn != nullptr) {
-        mergeDevMode(session->model(), bytesOf(*header.pdmIn));
+        mergeDevMode(session->model(), bytesOf(*header.pdmIn), scopeOf(header));
     }
     return session;
 }
 
-/// @throws std::runtime_error when the settings are more than the private part can hold.
 void writeDocument(IDataModel& model, const DocumentPropertyHeader& header)
 {
-    if (wants(header, DM_OUT_BUFFER) && header.pdmOut != nullptr &&
-        !writeDevMode(model, header.pszPrinterName, bufferOf(*header.pdmOut))) {
-        throw std::runtime_error("The settings are more than a document can carry. Only paper, "
-                                 "copies and the like are kept.");
+    if (wants(header, DM_OUT_BUFFER) && header.pdmOut != nullptr) {
+        writeDevMode(model, header.pszPrinterName, bufferOf(*header.pdmOut), scopeOf(header));
     }
 }
 
@@ -114,7 +118,8 @@ LONG answerDocument(LPARAM parameter)
     return kDone;
 }
 
-/// Nothing, with a last error, when no sheet is asked for.
+/// Nothing, with a last error, when no sheet is asked for. Users without the permission see the
+/// pages, locked, and nothing is written.
 std::unique_ptr<DriverSheet> documentSheet(LPARAM parameter)
 {
     auto* const header = headerOf<DocumentPropertyHeader>(parameter);
@@ -123,14 +128,18 @@ std::unique_ptr<DriverSheet> documentSheet(LPARAM parameter)
         return nullptr;
     }
     auto session = openDocument(*header);
-    if (wants(*header, kDocumentNoPermission)) {
+    const bool locked = wants(*header, kDocumentNoPermission);
+    if (locked) {
         lockSettings(session->model());
     }
     const UIMode mode =
         wants(*header, kUserDefaults) ? UIMode::PrintingDefaults : UIMode::PrintingPreferences;
-    return std::make_unique<DriverSheet>(
-        std::move(session), mode, header->pszPrinterName,
-        [header](IDataModel& model) { writeDocument(model, *header); });
+    return std::make_unique<DriverSheet>(std::move(session), mode, header->pszPrinterName,
+                                         [header, locked](IDataModel& model) {
+                                             if (!locked) {
+                                                 writeDocument(model, *header);
+                                             }
+                                         });
 }
 
 /// Users without the permission see the pages, locked, and nothing is stored.
@@ -217,7 +226,7 @@ BOOL convert(LPCWSTR printerName, PDEVMODEW in, PDEVMODEW out, DWORD& size, DWOR
     if (mode != kDriverDefault) {
         mergeDevMode(session->model(), bytesOf(*in));
     }
-    return writeDevMode(session->model(), printerName, bufferOf(*out));
+    return writeDevMode(session->model(), printerName, bufferOf(*out)) ? TRUE : FALSE;
 }
 
 } // namespace

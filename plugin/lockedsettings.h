@@ -4,9 +4,8 @@ class IDataModel;
 
 namespace o7 {
 
-/// Lets every setting of a model be looked at but not be changed, for users without the permission:
-/// all values but the present ones become impossible, and say why. For the rest of the model's
-/// life.
+/// Lets every setting of a model be looked at but not be changed, for users without the permission,
+/// and says why. For the rest of the model's life.
 void lockSettings(IDataModel& model);
 
 } // namespace o7

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <span>
 
+#include "idatamodel.h"
+
 namespace o7 {
 
 /// The private part of the plug-in's DEVMODE: a block of exported settings behind a small header,
@@ -18,9 +20,10 @@ namespace o7 {
 ///
 /// A DEVMODE is kept by applications in documents and by the system in the registry, so a part may
 /// be old, cut off, of another driver, or garbage.
+/// Parts of any size are read, such as the 8192 bytes of earlier versions.
 inline constexpr std::size_t kPrivateHeaderSize = 16;
-inline constexpr std::size_t kPrivatePartSize = 8192;
-inline constexpr std::size_t kPrivateBlockCapacity = kPrivatePartSize - kPrivateHeaderSize;
+inline constexpr std::size_t kPrivateBlockCapacity = kSettingsBlockLimit;
+inline constexpr std::size_t kPrivatePartSize = kPrivateHeaderSize + kPrivateBlockCapacity;
 
 /// Fills the whole part, every byte of it.
 /// @return false, with a valid part that holds no block, when the block does not fit.

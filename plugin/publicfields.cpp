@@ -65,11 +65,33 @@ std::vector<ValueId> optionsWhere(const OptionFeatureRef& feature, Predicate pre
     return values;
 }
 
-/// True when the feature takes one of the values.
-bool setFirstOf(OptionFeatureRef feature, const std::vector<ValueId>& values)
+/// A program can set no more than a person can: nothing that is greyed or hidden as a whole, and
+/// nothing of the device's.
+bool isOpen(const FeatureRef& feature)
 {
-    return std::ranges::any_of(values,
-                               [&](const ValueId& value) { return feature.SetValue(value); });
+    const auto capabilities = feature.GetCapabilities();
+    const InterpretedState& state = capabilities->GetInterpretedState();
+    return !state.IsDisabled() && !state.IsHidden() && !capabilities->IsDeviceFeature();
+}
+
+/// What is cleared or hidden is not in force, so no field tells it.
+bool isInForce(const FeatureRef& feature)
+{
+    const auto capabilities = feature.GetCapabilities();
+    const InterpretedState& state = capabilities->GetInterpretedState();
+    return !state.IsCleared() && !state.IsHidden();
+}
+
+/// Every write of a field's goes this way.
+template <class Ref, class Value> bool set(Ref feature, const Value& value)
+{
+    return isOpen(feature) && feature.SetValue(value);
+}
+
+/// True when the feature takes one of the values.
+bool setFirstOf(const OptionFeatureRef& feature, const std::vector<ValueId>& values)
+{
+    return std::ranges::any_of(values, [&](const ValueId& value) { return set(feature, value); });
 }
 
 /// True when the feature says (now) what the number says.
@@ -161,40 +183,43 @@ std::optional<PaperSize> fixedSize(const ListOfFeaturesRef& features, const Valu
     return size;
 }
 
-/// Chooses a paper without a size of its own, with these lengths.
+/// Chooses a paper without a size of its own, with these lengths. The paper comes first: without it
+/// the lengths may be greyed.
 bool setCustomSize(const ListOfFeaturesRef& features, const ValueId& paper, int width, int length)
 {
-    const auto set = [&](DataModelIds::tagFeatureEnum id, int size) {
-        return dimension(features, id)
-            .SetValue(Dimension(size, Dimension::UnitsEnum::TenthOfMillimetre));
-    };
-    // The paper first: while it is one with a size, that is what both lengths say.
-    OptionFeatureRef papers = featureOf(features, DocumentField::PaperSize);
+    const OptionFeatureRef papers = featureOf(features, DocumentField::PaperSize);
     const ValueId paperBefore = papers.GetValue();
-    if (!papers.SetValue(paper)) {
+    const auto setLength = [&](DataModelIds::tagFeatureEnum id, int size) {
+        return set(dimension(features, id),
+                   Dimension(size, Dimension::UnitsEnum::TenthOfMillimetre));
+    };
+    if (!set(papers, paper)) {
         return false;
     }
     const PaperSize before = sizeOfPaper(features, paper);
-    if (set(kCustomWidth, width) && set(kCustomLength, length)) {
+    if (isSize(before, width, length)) {
+        return true; // of a roll that has no say in one of them
+    }
+    if (setLength(kCustomWidth, width) && setLength(kCustomLength, length)) {
         return true;
     }
-    set(kCustomWidth, before.width);
-    set(kCustomLength, before.height);
-    papers.SetValue(paperBefore);
+    setLength(kCustomWidth, before.width);
+    setLength(kCustomLength, before.height);
+    set(papers, paperBefore);
     return false;
 }
 
 /// The paper that the number means, when it has that size or can have any.
 bool followNumberOfSize(const ListOfFeaturesRef& features, const PublicFields& fields)
 {
-    OptionFeatureRef papers = featureOf(features, DocumentField::PaperSize);
+    const OptionFeatureRef papers = featureOf(features, DocumentField::PaperSize);
     const auto meant = optionsWhere(papers, [&](const ValueId& paper) {
         return fields.has(kPaperSizeField) &&
                systemNumber(DocumentField::PaperSize, paper) == fields.paperSize;
     });
     return std::ranges::any_of(meant, [&](const ValueId& paper) {
         const auto size = fixedSize(features, paper);
-        return size ? isSize(*size, fields.paperWidth, fields.paperLength) && papers.SetValue(paper)
+        return size ? isSize(*size, fields.paperWidth, fields.paperLength) && set(papers, paper)
                     : setCustomSize(features, paper, fields.paperWidth, fields.paperLength);
     });
 }
@@ -274,11 +299,11 @@ IntegerFeatureRef percent(const ListOfFeaturesRef& features)
 int scaleOf(const ListOfFeaturesRef& features)
 {
     int number = 0;
-    const ValueId mode = features.GetOptionFeature(FeatureId(kScaling)).GetValue();
+    const OptionFeatureRef mode = features.GetOptionFeature(FeatureId(kScaling));
     if (!percent(features).GetValue(number, kQuietly)) {
         return 0;
     }
-    return mode == kScaleByPercentage ? number : 100;
+    return mode.GetValue() == kScaleByPercentage && isInForce(mode) ? number : 100;
 }
 
 bool followScale(const ListOfFeaturesRef& features, int wanted)
@@ -286,18 +311,18 @@ bool followScale(const ListOfFeaturesRef& features, int wanted)
     if (scaleOf(features) == wanted) {
         return true;
     }
-    OptionFeatureRef mode = features.GetOptionFeature(FeatureId(kScaling));
+    const OptionFeatureRef mode = features.GetOptionFeature(FeatureId(kScaling));
     if (wanted == 100) {
-        return mode.SetValue(kNoScaling);
+        return set(mode, ValueId(kNoScaling));
     }
     const ValueId before = mode.GetValue();
-    if (!mode.SetValue(kScaleByPercentage)) {
+    if (!set(mode, ValueId(kScaleByPercentage))) {
         return false;
     }
-    if (percent(features).SetValue(wanted)) {
+    if (set(percent(features), wanted)) {
         return true;
     }
-    mode.SetValue(before);
+    set(mode, before);
     return false;
 }
 
@@ -313,11 +338,13 @@ void writeScale(const ListOfFeaturesRef& features, PublicFields& fields)
 
 void writeCopies(const ListOfFeaturesRef& features, PublicFields& fields)
 {
-    if (features.GetIntegerFeature(FeatureId(kCopies)).GetValue(fields.copies, kQuietly)) {
+    const auto copies = features.GetIntegerFeature(FeatureId(kCopies));
+    if (isInForce(copies) && copies.GetValue(fields.copies, kQuietly)) {
         fields.fields |= kCopiesField;
     }
     bool collate = false;
-    if (features.GetBooleanFeature(FeatureId(kCollate)).GetValue(collate, kQuietly)) {
+    const auto collation = features.GetBooleanFeature(FeatureId(kCollate));
+    if (isInForce(collation) && collation.GetValue(collate, kQuietly)) {
         fields.collate = collate ? 1 : 0;
         fields.fields |= kCollateField;
     }
@@ -327,7 +354,7 @@ bool followCollate(const ListOfFeaturesRef& features, int wanted)
 {
     // Any other number is no answer to a question of yes and no.
     return (wanted == 0 || wanted == 1) &&
-           features.GetBooleanFeature(FeatureId(kCollate)).SetValue(wanted == 1);
+           set(features.GetBooleanFeature(FeatureId(kCollate)), wanted == 1);
 }
 
 /// Whether the row's field is the one that `quality` means: dots when positive, else a grade.
@@ -375,8 +402,9 @@ PublicFields publicFields(const ListOfFeaturesRef& features)
     PublicFields fields;
     for (const FieldRow& row : kFields) {
         // The last row of a field has its way: dots rather than a grade.
-        const ValueId value = features.GetOptionFeature(FeatureId(row.feature)).GetValue();
-        if (const auto number = systemNumber(row.field, value)) {
+        const OptionFeatureRef feature = features.GetOptionFeature(FeatureId(row.feature));
+        const auto number = systemNumber(row.field, feature.GetValue());
+        if (number && isInForce(feature)) {
             fields.*row.number = *number;
             fields.fields |= row.bit;
         }
@@ -409,7 +437,7 @@ void followPublicFields(const ListOfFeaturesRef& features, const PublicFields& f
     }
     if (fields.has(kCopiesField)) {
         open.emplace_back(
-            [&] { return features.GetIntegerFeature(FeatureId(kCopies)).SetValue(fields.copies); });
+            [&] { return set(features.GetIntegerFeature(FeatureId(kCopies)), fields.copies); });
     }
     if (fields.has(kCollateField)) {
         open.emplace_back([&] { return followCollate(features, fields.collate); });

@@ -9,14 +9,16 @@ namespace o7 {
 /// The fields of a DEVMODE that every application knows, kept in step with the features that mean
 /// the same.
 
-/// The fields as the features have them; the bits of those that the product has are set. The
+/// The fields as the features have them; the bits of those that the product has and that are in
+/// force (not cleared, not hidden) are set. The
 /// paper's lengths are always filled in, and marked as set for papers that the system has no number
 /// for.
 PublicFields publicFields(const ListOfFeaturesRef& features);
 
 /// Lets the features follow the fields that are set. A field that already says what its feature
 /// says changes nothing, so that a finer setting (colour "automatic" under "colour") survives; an
-/// unknown number, and a value that a constraint forbids, leave the feature as it is.
+/// unknown number, a value that a constraint forbids, and a feature that is greyed or hidden as a
+/// whole, leave it as it is: a program can set nothing that a person cannot.
 /// @param inStep  the fields were written together with the settings that the features have now, so
 ///                a field that differs was changed since. It decides which of number, lengths and
 ///                name of the paper is meant. Without it the lengths come first and the name last.

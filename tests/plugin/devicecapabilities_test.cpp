@@ -10,10 +10,9 @@
 #include <set>
 #include <vector>
 
-#include "datamodelfactory.h"
 #include "documentsettings.h"
-#include "numberstrings.h"
 #include "productfolders.h"
+#include "productundertest.h"
 #include "publicfields.h"
 #include "systemnumbers.h"
 #include "testmodel.h"
@@ -23,20 +22,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// One product after the other, each with a model of its own.
-class Product
-{
-public:
-    explicit Product(const fs::path& folder) : m_package(LoadProductPackage(folder, m_errors)) {}
-
-    std::unique_ptr<IDataModel> model() const { return CreateDataModel(*m_package, m_strings); }
-    bool isLoaded() const { return m_package != nullptr; }
-
-private:
-    mutable test::NumberStrings m_strings;
-    std::vector<PackageError> m_errors;
-    std::unique_ptr<ProductPackage> m_package;
-};
+using test::Product;
 
 class EveryProduct : public testing::TestWithParam<fs::path>
 {

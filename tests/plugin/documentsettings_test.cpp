@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "lockedsettings.h"
 #include "publicfields.h"
 #include "systemnumbers.h"
 #include "testmodel.h"
@@ -288,7 +289,9 @@ TEST(DocumentSettings, TakesPublicFieldsOfDamagedAndForeignDevModes)
         {"no private part",   [](Document& d) { d.putWord(kExtraAt, 0); }, false, true},
         {"a shorter private part", [](Document& d) { d.putWord(kExtraAt, 200); }, true, true},
         {"a longer private part",
-         [](Document& d) { d.putWord(kExtraAt, 9000); d.bytes().resize(kPublicPartSize + 9000, 0xEE); }, true, true},
+         [](Document& d) { d.putWord(kExtraAt, kPrivatePartSize + 800); d.bytes().resize(kDevModeSize + 800, 0xEE); }, true, true},
+        {"a private part of the size of earlier versions",
+         [](Document& d) { d.putWord(kExtraAt, 8192); d.bytes().resize(kPublicPartSize + 8192); }, true, true},
         {"a longer private header", growPrivateHeader, true, true},
         {"a private part that is not there",
          [](Document& d) { d.bytes().resize(kPublicPartSize); }, false, true},
@@ -368,6 +371,181 @@ TEST(DocumentSettings, NeverTakesHalfOfADamagedPrivatePart)
             check(document, size);
         }
     }
+}
+
+TEST(DocumentSettings, CannotSetWhatAPersonCannot)
+{
+    const TestModel model;
+    model.choose(kOrientation, 5146);
+    model->CommitAccepted();
+    EXPECT_EQ(model.option(kSides), 5140);
+    Document document(model);
+    document.change([](PublicFields& fields) { fields.duplex = 2; });
+    document.mergeInto(model);
+    EXPECT_EQ(model.option(kSides), 5140);
+    EXPECT_EQ(Document(model).fields().duplex, 1) << "what is published back is what holds";
+}
+
+/// A copy of the small printer's package with another device setting of each kind that a block
+/// could bring along: unspecified, inside a list of features, a list of values.
+std::string deviceFeatures()
+{
+    return R"(,
+    {"enum": 3051, "name": "odrv-installed-memory", "kind": "integer", "range": {"min": 1, "max": 9}},
+    {"enum": 3090, "name": "odrv-device-box", "kind": "list", "flags": ["device"], "features": [
+      {"enum": 3091, "name": "odrv-box-number", "kind": "integer", "default": 1}]},
+    {"enum": 3092, "name": "odrv-mixed", "kind": "list", "features": [
+      {"enum": 3093, "name": "odrv-installed-part", "kind": "boolean", "default": false},
+      {"enum": 3094, "name": "odrv-job-part", "kind": "boolean", "default": false}]},
+    {"enum": 3095, "name": "odrv-installed-drawers", "kind": "values", "item": {"kind": "list",
+      "features": [{"enum": 3096, "name": "odrv-drawer-number", "kind": "integer", "default": 1}]}})";
+}
+
+/// What a model holds of the device, as a text.
+std::string deviceState(const IFeatureNode& list, bool isDevice)
+{
+    std::string text;
+    for (std::size_t i = 0; i < list.GetNumChildren(); ++i) {
+        const auto feature = list.GetChild(i);
+        const bool own = isDevice || feature->GetCapabilities()->IsDeviceFeature();
+        if (own) {
+            FeatureValue value;
+            feature->GetValue(value);
+            const auto* number = std::get_if<int>(&value);
+            const auto* flag = std::get_if<bool>(&value);
+            text += feature->GetId().Dump(true).ToUtf8() +
+                    (feature->IsSpecified() ? "" : " unspecified") +
+                    (number != nullptr ? " " + std::to_string(*number) : "") +
+                    (flag != nullptr ? *flag ? " on" : " off" : "") + "\n";
+        }
+        text += deviceState(*feature, own);
+    }
+    return text;
+}
+
+TEST(DocumentSettings, NeverTakesTheDeviceFromADocument)
+{
+    std::string package = test::kTestPackage;
+    package.insert(package.find("\n  ],\n  \"constraints\""), deviceFeatures());
+    const auto feature = [](int number) {
+        return FeatureId(static_cast<DataModelIds::tagFeatureEnum>(number));
+    };
+    const auto change = [&](const TestModel& model, int number) {
+        auto all = model->GetFullListOfFeatures();
+        const auto set = [&](ListOfFeaturesRef list, int id) {
+            EXPECT_TRUE(list.GetIntegerFeature(feature(id)).SetValue(number));
+        };
+        set(all, 3051);
+        set(all.GetListOfFeatures(feature(3090)), 3091);
+        auto mixed = all.GetListOfFeatures(feature(3092));
+        EXPECT_TRUE(mixed.GetBooleanFeature(feature(3093)).SetValue(number == 2));
+        EXPECT_TRUE(mixed.GetBooleanFeature(feature(3094)).SetValue(number == 2));
+        auto drawers = all.GetListOfValues(feature(3095));
+        for (int i = 0; i < number; ++i) {
+            set(drawers.CreateListOfFeatures(), 3096);
+        }
+        model->CommitAccepted();
+    };
+    const auto device = [](const TestModel& model) {
+        return deviceState(*model->GetFullListOfFeatures().GetNode(), false);
+    };
+    const TestModel source(package);
+    change(source, 2);
+    source.choose(kSides, 5141);
+    source->CommitAccepted();
+    const Document document(source);
+
+    const TestModel target(package);
+    change(target, 3);
+    // The document's own two sides rule out that there is no unit for them.
+    target.setFlag(test::kDuplexUnit, false);
+    target->CommitAccepted();
+    const auto before = device(target);
+    document.mergeInto(target);
+    EXPECT_EQ(device(target), before);
+    EXPECT_FALSE(target.flag(test::kDuplexUnit));
+    bool ofTheJob = false;
+    target->GetFullListOfFeatures()
+        .GetListOfFeatures(feature(3092))
+        .GetBooleanFeature(feature(3094))
+        .GetValue(ofTheJob, FeatureRef::kAssertIfUnsupported);
+    EXPECT_TRUE(ofTheJob) << "what stands beside them is the document's";
+
+    // A printer without any: what the document says of the device is not even unspecified.
+    const TestModel fresh(package);
+    const auto none = device(fresh);
+    document.mergeInto(fresh);
+    EXPECT_EQ(device(fresh), none);
+
+    // A block of everything brings no more than its scope, either.
+    std::vector<std::uint8_t> all;
+    EXPECT_TRUE(source->ExportSettings(all));
+    EXPECT_TRUE(fresh->ImportSettings(all.data(), all.size(), SettingsScope::Document));
+    EXPECT_EQ(device(fresh), none);
+    EXPECT_TRUE(fresh->ImportSettings(all.data(), all.size()));
+    EXPECT_EQ(device(fresh), device(source)) << "the printer's own store";
+}
+
+TEST(LockedSettings, RefuseEveryKindOfWriteAndSayWhy)
+{
+    std::string package = test::kTestPackage;
+    package.insert(package.find("\n  ],\n  \"constraints\""), R"(,
+    {"enum": 3201, "name": "odrv-pages", "kind": "range", "default": [1, 3], "range": {"min": 1, "max": 9}},
+    {"enum": 3202, "name": "odrv-number", "kind": "integer", "range": {"min": 1, "max": 9}},
+    {"enum": 3203, "name": "odrv-text", "kind": "string"},
+    {"enum": 3204, "name": "odrv-items", "kind": "values", "item": {"kind": "option", "default": 5140,
+      "options": [{"enum": 5140, "name": "one"}, {"enum": 5141, "name": "two"}]}},
+    {"enum": 3205, "name": "odrv-group", "kind": "list", "features": [
+      {"enum": 3206, "name": "odrv-inner", "kind": "boolean", "default": true}]},
+    {"enum": 1781, "name": "odrv-priv-ui-note", "kind": "boolean", "default": false},
+    {"enum": 1782, "name": "odrv-state", "kind": "boolean", "default": false, "flags": ["stateOnly"]})");
+    const TestModel model(package);
+    auto all = model->GetFullListOfFeatures();
+    const auto id = [](int number) {
+        return FeatureId(static_cast<DataModelIds::tagFeatureEnum>(number));
+    };
+    auto items = all.GetListOfValues(id(3204));
+    items.CreateOptionFeature();
+    model->CommitAccepted();
+    lockSettings(*model);
+
+    auto collate = all.GetBooleanFeature(id(3008));
+    auto item = items.GetOptionFeature(0);
+    const struct
+    {
+        const char* name;
+        bool written;
+    } writes[] = {
+        {"boolean", collate.SetValue(false)},
+        {"unspecified", collate.SetIsSpecified(false)},
+        {"option", model.choose(kOrientation, 5146)},
+        {"range", all.GetRangeFeature(id(3201)).SetValue(2, 4)},
+        {"integer without a value", all.GetIntegerFeature(id(3202)).SetValue(5)},
+        {"its last value", all.GetIntegerFeature(id(3202)).SetIsSpecified(true)},
+        {"text without a value", all.GetStringFeature(id(3203)).SetValue(L"q")},
+        {"new item", items.CreateOptionFeature().IsSupported()},
+        {"item", item.SetValue(ValueId(static_cast<DataModelIds::tagValueEnum>(5141)))},
+        {"no item", items.DeleteAllItems()},
+        {"inside a list",
+         all.GetListOfFeatures(id(3205)).GetBooleanFeature(id(3206)).SetValue(false)},
+        {"defaults", all.RestoreToDefaultValue()},
+        {"a copy", all.CopyFrom(all)},
+    };
+    for (const auto& row : writes) {
+        EXPECT_FALSE(row.written) << row.name;
+    }
+    EXPECT_FALSE(model->IsModified());
+    EXPECT_EQ(items.GetNumItems(), 1U);
+    for (const int number : {3008, 3006, 3201, 3202, 3203, 3204, 3205}) {
+        const auto state = all.GetFeature(id(number))->GetCapabilities()->GetInterpretedState();
+        EXPECT_TRUE(state.IsDisabled()) << number;
+        EXPECT_EQ(state.GetReason(), L"#60299") << number;
+    }
+    EXPECT_EQ(items.GetListOfValuesCapabilities()->GetNewItemState().GetReason(), L"#60299");
+    EXPECT_EQ(model->GetStateReasons(FeatureIdWithContext(kSides), ValueId()).size(), 1U);
+    // What is no setting goes on.
+    EXPECT_TRUE(all.GetBooleanFeature(id(1781)).SetValue(true));
+    EXPECT_TRUE(all.GetBooleanFeature(id(1782)).SetValue(true));
 }
 
 TEST(DocumentSettings, LeavesTheDeviceAsThePrinterHasIt)

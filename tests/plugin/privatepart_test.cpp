@@ -34,6 +34,21 @@ TEST(PrivatePart, GivesBackWhatWasWrittenAndRefusesWhatDoesNotFit)
     EXPECT_EQ(part, empty);
 }
 
+TEST(PrivatePart, OfTheSizeOfEarlierVersionsIsRead)
+{
+    constexpr std::size_t kEarlierSize = 8192;
+    Part part;
+    writePrivatePart(part, blockOf(kEarlierSize - kPrivateHeaderSize));
+    EXPECT_TRUE(std::ranges::equal(readPrivatePart(std::span(part).first(kEarlierSize)),
+                                   blockOf(kEarlierSize - kPrivateHeaderSize)));
+}
+
+TEST(PrivatePart, StaysWithinASignedNumberOfSixteenBits)
+{
+    static_assert(kPrivateBlockCapacity == kSettingsBlockLimit);
+    EXPECT_LT(kPrivatePartSize, 0x8000U - 220) << "with the public part before it";
+}
+
 TEST(PrivatePart, ReadsNothingOutOfDamagedParts)
 {
     struct Row
@@ -51,7 +66,7 @@ TEST(PrivatePart, ReadsNothingOutOfDamagedParts)
         {"a newer layout",            kPrivatePartSize,       4, 2},
         {"a header that is too short", kPrivatePartSize,       6, 15},
         {"a header beyond the end",   kPrivatePartSize,       7, 0xFF},
-        {"a block beyond the end",    kPrivatePartSize,       9, 0x21},
+        {"a block beyond the end",    kPrivatePartSize,       9, 0x7C},
         {"a huge block",              kPrivatePartSize,      11, 0xFF},
         {"cut off in the block",      kPrivateHeaderSize + 99, 0, 'O'},
     };

@@ -5,6 +5,7 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "datamodelfactory.h"
@@ -18,10 +19,11 @@ namespace o7::test {
 class TestModel
 {
 public:
-    TestModel()
+    /// @param package  the text of one, for what the small printer does not have.
+    explicit TestModel(std::string_view package = kTestPackage)
     {
         std::vector<PackageError> errors;
-        m_package = ParseProductPackage(kTestPackage, "test/package.json", errors);
+        m_package = ParseProductPackage(package, "test/package.json", errors);
         for (const PackageError& error : errors) {
             throw std::runtime_error(error.ToString());
         }

@@ -4,7 +4,8 @@ namespace o7::test {
 
 /// A small printer: the features that the public fields of a DEVMODE stand for, one that only the
 /// private part carries (skipping blank pages), one of the device (the duplex unit, without which
-/// there is no two-sided printing). A3 is not to be had from tray 1.
+/// there is no two-sided printing). Sides are greyed for pages that lie, and A3 is not to be had
+/// from tray 1.
 inline constexpr char kTestPackage[] = R"({
   "formatVersion": 1,
   "product": {"id": "test", "modelName": "Test", "uniqueId": "TEST",
@@ -46,6 +47,8 @@ inline constexpr char kTestPackage[] = R"({
     {"id": "no-duplex-unit", "when": [{"feature": 3046, "is": [false]}],
      "effect": {"feature": 3005, "options": [5141, 5142], "kind": "disable"},
      "reason": 60001},
+    {"id": "lying-one-sided", "when": [{"feature": 3006, "is": ["landscape"]}],
+     "effect": {"feature": 3005, "kind": "disable"}, "reason": 60003},
     {"id": "a3-not-from-tray-1", "when": [{"feature": 3003, "is": [5121]}],
      "effect": {"feature": 3002, "options": [5110], "kind": "disable"}, "reason": 60002}
   ]
