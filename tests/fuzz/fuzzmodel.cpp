@@ -8,7 +8,7 @@ namespace {
 
 // The package fuzzer has the same text for a seed.
 constexpr std::string_view kPackage = R"({"formatVersion":1,
-"product":{"id":"f","modelName":"F","uniqueId":"FUZZ","controllerFamily":8430,"languages":["en"]},
+"product":{"version":2,"id":"f","modelName":"F","uniqueId":"FUZZ","controllerFamily":8430,"languages":["en"]},
 "features":[
 {"enum":100,"name":"odrv-a","kind":"option","default":"x","flags":["userDefinedValues"],
  "options":[{"enum":6001,"name":"x"},{"enum":6002,"name":"y"}]},
@@ -24,7 +24,10 @@ constexpr std::string_view kPackage = R"({"formatVersion":1,
  {"enum":100,"name":"odrv-a","kind":"option","default":"x","options":[{"enum":6001,"name":"x"}]}],
  "constraints":[{"id":"k","when":[{"feature":"odrv-c","is":[true]}],
   "effect":{"feature":100,"kind":"disable"},"reason":60001}]}},
-{"enum":109,"name":"odrv-j","kind":"resolution","default":[600,600,1]}],
+{"enum":109,"name":"odrv-j","kind":"resolution","default":[600,600,1]},
+{"enum":110,"name":"odrv-k","kind":"string","maxLength":8,"flags":["secret"]},
+{"enum":111,"name":"odrv-l","kind":"values","maxItems":1000,"item":{"kind":"list","features":[
+ {"enum":112,"name":"odrv-m","kind":"string","default":"","maxLength":200,"former":[{"until":1,"enum":113}]}]}}],
 "constraints":[{"id":"l","when":[{"feature":"odrv-b","compare":"less","value":3}],
  "effect":{"feature":"odrv-c","kind":"clear"},"reason":60000}]})";
 
