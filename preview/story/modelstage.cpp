@@ -183,7 +183,7 @@ std::unique_ptr<IDataModel> ModelStage::newModel() const
     }
     if (const auto defaults = m_store.load(StoryStore::Record::Defaults);
         defaults && m_mode != kDeviceMode) {
-        mergeDevMode(*model, *defaults);
+        mergeDevMode(*model, *defaults, SettingsScope::Defaults);
     }
     return model;
 }
