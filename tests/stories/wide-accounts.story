@@ -1,4 +1,4 @@
-# Where the administrator asks for an account, a job without one is a conflict.
+# Where the administrator asks for an account, jobs have one unless somebody says no.
 product wide-w360
 entry model
 mode 2
@@ -7,6 +7,9 @@ set odrv-account-required true
 press OK
 restart mode 1
 open
+expect odrv-accounting is true
+expect no conflict
+set odrv-accounting false
 expect odrv-accounting conflict
 set odrv-accounting true
 expect odrv-accounting no conflict

@@ -1,0 +1,13 @@
+# Width and length say the size of the chosen paper; what was typed for the custom size comes back.
+product office-c430
+entry model
+open
+set odrv-paper-size custom
+set odrv-custom-width 120
+set odrv-paper-size a3
+expect odrv-custom-width is 297
+expect odrv-custom-length is 420
+expect odrv-custom-width disabled
+set odrv-paper-size custom
+expect odrv-custom-width is 120
+expect odrv-custom-width enabled
