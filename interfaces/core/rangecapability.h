@@ -10,15 +10,20 @@
 #include <utility>
 #include <vector>
 
-/// The ranges of whole numbers that an integer or range feature accepts.
+/// The ranges of whole numbers that an integer or range feature accepts now: what other settings
+/// rule out is not among them.
 class RangeCapability : public CapabilitiesNode
 {
 public:
     RangeCapability() = default;
-    /// `units` is set when the integer counts a length.
+    /// `units` is set when the integer counts a length; `supported` where it is more than `ranges`.
     RangeCapability(const CapabilitiesNode& base, std::vector<RangeOfInteger> ranges,
-                    std::optional<Dimension::UnitsEnum> units)
-        : CapabilitiesNode(base), m_ranges(std::move(ranges)), m_units(units)
+                    std::optional<Dimension::UnitsEnum> units,
+                    std::vector<RangeOfInteger> supported = {})
+        : CapabilitiesNode(base),
+          m_ranges(std::move(ranges)),
+          m_supported(std::move(supported)),
+          m_units(units)
     {
     }
 
@@ -71,7 +76,14 @@ public:
         return RangeOfInteger(low, high);
     }
 
+    /// What the product has, ruled out now or not, in rising order.
+    const std::vector<RangeOfInteger>& GetSupportedRanges() const
+    {
+        return m_supported.empty() ? m_ranges : m_supported;
+    }
+
 private:
     std::vector<RangeOfInteger> m_ranges;
+    std::vector<RangeOfInteger> m_supported; ///< Empty: the same.
     std::optional<Dimension::UnitsEnum> m_units;
 };

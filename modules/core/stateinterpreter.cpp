@@ -2,6 +2,7 @@
 
 #include "choices.h"
 #include "listoffeaturescapability.h"
+#include "openranges.h"
 #include "rangecapability.h"
 #include "rangeofdimensioncapability.h"
 #include "stringcapability.h"
@@ -106,6 +107,32 @@ CXString WithOpenWayOut(const CXString& text, const Constraint& constraint)
     if (number >= constraint.when.size() || IsOpen(constraint.when[number]))
         shown += whole.substr(at + kLength);
     return CXString(std::wstring_view(shown));
+}
+
+/// The numbers that can be chosen now.
+std::vector<RangeOfInteger> OpenNumbers(const FeatureNode& feature)
+{
+    std::vector<NumberRange> all;
+    for (const RangeOfInteger& range : feature.Description().ranges)
+        all.push_back({range.GetLowerBound(), range.GetUpperBound()});
+    std::vector<RangeOfInteger> open;
+    for (const NumberRange& range : OpenRanges(feature, std::move(all)))
+        open.emplace_back(static_cast<int>(range.low), static_cast<int>(range.high));
+    return open;
+}
+
+/// The same for lengths, from the shortest to the longest.
+std::unique_ptr<CapabilitiesNode> LengthCapability(const FeatureNode& feature,
+                                                   const CapabilitiesNode& base)
+{
+    const FeatureDescription& description = feature.Description();
+    if (!description.limits)
+        return std::make_unique<RangeOfDimensionCapability>(base);
+    const auto& [low, high] = *description.limits;
+    const auto open = OpenRanges(feature, {{low.GetCount(), high.GetCount()}});
+    return std::make_unique<RangeOfDimensionCapability>(
+        base, Dimension::FromCount(open.front().low, low.GetUnits()),
+        Dimension::FromCount(open.back().high, high.GetUnits()), std::pair(low, high));
 }
 
 } // namespace
@@ -311,13 +338,12 @@ std::unique_ptr<CapabilitiesNode> StateInterpreter::Capabilities(const FeatureNo
     case FeatureKind::Option:
         return OptionCapabilities(feature, *base);
     case FeatureKind::Integer:
+        return std::make_unique<RangeCapability>(*base, OpenNumbers(feature), description.units,
+                                                 description.ranges);
     case FeatureKind::Range:
         return std::make_unique<RangeCapability>(*base, description.ranges, description.units);
     case FeatureKind::Dimension:
-        return description.limits
-                   ? std::make_unique<RangeOfDimensionCapability>(*base, description.limits->first,
-                                                                  description.limits->second)
-                   : std::make_unique<RangeOfDimensionCapability>(*base);
+        return LengthCapability(feature, *base);
     case FeatureKind::ListOfFeatures: {
         std::vector<JobTicketTravel> travel;
         for (const FeatureDescription& member : description.list->features)

@@ -27,6 +27,67 @@ struct Shape
     bool holds;
 };
 
+// Which copies can be chosen while film is, of 1 to 99 and 200 to 999.
+TEST(Engine, ForbiddenNumbersAreNotOffered)
+{
+    const struct
+    {
+        std::string_view effect;
+        std::vector<RangeOfInteger> open;
+    } rows[] = {
+        {R"("compare": "greater", "value": 50)", {{1, 50}}},
+        {R"("compare": "greaterOrEqual", "value": 500)", {{1, 99}, {200, 499}}},
+        {R"("compare": "less", "value": 10)", {{10, 99}, {200, 999}}},
+        {R"("compare": "lessOrEqual", "value": 300)", {{301, 999}}},
+        {R"("between": [10, 20])", {{1, 9}, {21, 99}, {200, 999}}},
+        {R"("between": [90, 210])", {{1, 89}, {211, 999}}},
+        {R"("outside": [10, 20])", {{10, 20}}},
+        {R"("compare": "equal", "value": 99)", {{1, 98}, {200, 999}}},
+        {R"("options": [1, 999])", {{2, 99}, {200, 998}}},
+        {R"("isNot": [7, 300])", {{7, 7}, {300, 300}}},
+        // With nothing left the product's own ranges say more than none would.
+        {R"("compare": "less", "value": 5000)", {{1, 99}, {200, 999}}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.effect);
+        const Product product(Disable(R"({ "feature": 100, "is": ["film"] })",
+                                      R"("feature": 103, )" + std::string(row.effect)));
+        const auto ranges = [&] {
+            const auto all = product.All().GetIntegerFeature(test::kCopies).GetRangeCapabilities();
+            EXPECT_EQ(all->GetSupportedRanges(),
+                      (std::vector<RangeOfInteger>{{1, 99}, {200, 999}}));
+            std::vector<RangeOfInteger> each;
+            for (std::size_t index = 0; index < all->GetNumberOfValues(); ++index)
+                each.push_back(all->GetRangeValueByIndex(index));
+            return each;
+        };
+        EXPECT_EQ(ranges().size(), 2U);
+        product.Set(test::kMedia, test::kFilm);
+        EXPECT_EQ(ranges(), row.open);
+        product.Set(test::kMedia, test::kPlain);
+        EXPECT_EQ(ranges().size(), 2U);
+    }
+}
+
+TEST(Engine, ForbiddenLengthsAreNotOffered)
+{
+    const Product product(Disable(R"({ "feature": 100, "is": ["film"] })",
+                                  R"("feature": 107, "compare": "greater", "value": 200)"));
+    const auto most = [&](bool supported) {
+        const auto lengths =
+            product.All().GetDimensionFeature(test::kWidth).GetRangeOfDimensionCapabilities();
+        Dimension low;
+        Dimension high;
+        EXPECT_TRUE(supported ? lengths->GetSupportedValues(low, high)
+                              : lengths->GetRangeValues(low, high));
+        return high;
+    };
+    const Dimension before = most(false);
+    product.Set(test::kMedia, test::kFilm);
+    EXPECT_EQ(most(false), Dimension(200, Dimension::UnitsEnum::Millimetre));
+    EXPECT_EQ(most(true), before);
+}
+
 TEST(Engine, EveryQuestionAboutANumber)
 {
     const Shape shapes[] = {
