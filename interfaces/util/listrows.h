@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace o7 {
@@ -118,8 +119,9 @@ public:
     /// Null outside the list. Valid until the next change.
     const ListRow* at(int index) const noexcept;
     std::optional<int> idAt(int index) const noexcept;
-    /// -1 when there is no such row.
-    int indexOf(int id) const noexcept;
+    /// -1 when there is no such row. Asked for one row after the other without a change of their
+    /// order in between, it soon knows the places of all.
+    int indexOf(int id) const;
     /// Empty outside the list.
     CXString text(int index, int column) const;
     /// First row, from the start on and then from the top, whose first text begins so, whatever the
@@ -132,11 +134,14 @@ private:
     bool isSorted() const noexcept { return m_order.column != ListOrder::kUnsorted; }
     ListChange setFlag(int id, bool ListRow::*flag, bool value);
     std::size_t sortedPlace(const ListRow& row) const;
+    void orderChanged() noexcept;
     ListChange takeOver(std::vector<ListRow> rows);
 
     TextComparison m_compare;
     std::vector<ListColumn> m_columns;
-    std::vector<ListRow> m_rows; ///< in the order shown
+    std::vector<ListRow> m_rows;                       ///< in the order shown
+    mutable std::vector<std::pair<int, int>> m_places; ///< id and place by id; empty: not known now
+    mutable int m_searches = 0;                        ///< since the order changed
     ListOrder m_order;
 };
 

@@ -15,6 +15,7 @@
 // On the thread of the window only.
 
 #include "listrows.h"
+#include "mortal.h"
 #include "utilapi.h"
 
 #include <cstdint>
@@ -28,7 +29,8 @@ struct tagNMITEMACTIVATE;
 struct tagNMLVCUSTOMDRAW;
 struct tagNMLVFINDITEMW;
 
-/// What the user does in a list. Each function may change the list, but not destroy it.
+/// What the user does in a list. Each function may change the list. It may destroy it as well, as
+/// far as the list itself is concerned; a window of the system does not survive that everywhere.
 class O7UTIL_API ListViewObserver
 {
 public:
@@ -152,7 +154,6 @@ private:
     {
         std::vector<int> selected;
         std::optional<int> focused;
-        bool operator==(const Marks&) const = default;
     };
 
     std::intptr_t send(std::uint32_t message, std::uintptr_t wParam = 0,
@@ -162,8 +163,11 @@ private:
     void showChange();
     void showCount();
     void repaintRows();
-    Marks readMarks() const;
+    Marks readMarks(const std::vector<int>& places) const;
     void showMarks();
+    void keepMarks();
+    std::vector<int> markedPlaces() const;
+    void markPlaces(const std::vector<int>& marked, const std::vector<int>& wanted);
     void setRowState(int index, std::uint32_t state, std::uint32_t mask);
     void applyWidths(const std::vector<int>& widths);
     void showSortArrow();
@@ -181,13 +185,16 @@ private:
     void statesChanged(std::uint32_t oldState, std::uint32_t newState);
     bool contextMenuWanted(std::intptr_t position);
 
+    o7::Mortal m_life;
     HWND__* m_window = nullptr;
     ListViewObserver* m_observer = nullptr;
     o7::ListRows m_rows;
     CXString m_emptyText;
     int m_updates = 0;          ///< objects of class Update that live
     o7::ListChange m_pending{}; ///< what the window has not been told yet
-    Marks m_marks;              ///< while an Update lives: what is selected at its end
+    /// While an Update lives whose changes move rows or select others: what is selected at its end.
+    std::optional<Marks> m_marks;
+    std::vector<int> m_marked; ///< ... and the places that the window had selected before
     std::optional<int> m_reveal{};
     bool m_isSilent = false; ///< what changes in the window now is not the user's doing
     bool m_hasCheckBoxes = false;

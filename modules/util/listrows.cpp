@@ -100,6 +100,7 @@ ListChange ListRows::insert(ListRow row, int place)
     }
     const std::size_t index = isSorted() ? sortedPlace(row) : clampPlace(place, m_rows.size());
     m_rows.insert(m_rows.begin() + static_cast<std::ptrdiff_t>(index), std::move(row));
+    orderChanged();
     return changeAt(index, m_rows.size() - 1);
 }
 
@@ -118,6 +119,7 @@ ListChange ListRows::update(ListRow row)
         return changeAt(from, from);
     }
     m_rows.erase(m_rows.begin() + index);
+    orderChanged();
     const std::size_t to = sortedPlace(row);
     m_rows.insert(m_rows.begin() + static_cast<std::ptrdiff_t>(to), std::move(row));
     return changeAt(std::min(from, to), std::max(from, to));
@@ -131,6 +133,7 @@ ListChange ListRows::remove(int id)
     }
     const ListChange change = {index, count() - 1};
     m_rows.erase(m_rows.begin() + index);
+    orderChanged();
     return change;
 }
 
@@ -150,6 +153,7 @@ ListChange ListRows::move(int id, int place)
     } else {
         std::rotate(toAt, fromAt, fromAt + 1);
     }
+    orderChanged();
     return from == to ? ListChange{} : changeAt(std::min(from, to), std::max(from, to));
 }
 
@@ -188,8 +192,27 @@ std::optional<int> ListRows::idAt(int index) const noexcept
     return row != nullptr ? std::optional<int>(row->id) : std::nullopt;
 }
 
-int ListRows::indexOf(int id) const noexcept
+void ListRows::orderChanged() noexcept
 {
+    m_places.clear();
+    m_searches = 0;
+}
+
+int ListRows::indexOf(int id) const
+{
+    // One search costs less than to note all places, many cost more.
+    constexpr int kFewSearches = 4;
+    if (m_places.empty() && ++m_searches > kFewSearches) {
+        m_places.reserve(m_rows.size());
+        for (int index = 0; index < count(); ++index) {
+            m_places.emplace_back(at(index)->id, index);
+        }
+        std::sort(m_places.begin(), m_places.end());
+    }
+    if (!m_places.empty()) {
+        const auto place = std::lower_bound(m_places.begin(), m_places.end(), std::pair(id, -1));
+        return place != m_places.end() && place->first == id ? place->second : -1;
+    }
     const auto found = std::find_if(m_rows.begin(), m_rows.end(),
                                     [id](const ListRow& row) { return row.id == id; });
     return found == m_rows.end() ? -1 : static_cast<int>(found - m_rows.begin());
@@ -240,13 +263,15 @@ bool ListRows::canSortBy(int column) const noexcept
 
 ListChange ListRows::setFlag(int id, bool ListRow::*flag, bool value)
 {
-    const auto row = std::find_if(m_rows.begin(), m_rows.end(),
-                                  [id](const ListRow& each) { return each.id == id; });
-    if (row == m_rows.end() || (*row).*flag == value) {
+    const int place = indexOf(id);
+    if (place < 0) {
         return {};
     }
-    (*row).*flag = value;
-    const auto index = static_cast<std::size_t>(row - m_rows.begin());
+    const auto index = static_cast<std::size_t>(place);
+    if (m_rows[index].*flag == value) {
+        return {};
+    }
+    m_rows[index].*flag = value;
     return changeAt(index, index);
 }
 
@@ -266,6 +291,7 @@ ListChange ListRows::takeOver(std::vector<ListRow> rows)
                          [this](const ListRow& a, const ListRow& b) { return isBefore(a, b); });
     }
     m_rows.swap(rows);
+    orderChanged();
     const std::vector<ListRow>& before = rows;
     const auto first = std::mismatch(m_rows.begin(), m_rows.end(), before.begin(), before.end());
     const auto start = static_cast<std::size_t>(first.first - m_rows.begin());

@@ -5,7 +5,9 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <iterator>
 #include <new>
+#include <numeric>
 #include <utility>
 
 namespace {
@@ -125,12 +127,14 @@ void ListViewBase::fitColumns()
 void ListViewBase::setRows(std::vector<o7::ListRow> rows)
 {
     const Update update(*this);
+    keepMarks();
     m_pending |= m_rows.setRows(std::move(rows));
 }
 
 bool ListViewBase::insertRow(o7::ListRow row, int place)
 {
     const Update update(*this);
+    keepMarks();
     const o7::ListChange change = m_rows.insert(std::move(row), place);
     m_pending |= change;
     return !change.isNone();
@@ -139,12 +143,16 @@ bool ListViewBase::insertRow(o7::ListRow row, int place)
 void ListViewBase::updateRow(o7::ListRow row)
 {
     const Update update(*this);
+    if (m_rows.order().column != o7::ListOrder::kUnsorted) {
+        keepMarks(); // the row may go elsewhere
+    }
     m_pending |= m_rows.update(std::move(row));
 }
 
 void ListViewBase::removeRow(int id)
 {
     const Update update(*this);
+    keepMarks();
     m_pending |= m_rows.remove(id);
 }
 
@@ -156,6 +164,7 @@ void ListViewBase::removeAllRows()
 void ListViewBase::moveRow(int id, int place)
 {
     const Update update(*this);
+    keepMarks();
     m_pending |= m_rows.move(id, place);
 }
 
@@ -177,14 +186,17 @@ void ListViewBase::sortBy(o7::ListOrder order)
         return;
     }
     const Update update(*this);
+    keepMarks();
     m_pending |= m_rows.sortBy(order);
     showSortArrow();
 }
 
 std::vector<int> ListViewBase::getSelectedRows() const
 {
-    std::vector<int> selected = m_updates > 0 ? m_marks.selected : readMarks().selected;
-    std::erase_if(selected, [this](int id) { return m_rows.indexOf(id) < 0; });
+    std::vector<int> selected = m_marks ? m_marks->selected : readMarks(markedPlaces()).selected;
+    if (m_marks) {
+        std::erase_if(selected, [this](int id) { return m_rows.indexOf(id) < 0; });
+    }
     return selected;
 }
 
@@ -197,21 +209,30 @@ std::optional<int> ListViewBase::getSelectedRow() const
 void ListViewBase::selectRows(const std::vector<int>& ids)
 {
     const Update update(*this);
-    m_marks.selected.clear();
+    keepMarks();
+    m_marks->selected.clear();
     m_reveal.reset();
+    const bool takesOne = isForOneRow();
     for (const int id : ids) {
-        const bool isTaken = m_rows.indexOf(id) >= 0 && !(isForOneRow() && m_reveal);
+        const bool isTaken = m_rows.indexOf(id) >= 0 && !(takesOne && m_reveal);
         if (isTaken) {
-            m_marks.selected.push_back(id);
+            m_marks->selected.push_back(id);
             m_reveal = m_reveal.value_or(id);
         }
     }
-    m_marks.focused = m_reveal ? m_reveal : m_marks.focused;
+    m_marks->focused = m_reveal ? m_reveal : m_marks->focused;
 }
 
 std::optional<int> ListViewBase::getFocusedRow() const
 {
-    return m_updates > 0 ? m_marks.focused : readMarks().focused;
+    if (m_marks) {
+        return m_marks->focused;
+    }
+    if (m_window == nullptr) {
+        return std::nullopt;
+    }
+    return m_rows.idAt(
+        static_cast<int>(send(LVM_GETNEXTITEM, static_cast<WPARAM>(INT_PTR{-1}), LVNI_FOCUSED)));
 }
 
 void ListViewBase::showCheckBoxes(bool show)
@@ -230,17 +251,23 @@ void ListViewBase::setEmptyText(const CXString& text)
         return;
     }
     m_emptyText = text;
-    if (m_rows.count() == 0) {
+    if (m_rows.count() == 0 && m_window != nullptr) {
         ::InvalidateRect(m_window, nullptr, TRUE);
     }
 }
 
 ListViewBase::Update::Update(ListViewBase& list) : m_list(list)
 {
-    if (list.m_updates == 0) {
-        list.m_marks = list.readMarks();
-    }
     ++list.m_updates;
+}
+
+/// Selection and focus stay with their rows. To be called before rows move.
+void ListViewBase::keepMarks()
+{
+    if (!m_marks) {
+        m_marked = markedPlaces();
+        m_marks = readMarks(m_marked);
+    }
 }
 
 ListViewBase::Update::~Update()
@@ -252,9 +279,12 @@ ListViewBase::Update::~Update()
         m_list.showChange();
     } catch (const std::bad_alloc&) {
         // The rows are right; at worst others than before are selected.
-        ::InvalidateRect(m_list.m_window, nullptr, TRUE);
+        if (m_list.m_window != nullptr) {
+            ::InvalidateRect(m_list.m_window, nullptr, TRUE);
+        }
     }
     m_list.m_pending = {};
+    m_list.m_marks.reset();
     m_list.m_reveal.reset();
 }
 
@@ -283,7 +313,9 @@ void ListViewBase::showChange()
     const FlagScope silence(m_isSilent);
     showCount();
     repaintRows();
-    showMarks();
+    if (m_marks) {
+        showMarks();
+    }
     const int revealed = m_reveal ? m_rows.indexOf(*m_reveal) : -1;
     if (revealed >= 0) {
         send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(revealed), FALSE);
@@ -317,19 +349,39 @@ void ListViewBase::repaintRows()
     }
 }
 
-ListViewBase::Marks ListViewBase::readMarks() const
+/// The places that the window has selected, rising.
+std::vector<int> ListViewBase::markedPlaces() const
+{
+    std::vector<int> places;
+    const auto selected = static_cast<int>(send(LVM_GETSELECTEDCOUNT));
+    if (m_window == nullptr || selected <= 0) {
+        return places;
+    }
+    places.reserve(static_cast<std::size_t>(selected));
+    if (selected == static_cast<int>(send(LVM_GETITEMCOUNT))) {
+        // Asked for each, a long list would take its time.
+        for (int place = 0; place < selected; ++place) {
+            places.push_back(place);
+        }
+        return places;
+    }
+    for (int place = -1; static_cast<int>(places.size()) < selected;) {
+        place = static_cast<int>(
+            send(LVM_GETNEXTITEM, static_cast<WPARAM>(static_cast<INT_PTR>(place)), LVNI_SELECTED));
+        if (place < 0) {
+            break;
+        }
+        places.push_back(place);
+    }
+    return places;
+}
+
+ListViewBase::Marks ListViewBase::readMarks(const std::vector<int>& places) const
 {
     Marks marks;
-    const auto next = [this](int from, LPARAM state) {
-        return static_cast<int>(
-            send(LVM_GETNEXTITEM, static_cast<WPARAM>(static_cast<INT_PTR>(from)), state));
-    };
-    if (m_window == nullptr || m_rows.count() == 0) {
-        return marks;
-    }
-    marks.focused = m_rows.idAt(next(-1, LVNI_FOCUSED));
-    for (int index = next(-1, LVNI_SELECTED); index >= 0; index = next(index, LVNI_SELECTED)) {
-        if (const std::optional<int> id = m_rows.idAt(index)) {
+    marks.focused = getFocusedRow();
+    for (const int place : places) {
+        if (const std::optional<int> id = m_rows.idAt(place)) {
             marks.selected.push_back(*id);
         }
     }
@@ -339,22 +391,50 @@ ListViewBase::Marks ListViewBase::readMarks() const
 /// The window marks places; this puts its marks where the rows are now.
 void ListViewBase::showMarks()
 {
-    std::erase_if(m_marks.selected, [this](int id) { return m_rows.indexOf(id) < 0; });
-    std::sort(m_marks.selected.begin(), m_marks.selected.end(),
-              [this](int a, int b) { return m_rows.indexOf(a) < m_rows.indexOf(b); });
-    m_marks.selected.erase(std::unique(m_marks.selected.begin(), m_marks.selected.end()),
-                           m_marks.selected.end());
-    const Marks shown = readMarks();
-    if (shown.selected != m_marks.selected) {
-        setRowState(-1, 0, LVIS_SELECTED);
-        for (const int id : m_marks.selected) {
-            setRowState(m_rows.indexOf(id), LVIS_SELECTED, LVIS_SELECTED);
+    std::vector<int> wanted;
+    for (const int id : m_marks->selected) {
+        const int place = m_rows.indexOf(id);
+        if (place >= 0) {
+            wanted.push_back(place);
         }
     }
-    const int focused = m_marks.focused ? m_rows.indexOf(*m_marks.focused) : -1;
-    if (focused >= 0 && shown.focused != m_marks.focused) {
+    std::sort(wanted.begin(), wanted.end());
+    wanted.erase(std::unique(wanted.begin(), wanted.end()), wanted.end());
+    std::erase_if(m_marked, [this](int place) { return place >= m_rows.count(); });
+    markPlaces(m_marked, wanted);
+    const int focused = m_marks->focused ? m_rows.indexOf(*m_marks->focused) : -1;
+    const auto shown =
+        static_cast<int>(send(LVM_GETNEXTITEM, static_cast<WPARAM>(INT_PTR{-1}), LVNI_FOCUSED));
+    if (focused >= 0 && shown != focused) {
         setRowState(focused, LVIS_FOCUSED, LVIS_FOCUSED);
         send(LVM_SETSELECTIONMARK, 0, focused);
+    }
+}
+
+/// Changes what differs. Where that is most of the list, all rows are marked at once first.
+void ListViewBase::markPlaces(const std::vector<int>& marked, const std::vector<int>& wanted)
+{
+    std::vector<int> taken;
+    std::vector<int> given;
+    std::set_difference(marked.begin(), marked.end(), wanted.begin(), wanted.end(),
+                        std::back_inserter(taken));
+    std::set_difference(wanted.begin(), wanted.end(), marked.begin(), marked.end(),
+                        std::back_inserter(given));
+    const auto count = static_cast<std::size_t>(m_rows.count());
+    const std::size_t changes = taken.size() + given.size();
+    if (1 + std::min(wanted.size(), count - wanted.size()) < changes) {
+        const bool most = wanted.size() > count / 2;
+        setRowState(-1, most ? LVIS_SELECTED : 0U, LVIS_SELECTED);
+        std::vector<int> all(most ? count : 0);
+        std::iota(all.begin(), all.end(), 0);
+        markPlaces(all, wanted);
+        return;
+    }
+    for (const int place : taken) {
+        setRowState(place, 0, LVIS_SELECTED);
+    }
+    for (const int place : given) {
+        setRowState(place, LVIS_SELECTED, LVIS_SELECTED);
     }
 }
 
@@ -363,8 +443,19 @@ void ListViewBase::setRowState(int index, UINT state, UINT mask)
     LVITEMW item{};
     item.state = state;
     item.stateMask = mask;
-    send(LVM_SETITEMSTATE, static_cast<WPARAM>(static_cast<INT_PTR>(index)),
-         reinterpret_cast<LPARAM>(&item));
+    // Some systems invalidate each row of a whole list by itself. Whoever is told may destroy this
+    // object, so the window is kept.
+    HWND window = m_window;
+    const bool isWhole = index < 0 && ::IsWindowVisible(window) != FALSE;
+    if (isWhole) {
+        ::SendMessageW(window, WM_SETREDRAW, FALSE, 0);
+    }
+    ::SendMessageW(window, LVM_SETITEMSTATE, static_cast<WPARAM>(static_cast<INT_PTR>(index)),
+                   reinterpret_cast<LPARAM>(&item));
+    if (isWhole) {
+        ::SendMessageW(window, WM_SETREDRAW, TRUE, 0);
+        ::InvalidateRect(window, nullptr, FALSE);
+    }
 }
 
 void ListViewBase::applyWidths(const std::vector<int>& widths)

@@ -40,7 +40,7 @@ bool ListViewBase::processWindowsMessage(const UINT message, const WPARAM wParam
     if (m_window == nullptr) {
         return false;
     }
-    if (message == WM_NOTIFY) {
+    if (message == WM_NOTIFY && lParam != 0) {
         return notified(lParam, result);
     }
     if (message == WM_CONTEXTMENU && reinterpret_cast<HWND>(wParam) == m_window &&
@@ -193,7 +193,8 @@ void ListViewBase::columnClicked(int column)
     }
     {
         const Update update(*this);
-        m_reveal = m_marks.focused;
+        keepMarks();
+        m_reveal = m_marks->focused;
         sortBy(order);
     }
     if (m_observer != nullptr) {
@@ -221,12 +222,14 @@ bool ListViewBase::pressKey(UINT virtualKey)
     const bool toggles = virtualKey == VK_SPACE && m_hasCheckBoxes && focused >= 0;
     const bool selectsAll = virtualKey == L'A' && ::GetKeyState(VK_CONTROL) < 0 &&
                             ::GetKeyState(VK_MENU) >= 0 && !isForOneRow();
+    const o7::Mortal::Watch watch(m_life);
     if (toggles) {
         toggleChecks(focused);
     } else if (selectsAll) {
         setRowState(-1, LVIS_SELECTED, LVIS_SELECTED);
     }
-    const bool isTaken = m_observer != nullptr && m_observer->listKeyPressed(virtualKey);
+    const bool isTaken =
+        watch.isAlive() && m_observer != nullptr && m_observer->listKeyPressed(virtualKey);
     return toggles || selectsAll || isTaken;
 }
 
@@ -248,6 +251,7 @@ void ListViewBase::toggleChecks(int index)
     const int clicked = row->id;
     const bool isChecked = !row->isChecked;
     std::vector<int> ids = getSelectedRows();
+    const o7::Mortal::Watch watch(m_life);
     if (std::find(ids.begin(), ids.end(), clicked) == ids.end()) {
         ids = {clicked};
     }
@@ -260,7 +264,7 @@ void ListViewBase::toggleChecks(int index)
         }
     }
     for (const int id : ids) {
-        if (m_observer != nullptr) {
+        if (watch.isAlive() && m_observer != nullptr) {
             m_observer->listRowChecked(id, isChecked);
         }
     }

@@ -14,9 +14,12 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <functional>
 #include <memory>
+#include <numeric>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -564,6 +567,54 @@ TEST_F(UIListView, AMirroredListShowsItsTipsMirrored)
     EXPECT_LE(tip.right, row.right);
     EXPECT_GT(tip.right, row.right - 20);
     EXPECT_NEAR(row.bottom, tip.top, 1);
+}
+
+/// The shortest of some rounds: others work on the machine as well.
+double milliseconds(int rounds, const std::function<void(int)>& act)
+{
+    double shortest = 1e9;
+    for (int round = 0; round < rounds; ++round) {
+        const auto start = std::chrono::steady_clock::now();
+        act(round);
+        const std::chrono::duration<double, std::milli> taken =
+            std::chrono::steady_clock::now() - start;
+        shortest = std::min(shortest, taken.count());
+    }
+    return shortest;
+}
+
+TEST_F(UIListView, TwentyThousandRowsAreSelectedAndChangedAtOnce)
+{
+    constexpr int kCount = 20'000;
+    m_list->showCheckBoxes(true);
+    m_list->setRows(manyRows(kCount));
+    std::vector<int> all(kCount);
+    std::iota(all.begin(), all.end(), 0);
+    double shortest = 1e9;
+    for (int round = 0; round < 5; ++round) {
+        m_list->selectRows({});
+        shortest = std::min(shortest, milliseconds(1, [&](int) { m_list->selectRows(all); }));
+    }
+    EXPECT_LE(shortest, 50);
+    EXPECT_EQ(all, m_list->getSelectedRows());
+    const std::pair<const char*, std::function<void(int)>> changes[] = {
+        {"unavailable", [&](int n) { m_list->setRowUnavailable(5, n % 2 == 0); }},
+        {"checked", [&](int n) { m_list->setRowChecked(kCount - 1, n % 2 == 0); }},
+        {"text",
+         [&](int n) {
+             m_list->updateRow({7, {CXString::Formatted(L"%d", n), L""}});
+         }},
+    };
+    for (const auto& [what, change] : changes) {
+        EXPECT_LE(milliseconds(9, change), 1) << what;
+    }
+    EXPECT_LE(milliseconds(1, [](int) { o7::test::sendKey(VK_SPACE); }), 1000) << "all marks";
+    EXPECT_TRUE(m_list->getRows().at(kCount / 2)->isChecked);
+    m_list->removeRow(3);
+    all.erase(all.begin() + 3);
+    EXPECT_EQ(all, m_list->getSelectedRows());
+    m_list->insertRow({kCount, {L"new", L""}}, 0);
+    EXPECT_EQ(all, m_list->getSelectedRows());
 }
 
 TEST_F(UIListView, TellsItsColumnsAndRows)

@@ -75,15 +75,15 @@ void UIListViewControl::dump() const
         }
     }
     UIDump::line(titles.View());
-    const std::vector<int> selected = getSelectedRows();
+    std::vector<int> selected = getSelectedRows();
+    std::sort(selected.begin(), selected.end());
     for (int index = 0; index < rows.count(); ++index) {
         const o7::ListRow& row = *rows.at(index);
         CXString line = CXString::Formatted(L"row %d", row.id);
         for (const CXString& text : row.texts) {
             line += quoted(text);
         }
-        const bool isSelected =
-            std::find(selected.begin(), selected.end(), row.id) != selected.end();
+        const bool isSelected = std::binary_search(selected.begin(), selected.end(), row.id);
         line += isSelected ? L" selected" : L"";
         line += row.isChecked ? L" checked" : L"";
         line += row.isUnavailable ? L" unavailable" : L"";
@@ -204,7 +204,11 @@ LRESULT UIListViewControl::keyDown(HWND window, UINT message, WPARAM wParam, LPA
         return 0;
     }
     const int before = focusedIndex();
+    const o7::Mortal::Watch watch(m_life);
     const LRESULT result = callSavedProcedure(window, message, wParam, lParam);
+    if (!watch.isAlive()) {
+        return result;
+    }
     const int after = focusedIndex();
     if (after != before) {
         showTip(after, labelArea(after, 0).left);

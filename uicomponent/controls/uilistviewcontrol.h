@@ -1,6 +1,7 @@
 #pragma once
 
 #include "listviewbase.h"
+#include "mortal.h"
 #include "rowtip.h"
 #include "subclassedwindow.h"
 #include "uicontrol.h"
@@ -59,6 +60,7 @@ private:
     int focusedIndex() const;
     RECT labelArea(int row, int column) const;
 
+    o7::Mortal m_life;
     o7::RowTip m_tip;
     POINT m_mouse{-1, -1};
     int m_rowUnderMouse = -1;
