@@ -2,20 +2,24 @@
 // window is gone. The system's service is replaced where this platform has none.
 
 #include "uibitmapbuttoncontrol.h"
+#include "uicomboboxcontrol.h"
 #include "uihyperlinktextcontrol.h"
 #include "uiimagecontrol.h"
 #include "uiinfobuttoncontrol.h"
+#include "uilistboxcontrol.h"
 #include "uitextcontrol.h"
 
 #include "accessibility.h"
 #include "cxstring.h"
 #include "importpatch.h"
+#include "itemrecord.h"
 #include "operatingsystem.h"
 #include "testpage.h"
 
 #include <gtest/gtest.h>
 #include <oleacc.h>
 
+#include <array>
 #include <map>
 #include <memory>
 #include <string>
@@ -35,6 +39,7 @@ public:
         std::wstring name;
         LONG role = 0;
         LONG state = 0;
+        std::map<DWORD, LONG> parts; ///< their states
     };
     std::map<HWND, Annotation> annotations;
     int created = 0;
@@ -53,9 +58,12 @@ public:
                                VARIANT value) override
     {
         EXPECT_EQ(static_cast<DWORD>(OBJID_CLIENT), object);
-        EXPECT_EQ(0U, child);
         EXPECT_EQ(VT_I4, value.vt);
         Annotation& annotation = annotations[window];
+        if (child != CHILDID_SELF) {
+            annotation.parts[child] = value.lVal;
+            return S_OK;
+        }
         (::IsEqualGUID(id, PROPID_ACC_ROLE) != FALSE ? annotation.role : annotation.state) =
             value.lVal;
         return S_OK;
@@ -67,11 +75,16 @@ public:
         annotations[window].name = text;
         return S_OK;
     }
-    HRESULT WINAPI ClearHwndProps(HWND window, DWORD /*object*/, DWORD /*child*/,
+    HRESULT WINAPI ClearHwndProps(HWND window, DWORD /*object*/, DWORD child,
                                   const MSAAPROPID* /*ids*/, int count) override
     {
+        if (child != CHILDID_SELF) {
+            annotations[window].parts.erase(child);
+            return S_OK;
+        }
         EXPECT_EQ(3, count);
         EXPECT_NE(FALSE, ::IsWindow(window)) << "cleared while the window can be named";
+        EXPECT_TRUE(annotations[window].parts.empty());
         annotations.erase(window);
         return S_OK;
     }
@@ -197,6 +210,40 @@ TEST_F(AccessibilityTest, TakesItBackWhenTheParentGoesFirst)
     m_page.destroyWindows();
     EXPECT_TRUE(m_service.annotations.empty());
     plain.setAccessibleName(L"on a window that is gone");
+}
+
+TEST_F(AccessibilityTest, EntriesThatCannotBeChosenAreTold)
+{
+    UIComboBoxControl combo(m_page.page(), kId, m_page.services(), m_page.font(), {0, 0}, {50, 14});
+    UIListBoxControl box(m_page.page(), kId + 1, m_page.services(), m_page.font(), {0, 30},
+                         {50, 40}, 0, true);
+    combo.UIControl::setAccessibleName(L"Paper");
+    box.UIControl::setAccessibleName(L"Paper");
+    std::array<ItemRecord, 3> records{{{0, false}, {1, true}, {2, false}}};
+    for (UIEntryListControl* list :
+         {static_cast<UIEntryListControl*>(&combo), static_cast<UIEntryListControl*>(&box)}) {
+        for (ItemRecord& record : records) {
+            list->setItemData(list->addItem(L"entry"), &record);
+        }
+        records[1].unavailable = true;
+        HWND entries = list->UIControl::getHwnd();
+        if (list == &combo) {
+            ::SendMessageW(entries, CB_SHOWDROPDOWN, TRUE, 0);
+            COMBOBOXINFO info{};
+            info.cbSize = sizeof info;
+            ::GetComboBoxInfo(entries, &info);
+            entries = info.hwndList;
+        }
+        ::SendMessageW(entries, WM_GETOBJECT, 0, OBJID_CLIENT);
+        auto& parts = m_service.annotations[entries].parts;
+        EXPECT_EQ(1U, parts.size());
+        EXPECT_NE(0, parts[2] & STATE_SYSTEM_UNAVAILABLE);
+        list->setItemUnavailable(true, 2);
+        list->setItemUnavailable(false, 1);
+        EXPECT_EQ(1U, parts.size());
+        EXPECT_NE(0, parts[3] & STATE_SYSTEM_UNAVAILABLE);
+        records[2].unavailable = false;
+    }
 }
 
 TEST_F(AccessibilityTest, AMissingServiceIsSilent)

@@ -193,6 +193,15 @@ TEST_F(BitmapButton, AnswersEachMessageAndPassesItOn)
     }
 }
 
+TEST_F(BitmapButton, IsAStopOfTab)
+{
+    TestPage page;
+    const UIBitmapButtonControl button(page.page(), kId, page.services(), page.font(), {0, 0},
+                                       {20, 20}, 0, 0);
+    EXPECT_EQ(0x5001004B, ::GetWindowLongPtrW(button.UIControl::getHwnd(), GWL_STYLE));
+    EXPECT_EQ(button.UIControl::getHwnd(), ::GetNextDlgTabItem(page.page(), nullptr, FALSE));
+}
+
 TEST_F(BitmapButton, ASecondClickOfADoubleClickPressesToo)
 {
     make();

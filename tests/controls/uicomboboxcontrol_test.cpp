@@ -1,10 +1,13 @@
 #include "uicomboboxcontrol.h"
 
 #include "cxstring.h"
+#include "importpatch.h"
 #include "itemrecord.h"
 #include "messagerecorder.h"
 #include "testpage.h"
 #include "textmeasure.h"
+#include "uitooltips.h"
+#include "uiwindowsmessage.h"
 
 #include <commctrl.h>
 #include <gtest/gtest.h>
@@ -116,6 +119,7 @@ TEST_F(UIComboBox, TheWheelPassesOverUnavailableEntries)
 {
     fill({L"a", L"B", L"c", L"d"});
     m_list.setSelection(0);
+    ::SetFocus(m_list.getHwnd());
     struct Turn
     {
         int by;
@@ -129,6 +133,74 @@ TEST_F(UIComboBox, TheWheelPassesOverUnavailableEntries)
                        MAKEWPARAM(turn.held, static_cast<WORD>(turn.by)), 0);
         EXPECT_EQ(turn.selected, m_list.getSelection(true)) << turn.by;
     }
+}
+
+// The page under the pointer scrolls; who chooses something goes to the list first.
+TEST_F(UIComboBox, TheWheelOverAListWithoutTheFocusChangesNothing)
+{
+    fill({L"a", L"b", L"c"});
+    m_list.setSelection(1);
+    ::SetFocus(nullptr); // a page would hand it to its first control
+    int handedOn = 0;
+    m_page.onMessage = [&](const _UIWindowsMessage& message) {
+        handedOn += message.message == WM_MOUSEWHEEL ? 1 : 0;
+    };
+    for (const int by : {-WHEEL_DELTA, WHEEL_DELTA}) {
+        ::SendMessageW(m_list.getHwnd(), WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(by)), 0);
+        EXPECT_EQ(1, m_list.getSelection(true));
+    }
+    EXPECT_TRUE(m_page.commands.empty());
+    EXPECT_EQ(2, handedOn);
+}
+
+TEST_F(UIComboBox, DropsNoWiderThanTheScreen)
+{
+    fill({std::wstring(3000, L'w').c_str()});
+    EXPECT_GE(droppedWidth(), ::GetSystemMetrics(SM_CXSCREEN) / 2);
+    EXPECT_LE(droppedWidth(), ::GetSystemMetrics(SM_CXSCREEN));
+}
+
+TEST_F(UIComboBox, TakesItsTipAlongWhenItGoesBeforeThePage)
+{
+    UIToolTips tips(m_page.page());
+    const auto tools = [&] { return ::SendMessageW(tips.getHwnd(), TTM_GETTOOLCOUNT, 0, 0); };
+    {
+        UIComboBoxControl list(m_page.page(), 5, m_page.services(), m_page.font(), {10, 40},
+                               {20, 14});
+        list.setUnavailableReasons(&tips, [](int) { return CXString(); });
+        list.addItem(L"an entry much wider than its field");
+        list.setSelection(0);
+        const auto window = reinterpret_cast<WPARAM>(list.UIControl::getHwnd());
+        ::SendMessageW(list.UIControl::getHwnd(), WM_SETCURSOR, window, 0);
+        tips.relayMouse({UIMessageKind::TabPage, m_page.page(), WM_SETCURSOR, window, 0});
+        EXPECT_EQ(1, tools());
+    }
+    EXPECT_EQ(0, tools());
+}
+
+int s_desktopRepaints = 0;
+BOOL WINAPI countDesktop(HWND window, const RECT*, BOOL)
+{
+    s_desktopRepaints += window == nullptr ? 1 : 0;
+    return TRUE;
+}
+HWND WINAPI createNothing(DWORD, LPCWSTR, LPCWSTR, DWORD, int, int, int, int, HWND, HMENU,
+                          HINSTANCE, LPVOID)
+{
+    return nullptr;
+}
+
+TEST_F(UIComboBox, WithoutAWindowTheDesktopIsLeftAlone)
+{
+    const o7::test::ImportPatch watching("InvalidateRect", reinterpret_cast<void*>(&countDesktop));
+    const o7::test::ImportPatch failing("CreateWindowExW", reinterpret_cast<void*>(&createNothing));
+    ASSERT_TRUE(watching.isInPlace() && failing.isInPlace());
+    {
+        UIComboBoxControl list(m_page.page(), 5, m_page.services(), m_page.font(), {10, 40},
+                               {60, 14});
+        list.addItem(L"text");
+    }
+    EXPECT_EQ(0, s_desktopRepaints);
 }
 
 TEST_F(UIComboBox, DumpsWhatIsChosenAndWhatIsGrey)

@@ -254,6 +254,40 @@ TEST(UIControl, MovesAndResizesItsWindowAtOnce)
     EXPECT_TRUE(::EqualRect(&before, &after));
 }
 
+TEST(UIControl, SizesAreDialogUnitsUnlessToldOtherwise)
+{
+    TestPage page;
+    const ControlPtr control = makeText(page, true);
+    control->setSize({20, 10});
+    const RECT expected = page.pixels(0, 0, 20, 10);
+    const RECT place = placeOf(page, *control);
+    EXPECT_EQ(expected.right, place.right - place.left);
+    EXPECT_EQ(expected.bottom, place.bottom - place.top);
+}
+
+// Its owner reads that; the control itself does nothing with it.
+TEST(UIControl, RemembersThatItIsToBeEmptiedWhenDisabled)
+{
+    TestPage page;
+    UIComboBoxControl combo(page.page(), kId, page.services(), page.font(), kLocation, kSize);
+    IComboListControl& list = combo;
+    EXPECT_FALSE(list.getClearOnDisable());
+    list.setClearOnDisable(true);
+    EXPECT_TRUE(static_cast<UIControl&>(combo).getClearOnDisable());
+    list.setClearOnDisable(false);
+    EXPECT_FALSE(list.getClearOnDisable());
+}
+
+TEST(UIButtonControl, AnAmpersandShowsAndIsNoMnemonic)
+{
+    TestPage page;
+    UIButtonControl button(page.page(), kId, page.services(), page.font(), kLocation, kSize, false);
+    IButtonControl& named = button;
+    named.setButtonDisplayName(L"R&D && more");
+    EXPECT_EQ(L"R&&D &&&& more", o7::windowText(named.getHwnd()));
+    EXPECT_EQ(o7::windowText(named.getHwnd()), named.getButtonDisplayName());
+}
+
 TEST(UIControl, ShowsAndEnablesAtOnce)
 {
     TestPage page;
@@ -415,6 +449,15 @@ TEST_F(RadioGroup, ArrowKeysGoRoundInsideTheGroup)
     }
 }
 
+TEST_F(RadioGroup, TheFocusAloneChoosesNothing)
+{
+    check(0);
+    m_page.commands.clear();
+    ::SetFocus(window(1));
+    EXPECT_TRUE(m_page.commands.empty());
+    EXPECT_EQ(BST_UNCHECKED, m_radios[1]->getCheck());
+}
+
 TEST_F(RadioGroup, TabStopsAtTheCheckedOneOnly)
 {
     const auto stops = [&] {
@@ -442,55 +485,6 @@ TEST_F(RadioGroup, AMnemonicChecks)
     o7::test::sendKey('L', {VK_MENU});
     EXPECT_EQ(window(1), ::GetFocus());
     EXPECT_EQ(BST_CHECKED, m_radios[1]->getCheck());
-}
-
-TEST(UIEditControl, KeepsLongTextsButLimitsTyping)
-{
-    TestPage page;
-    UIEditControl edit(page.page(), kId, page.services(), page.font(), kLocation, kSize,
-                       ES_AUTOHSCROLL, true, 3);
-    const std::wstring longText(400, L'x');
-    edit.setText(CXString(std::wstring_view(longText)));
-    EXPECT_EQ(longText, edit.getText().c_str());
-    page.commands.clear();
-    edit.setText(CXString(std::wstring_view(longText)));
-    EXPECT_TRUE(page.commands.empty()) << "the text that stands there is no change";
-
-    ::SetForegroundWindow(::GetAncestor(page.page(), GA_ROOT));
-    ::SetFocus(edit.getHwnd());
-    edit.selectAll();
-    constexpr WORD kTyped[] = {'1', '2', '3', '4'};
-    for (const WORD key : kTyped) {
-        o7::test::sendKey(key);
-    }
-    EXPECT_EQ(L"123", edit.getText());
-}
-
-TEST(UISliderControl, KeepsToItsRangeAndMovesSilently)
-{
-    TestPage page;
-    std::vector<WPARAM> told;
-    page.onMessage = [&](const _UIWindowsMessage& message) {
-        if (message.message == WM_HSCROLL) {
-            told.push_back(LOWORD(message.wParam));
-        }
-    };
-    UISliderControl slider(page.page(), kId, page.services(), page.font(), kLocation, kSize, 0, -5,
-                           5);
-    slider.setSteps(1, 4);
-    constexpr std::pair<int, int> kPositions[] = {{3, 3}, {99, 5}, {-99, -5}, {-1, -1}};
-    for (const auto& [set, reached] : kPositions) {
-        slider.setPosition(set);
-        EXPECT_EQ(reached, slider.getPosition());
-    }
-    EXPECT_TRUE(told.empty());
-    ::SetForegroundWindow(::GetAncestor(page.page(), GA_ROOT));
-    ::SetFocus(slider.getHwnd());
-    o7::test::sendKey(VK_RIGHT);
-    EXPECT_EQ(0, slider.getPosition());
-    o7::test::sendKey(VK_NEXT);
-    EXPECT_EQ(4, slider.getPosition());
-    EXPECT_FALSE(told.empty());
 }
 
 TEST(UISpinControl, CountsFarAndTellsBeforeItSteps)

@@ -185,6 +185,29 @@ TEST_P(EntryList, GivesTextsAwayUpTo258Characters)
     }
 }
 
+// Some answers of the system have 16 bits.
+TEST(LongEntryList, EntriesBeyond65535AreGreyAsOthers)
+{
+    Rig rig(Kind::ListBox);
+    constexpr int kCount = 66000;
+    std::vector<ItemRecord> records(kCount, ItemRecord{1, false});
+    records[kCount - 2].unavailable = true;
+    ::SendMessageW(rig.window(), WM_SETREDRAW, FALSE, 0);
+    for (ItemRecord& record : records) {
+        rig.list->setItemData(rig.list->addItem(L"x"), &record);
+    }
+    ::SendMessageW(rig.window(), WM_SETREDRAW, TRUE, 0);
+    rig.attend();
+    rig.list->setSelection(kCount - 1);
+    const auto click = [&](int index) {
+        const POINT at = rig.middleOf(index);
+        o7::test::sendClick(at.x, at.y);
+        return rig.list->getSelection(true);
+    };
+    EXPECT_EQ(kCount - 1, click(kCount - 2));
+    EXPECT_EQ(kCount - 3, click(kCount - 3));
+}
+
 TEST_P(EntryList, RepaintsOnceWhenAnEntryBecomesUnavailable)
 {
     Rig rig(GetParam());

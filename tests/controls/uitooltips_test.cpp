@@ -216,6 +216,40 @@ TEST_F(ToolTips, ExplainADisabledControlByItsAreaOfThePage)
     EXPECT_EQ(0, count());
 }
 
+TEST_F(ToolTips, OfTwoThatArePlacedTheEndOfOneLeavesTheOther)
+{
+    UITextControl other(m_page.page(), 10, m_page.services(), m_page.font(), {10, 40}, {60, 8}, 0,
+                        true, nullptr);
+    RECT part{};
+    ::GetWindowRect(tool(), &part);
+    m_tips.showBeside(tool(), part, L"the first");
+    ::GetWindowRect(other.getHwnd(), &part);
+    m_tips.showBeside(other.getHwnd(), part, L"the second");
+    EXPECT_EQ(1, count());
+    m_tips.hidePlaced(tool());
+    EXPECT_TRUE(::IsWindowVisible(m_tips.getHwnd()));
+    m_tips.AddToolTipAndTruncatedLabel(UIToolTips::ControlType::Other, tool(), 0, {1000, 10},
+                                       L"fits", m_page.font());
+    m_tips.DeleteToolFromToolTip(tool());
+    EXPECT_TRUE(::IsWindowVisible(m_tips.getHwnd()));
+    m_tips.hidePlaced(other.getHwnd());
+    EXPECT_FALSE(::IsWindowVisible(m_tips.getHwnd()));
+    EXPECT_EQ(0, count());
+}
+
+TEST_F(ToolTips, KeepTheAmpersandsThatTheLabelShows)
+{
+    constexpr const wchar_t* kName = L"R&D department, second floor";
+    for (const DWORD style : {DWORD{SS_NOPREFIX}, DWORD{0}}) {
+        UITextControl label(m_page.page(), 10, m_page.services(), m_page.font(), {10, 40}, {30, 8},
+                            style, true, nullptr);
+        m_tips.AddToolTipAndTruncatedLabel(UIToolTips::ControlType::StaticText, label.getHwnd(), 0,
+                                           label.getDimensionInPixels(), kName, m_page.font());
+        EXPECT_EQ(style != 0 ? kName : L"RD department, second floor", tipOf(label.getHwnd()));
+        m_tips.DeleteToolFromToolTip(label.getHwnd());
+    }
+}
+
 TEST_F(ToolTips, WaitForTheMouse)
 {
     ::SetCursorPos(0, 0);

@@ -1,6 +1,7 @@
 #include "accessibility.h"
 
 #include <iterator>
+#include <utility>
 
 namespace o7 {
 
@@ -47,6 +48,34 @@ void Accessibility::setRole(LONG role, LONG state) noexcept
     m_state = state;
     if (m_service) {
         annotate();
+    }
+}
+
+void Accessibility::setUnavailableParts(std::vector<LONG> parts) noexcept
+{
+    if (parts == m_unavailable) {
+        return;
+    }
+    clearParts();
+    m_unavailable = std::move(parts);
+    annotateParts();
+}
+
+void Accessibility::annotateParts() noexcept
+{
+    for (const LONG part : m_unavailable) {
+        annotateNumber(PROPID_ACC_STATE, STATE_SYSTEM_UNAVAILABLE | STATE_SYSTEM_SELECTABLE, part);
+    }
+}
+
+void Accessibility::clearParts() noexcept
+{
+    if (!m_service || !m_service->properties) {
+        return;
+    }
+    for (const LONG part : m_unavailable) {
+        m_service->properties->ClearHwndProps(m_window, static_cast<DWORD>(OBJID_CLIENT),
+                                              static_cast<DWORD>(part), &PROPID_ACC_STATE, 1);
     }
 }
 
@@ -101,18 +130,19 @@ void Accessibility::annotate() noexcept
     if (m_state != 0) {
         annotateNumber(PROPID_ACC_STATE, currentState());
     }
+    annotateParts();
 }
 
-void Accessibility::annotateNumber(const MSAAPROPID& property, LONG value) noexcept
+void Accessibility::annotateNumber(const MSAAPROPID& property, LONG value, LONG part) noexcept
 {
-    if (!m_service->properties) {
+    if (!m_service || !m_service->properties) {
         return;
     }
     VARIANT number{};
     number.vt = VT_I4;
     number.lVal = value;
-    m_service->properties->SetHwndProp(m_window, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF,
-                                       property, number);
+    m_service->properties->SetHwndProp(m_window, static_cast<DWORD>(OBJID_CLIENT),
+                                       static_cast<DWORD>(part), property, number);
 }
 
 LONG Accessibility::currentState() const noexcept
@@ -123,6 +153,7 @@ LONG Accessibility::currentState() const noexcept
 
 void Accessibility::clear() noexcept
 {
+    clearParts();
     if (m_service && m_service->properties) {
         const MSAAPROPID properties[] = {PROPID_ACC_NAME, PROPID_ACC_ROLE, PROPID_ACC_STATE};
         m_service->properties->ClearHwndProps(m_window, static_cast<DWORD>(OBJID_CLIENT),

@@ -9,6 +9,7 @@
 #include <wrl/client.h>
 
 #include <optional>
+#include <vector>
 
 namespace o7 {
 
@@ -45,6 +46,8 @@ public:
     /// ROLE_SYSTEM_..., and STATE_SYSTEM_... bits to which focus and disabled are added; 0: the
     /// system's own.
     void setRole(LONG role, LONG state) noexcept;
+    /// The parts of the window, such as entries of a list, that cannot be chosen; from 1 on.
+    void setUnavailableParts(std::vector<LONG> parts) noexcept;
 
     /// Has to see the window's messages before they are passed on.
     void handleMessage(UINT message) noexcept;
@@ -64,7 +67,9 @@ private:
     LRESULT subclassWindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void forgetWindow() noexcept { m_window = nullptr; }
     void annotate() noexcept;
-    void annotateNumber(const MSAAPROPID& property, LONG value) noexcept;
+    void annotateNumber(const MSAAPROPID& property, LONG value, LONG part = CHILDID_SELF) noexcept;
+    void annotateParts() noexcept;
+    void clearParts() noexcept;
     LONG currentState() const noexcept;
     void clear() noexcept;
 
@@ -72,6 +77,7 @@ private:
     CXString m_name;
     LONG m_role = 0;
     LONG m_state = 0;
+    std::vector<LONG> m_unavailable;
     std::optional<Service> m_service; ///< once somebody has asked
 };
 

@@ -2,12 +2,15 @@
 
 #include "droppedlist.h"
 #include "textmeasure.h"
+#include "tipplacement.h"
 #include "uitooltips.h"
 #include "windowtext.h"
 
 #include <commctrl.h>
 
 #include <algorithm>
+#include <cstdlib>
+#include <utility>
 
 namespace {
 
@@ -36,7 +39,8 @@ public:
     ~PaintLater()
     {
         ::SendMessageW(m_window, WM_SETREDRAW, TRUE, 0);
-        if ((::GetWindowLongPtrW(m_parent, GWL_STYLE) & WS_VISIBLE) != 0) {
+        // Without a window the system would take the desktop for it.
+        if (m_window != nullptr && (::GetWindowLongPtrW(m_parent, GWL_STYLE) & WS_VISIBLE) != 0) {
             ::InvalidateRect(m_window, nullptr, TRUE);
         }
     }
@@ -72,7 +76,12 @@ UIComboBoxControl::UIComboBoxControl(HWND parent, int id, UIServices& services, 
     m_minVisible = static_cast<int>(send(CB_GETMINVISIBLE));
 }
 
-UIComboBoxControl::~UIComboBoxControl() = default;
+UIComboBoxControl::~UIComboBoxControl()
+{
+    if (toolTips() != nullptr && getHwnd() != nullptr) {
+        toolTips()->setTip(getHwnd(), {});
+    }
+}
 
 int UIComboBoxControl::addItem(const CXString& text)
 {
@@ -126,12 +135,23 @@ int UIComboBoxControl::entriesPerPage() const
     return isOpen() ? UIEntryListControl::entriesPerPage() : m_minVisible;
 }
 
+/// They are parts of the list that drops, not of the field.
+void UIComboBoxControl::tellGreyEntries(std::vector<LONG> entries)
+{
+    if (m_droppedList != nullptr) {
+        m_droppedList->tellGreyEntries(std::move(entries));
+    }
+}
+
 void UIComboBoxControl::notifySelected()
 {
     constexpr int kNotifications[] = {CBN_SELENDOK, CBN_SELCHANGE};
+    const o7::Mortal::Watch watch(life());
     for (const int notification : kNotifications) {
-        ::SendMessageW(getParentHwnd(), WM_COMMAND, MAKEWPARAM(getId(), notification),
-                       reinterpret_cast<LPARAM>(getHwnd()));
+        if (watch.isAlive()) {
+            ::SendMessageW(getParentHwnd(), WM_COMMAND, MAKEWPARAM(getId(), notification),
+                           reinterpret_cast<LPARAM>(getHwnd()));
+        }
     }
 }
 
@@ -153,8 +173,11 @@ LRESULT UIComboBoxControl::subclassWindowProcedure(HWND window, UINT message, WP
     if (message == WM_SETCURSOR) {
         tipWhatIsCut();
     }
-    if (message == WM_MOUSEWHEEL && turnWheel(wParam)) {
-        return 0;
+    if (message == WM_MOUSEWHEEL && !isOpen()) {
+        // Over a list that nobody works with, the wheel is meant for what lies around it.
+        return ::GetFocus() == window && turnWheel(wParam)
+                   ? 0
+                   : ::DefWindowProcW(window, message, wParam, lParam);
     }
     return UIEntryListControl::subclassWindowProcedure(window, message, wParam, lParam);
 }
@@ -179,16 +202,16 @@ void UIComboBoxControl::tipWhatIsCut() const
 /// Over a closed list the wheel goes on as the arrow keys do, and so passes over grey entries.
 bool UIComboBoxControl::turnWheel(WPARAM wParam)
 {
-    if (isOpen() || (GET_KEYSTATE_WPARAM(wParam) & (MK_SHIFT | MK_CONTROL)) != 0) {
+    if ((GET_KEYSTATE_WPARAM(wParam) & (MK_SHIFT | MK_CONTROL)) != 0) {
         return false;
     }
     // Fine wheels turn by less than an entry at a time.
     m_wheel += GET_WHEEL_DELTA_WPARAM(wParam);
-    for (; m_wheel >= WHEEL_DELTA; m_wheel -= WHEEL_DELTA) {
-        send(WM_KEYDOWN, VK_UP);
-    }
-    for (; m_wheel <= -WHEEL_DELTA; m_wheel += WHEEL_DELTA) {
-        send(WM_KEYDOWN, VK_DOWN);
+    const int entries = m_wheel / WHEEL_DELTA;
+    m_wheel %= WHEEL_DELTA;
+    const o7::Mortal::Watch watch(life());
+    for (int turned = 0; turned < std::abs(entries) && watch.isAlive(); ++turned) {
+        send(WM_KEYDOWN, entries > 0 ? VK_UP : VK_DOWN);
     }
     return true;
 }
@@ -209,7 +232,9 @@ HFONT UIComboBoxControl::itemFont() const
 void UIComboBoxControl::applyDroppedWidth(int count)
 {
     const int scrollBar = count > m_minVisible ? ::GetSystemMetrics(SM_CXVSCROLL) : 0;
-    const int width = m_widestItem + scrollBar;
+    const RECT screen = o7::workAreaOf(getHwnd());
+    const int width =
+        std::min(m_widestItem + scrollBar, static_cast<int>(screen.right - screen.left));
     if (width != m_droppedWidth) {
         send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(width));
         m_droppedWidth = width;

@@ -42,6 +42,7 @@ protected:
     bool isOpen() const override;
     int entriesPerPage() const override;
     void notifySelected() override;
+    void tellGreyEntries(std::vector<LONG> entries) override;
     LRESULT subclassWindowProcedure(HWND window, UINT message, WPARAM wParam,
                                     LPARAM lParam) override;
 

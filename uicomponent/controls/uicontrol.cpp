@@ -146,6 +146,13 @@ void UIControl::setAccessibleRole(LONG role, LONG state)
     }
 }
 
+void UIControl::setUnavailableParts(std::vector<LONG> parts)
+{
+    if (m_window) {
+        accessibility().setUnavailableParts(std::move(parts));
+    }
+}
+
 void UIControl::onAccessibilityMessage(UINT message) noexcept
 {
     if (m_accessibility) {
@@ -187,11 +194,19 @@ void UIControl::giveFont()
 
 void UIControl::dumpWindow(const wchar_t* kind, const CXString& addition) const
 {
+    if (UIDump::isCollecting()) {
+        dumpWindow(kind, o7::windowText(getHwnd()), addition);
+    }
+}
+
+void UIControl::dumpWindow(const wchar_t* kind, const CXString& text,
+                           const CXString& addition) const
+{
     if (!UIDump::isCollecting()) {
         return;
     }
     CXString line;
-    line.Format(L"%s %d \"%s\"%s%s%s%s", kind, m_id, o7::oneLine(o7::windowText(getHwnd())).c_str(),
+    line.Format(L"%s %d \"%s\"%s%s%s%s", kind, m_id, o7::oneLine(text).c_str(),
                 ::IsWindowEnabled(getHwnd()) != FALSE ? L"" : L" disabled",
                 m_visible ? L"" : L" hidden", addition.IsEmpty() ? L"" : L" ", addition.c_str());
     UIDump::line(line.View());

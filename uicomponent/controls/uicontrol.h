@@ -7,6 +7,7 @@
 #include <windows.h>
 
 #include <memory>
+#include <vector>
 
 class CXString;
 class DialogConversion;
@@ -108,12 +109,16 @@ protected:
     DRAWITEMSTRUCT* itemToDraw(const _UIWindowsMessage& message) const noexcept;
     /// ROLE_SYSTEM_... for screen readers, and STATE_SYSTEM_... bits beside focused and disabled.
     void setAccessibleRole(LONG role, LONG state = 0);
+    /// Its parts that cannot be chosen, for screen readers; from 1 on.
+    void setUnavailableParts(std::vector<LONG> parts);
     /// Has to be told each message of a window that a derived class stands before.
     void onAccessibilityMessage(UINT message) noexcept;
     /// For WM_NCDESTROY: the handle is about to become invalid.
     void forgetWindow() noexcept { m_window.release(); }
     /// One line for dump(): kind, id, text and state of the window, then what the control adds.
     void dumpWindow(const wchar_t* kind, const CXString& addition) const;
+    /// The same with another text than the window's.
+    void dumpWindow(const wchar_t* kind, const CXString& text, const CXString& addition) const;
 
 private:
     void placeWindow(POINT location, SIZE size);

@@ -13,7 +13,8 @@ public:
     /// @param style      added to WS_VISIBLE (ES_... bits; WS_CHILD too, unless bordered)
     /// @param bordered   a child with a border that Tab stops at and that scrolls
     /// @param textLimit  characters that can be typed (EM_LIMITTEXT); 0 is the system's own limit.
-    ///                   What is pasted comes whole, for the owner to judge.
+    ///                   What is pasted comes whole, for the owner to judge; of a text beyond all
+    ///                   measure, which would take the system minutes, only the beginning.
     UIEditControl(HWND parent, int id, UIServices& services, HFONT font, POINT location, SIZE size,
                   DWORD style, bool bordered, int textLimit);
     ~UIEditControl() override;
@@ -34,4 +35,5 @@ private:
     static constexpr const wchar_t* kSource = L"uieditcontrol";
 
     LRESULT subclassWindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT paste(HWND window, std::size_t most);
 };

@@ -113,6 +113,9 @@ void UIEntryListControl::setItemUnavailable(bool unavailable, int index)
     }
     record->unavailable = unavailable;
     setItemData(index, record);
+    if (m_hasReader) {
+        tellReaders();
+    }
     repaint(true);
     if (isOpen() && entryWindow() != getHwnd()) {
         ::InvalidateRect(entryWindow(), nullptr, TRUE);
@@ -193,6 +196,27 @@ LRESULT UIEntryListControl::subclassWindowProcedure(HWND window, UINT message, W
     return callSavedProcedure(window, message, wParam, lParam);
 }
 
+void UIEntryListControl::onAccessibilityMessage(UINT message) noexcept
+{
+    if (message == WM_GETOBJECT) {
+        m_hasReader = true;
+        o7::guarded<void>(kProcedureName, kSource, [this] { tellReaders(); });
+    }
+    UIControl::onAccessibilityMessage(message);
+}
+
+void UIEntryListControl::tellReaders()
+{
+    std::vector<LONG> grey;
+    const int count = getCount();
+    for (int index = 0; index < count; ++index) {
+        if (isGrey(index)) {
+            grey.push_back(index + 1);
+        }
+    }
+    tellGreyEntries(std::move(grey));
+}
+
 bool UIEntryListControl::filterKeys(UINT message, WPARAM wParam)
 {
     switch (message) {
@@ -212,7 +236,7 @@ bool UIEntryListControl::moveByKey(WPARAM key)
 {
     const int current = getSelection(true);
     const int wanted = keyTarget(key, current);
-    if (wanted < 0 || !hasGreyEntries()) {
+    if (wanted < 0 || !isPassedOver(key, wanted)) {
         return false;
     }
     const bool isForward = wanted > current || key == VK_DOWN || key == VK_RIGHT;
@@ -223,13 +247,24 @@ bool UIEntryListControl::moveByKey(WPARAM key)
         target = availableBetween(wanted - step, current, -step);
     }
     if (target >= 0 && target != current) {
+        const o7::Mortal::Watch watch(m_life);
         select(target);
+        if (!watch.isAlive()) {
+            return true;
+        }
     }
     const int passed = current + step;
     if (passed == wanted && passed != target && isOpen()) {
         showReason(passed);
     }
     return true;
+}
+
+/// Whether the window itself would go to an entry that cannot be taken. Where a page ends only it
+/// knows.
+bool UIEntryListControl::isPassedOver(WPARAM key, int wanted)
+{
+    return key == VK_NEXT || key == VK_PRIOR ? hasGreyEntries() : isGrey(wanted);
 }
 
 /// The entry that a key goes to while none is grey; -1 when it is no key that moves.
@@ -365,13 +400,12 @@ int UIEntryListControl::entryAt(HWND list, LPARAM position) const
     if (::PtInRect(&client, point) == FALSE) {
         return -1;
     }
-    // The nearest entry is named also for a point below the last one.
-    const auto nearest = static_cast<int>(
-        LOWORD(::SendMessageW(list, LB_ITEMFROMPOINT, 0, MAKELPARAM(point.x, point.y))));
-    RECT entry{};
-    const LRESULT known =
-        ::SendMessageW(list, LB_GETITEMRECT, toIndex(nearest), reinterpret_cast<LPARAM>(&entry));
-    return known != LB_ERR && ::PtInRect(&entry, point) != FALSE ? nearest : -1;
+    // All are of one height. The window itself would answer with 16 bits.
+    const auto height = static_cast<int>(::SendMessageW(list, LB_GETITEMHEIGHT, 0, 0));
+    const auto top = static_cast<int>(::SendMessageW(list, LB_GETTOPINDEX, 0, 0));
+    const auto count = static_cast<int>(::SendMessageW(list, LB_GETCOUNT, 0, 0));
+    const int index = height > 0 ? top + point.y / height : -1;
+    return index < count ? index : -1;
 }
 
 /// Whether the entry is drawn with an ellipsis in place of its end.

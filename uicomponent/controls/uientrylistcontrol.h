@@ -2,11 +2,14 @@
 
 #include "cxstring.h"
 #include "icombolistcontrol.h"
+#include "mortal.h"
 #include "subclassedwindow.h"
 #include "typeahead.h"
 #include "uicontrol.h"
 
 #include <functional>
+#include <utility>
+#include <vector>
 
 class UIToolTips;
 
@@ -99,14 +102,23 @@ protected:
     virtual bool isOpen() const = 0;
     /// How many entries a page is, for Page Up and Page Down.
     virtual int entriesPerPage() const;
-    /// Tells the parent that input has changed the selection, as the window itself would.
+    /// Tells the parent that input has changed the selection, as the window itself would. The
+    /// parent may answer by destroying the control.
     virtual void notifySelected() = 0;
+    const o7::Mortal& life() const { return m_life; }
 
     /// What a message for the window with the entries means; true when it is dealt with.
     bool filterPointing(HWND list, UINT message, LPARAM lParam);
     /// What a key means; true when it is dealt with.
     bool filterKeys(UINT message, WPARAM wParam);
     void hideReason();
+    /// Has to be told each message of the window with the entries.
+    void onAccessibilityMessage(UINT message) noexcept;
+    /// Tells screen readers which entries of that window are grey; by their numbers from 1 on.
+    virtual void tellGreyEntries(std::vector<LONG> entries)
+    {
+        setUnavailableParts(std::move(entries));
+    }
     /// The page's; may be null.
     UIToolTips* toolTips() const { return m_toolTips; }
 
@@ -133,11 +145,16 @@ private:
     CXString tipFor(int index) const;
     void showReason(int index);
 
+    bool isPassedOver(WPARAM key, int wanted);
+    void tellReaders();
+
+    o7::Mortal m_life;
     const o7::EntryListMessages& m_messages;
     o7::TypeAhead m_typeAhead;
     UIToolTips* m_toolTips = nullptr;
     std::function<CXString(int)> m_reasonOf;
     HWND m_reasonList = nullptr;
-    int m_reasonIndex = -1; ///< the entry whose reason is shown
-    LPARAM m_pointed = -1;  ///< where the mouse was last
+    int m_reasonIndex = -1;   ///< the entry whose reason is shown
+    LPARAM m_pointed = -1;    ///< where the mouse was last
+    bool m_hasReader = false; ///< a screen reader has asked
 };

@@ -1,6 +1,7 @@
 #include "uiinfobuttoncontrol.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "paintbuffer.h"
 #include "parentbackground.h"
@@ -16,19 +17,67 @@ namespace {
 constexpr WORD kShowMessage = 0x7001;
 constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW;
 
+bool isHighContrast()
+{
+    HIGHCONTRASTW contrast{};
+    contrast.cbSize = sizeof contrast;
+    return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0) != FALSE &&
+           (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
+}
+
+/// An exclamation mark in a triangle or an i in a circle, in the colours of the person's texts.
+void drawSign(HDC dc, const RECT& place, bool isConflict)
+{
+    const int saved = SaveDC(dc);
+    SetDCPenColor(dc, GetSysColor(COLOR_WINDOWTEXT));
+    SetDCBrushColor(dc, GetSysColor(COLOR_WINDOW));
+    SelectObject(dc, GetStockObject(DC_PEN));
+    SelectObject(dc, GetStockObject(DC_BRUSH));
+    const LONG side = place.right - place.left;
+    const LONG middle = place.left + side / 2;
+    const LONG thickness = std::max(1L, side / 8);
+    if (isConflict) {
+        const POINT corners[] = {{middle, place.top},
+                                 {place.right - 1, place.bottom - 1},
+                                 {place.left, place.bottom - 1}};
+        Polygon(dc, corners, 3);
+    } else {
+        Ellipse(dc, place.left, place.top, place.right, place.bottom);
+    }
+    // A dot and a bar, with a gap between them; the dot of the i is above.
+    const LONG top = place.top + side * (isConflict ? 3 : 2) / 8;
+    const LONG bottom = place.bottom - side / 6;
+    const LONG dotTop = isConflict ? bottom - thickness : top;
+    const std::pair dot(dotTop, dotTop + thickness);
+    const std::pair bar =
+        isConflict ? std::pair(top, dotTop - thickness) : std::pair(dot.second + thickness, bottom);
+    SetDCBrushColor(dc, GetSysColor(COLOR_WINDOWTEXT));
+    for (const auto& [from, to] : {dot, bar}) {
+        const RECT part{middle - thickness / 2, from, middle - thickness / 2 + thickness, to};
+        FillRect(dc, &part, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    }
+    RestoreDC(dc, saved);
+}
+
 /// In the middle of the area; the right way round in right-to-left layouts too.
-void drawIcon(HDC dc, const RECT& area, const wchar_t* name)
+void drawIcon(HDC dc, const RECT& area, bool isConflict)
 {
     const o7::UnmirroredDc unmirrored(dc, area);
     const RECT& place = unmirrored.area();
     const LONG width = place.right - place.left;
     const LONG height = place.bottom - place.top;
     const int side = static_cast<int>(std::min(width, height)) - 2;
+    const LONG left = place.left + (width - side) / 2;
+    const LONG top = place.top + (height - side) / 2;
+    if (isHighContrast()) {
+        drawSign(dc, {left, top, left + side, top + side}, isConflict);
+        return;
+    }
+    const wchar_t* const name = isConflict ? IDI_WARNING : IDI_INFORMATION;
     // A shared icon of the system: its colours follow the person's theme, and nobody releases it.
     const auto icon =
         static_cast<HICON>(LoadImageW(nullptr, name, IMAGE_ICON, 0, 0, LR_SHARED | LR_DEFAULTSIZE));
-    DrawIconEx(dc, place.left + (width - side) / 2, place.top + (height - side) / 2, icon, side,
-               side, 0, nullptr, DI_NORMAL);
+    DrawIconEx(dc, left, top, icon, side, side, 0, nullptr, DI_NORMAL);
 }
 
 } // namespace
@@ -121,7 +170,7 @@ void UIInfoButtonControl::draw(const DRAWITEMSTRUCT& item) const
 {
     const o7::PaintBuffer buffer(item.hDC, item.rcItem);
     o7::drawParentBackground(getHwnd(), buffer.dc());
-    drawIcon(buffer.dc(), item.rcItem, m_style == kConflict ? IDI_WARNING : IDI_INFORMATION);
+    drawIcon(buffer.dc(), item.rcItem, m_style == kConflict);
     if (item.itemState & ODS_FOCUS)
         DrawFocusRect(buffer.dc(), &item.rcItem);
 }

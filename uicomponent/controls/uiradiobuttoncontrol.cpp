@@ -61,6 +61,7 @@ UIRadioButtonControl::UIRadioButtonControl(HWND parent, int id, UIServices& serv
 {
     setVisibleFlag(true);
     createControlWindow(L"BUTTON", kStyle | style);
+    ::SendMessageW(getHwnd(), BM_SETDONTCLICK, TRUE, 0); // getting the focus is no choice
     subclassWindow(getHwnd());
 }
 
@@ -137,9 +138,11 @@ void UIRadioButtonControl::setTabStop(bool stops)
 LRESULT UIRadioButtonControl::subclassWindowProcedure(HWND window, UINT message, WPARAM wParam,
                                                       LPARAM lParam)
 {
+    const o7::Mortal::Watch watch(m_life);
     const LRESULT result = callSavedProcedure(window, message, wParam, lParam);
     // An arrow key chooses the button that it reaches. Some systems say so, others only move there.
-    if (message == WM_SETFOCUS && isArrowKeyDown() && getCheck() == BST_UNCHECKED) {
+    if (watch.isAlive() && message == WM_SETFOCUS && isArrowKeyDown() &&
+        getCheck() == BST_UNCHECKED) {
         ::SendMessageW(getParentHwnd(), WM_COMMAND, MAKEWPARAM(getId(), BN_CLICKED),
                        reinterpret_cast<LPARAM>(window));
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "mortal.h"
 #include "subclassedwindow.h"
 #include "uicontrol.h"
 #include "uihandles.h"
@@ -48,6 +49,7 @@ private:
     LRESULT subclassWindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void showPicture();
 
+    o7::Mortal m_life;
     o7::UniqueIcon m_picture;
     o7::UniqueIcon m_checkedPicture;
     HICON m_shownPicture = nullptr;

@@ -8,6 +8,8 @@
 
 #include <commctrl.h>
 
+#include <iterator>
+
 namespace {
 
 constexpr DWORD kStyle = WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX;
@@ -80,6 +82,15 @@ void letStaticNoticeMouse(HWND control)
                         (style & ~LONG_PTR{SS_CENTERIMAGE}) | LONG_PTR{SS_NOTIFY});
 }
 
+/// Whether a label is shown as it is, without mnemonics.
+bool showsAmpersands(HWND control)
+{
+    wchar_t name[16] = L"";
+    ::GetClassNameW(control, name, static_cast<int>(std::size(name)));
+    return ::_wcsicmp(name, WC_STATICW) == 0 &&
+           (::GetWindowLongPtrW(control, GWL_STYLE) & SS_NOPREFIX) != 0;
+}
+
 INT_PTR asText(const CXString& text)
 {
     return reinterpret_cast<INT_PTR>(text.c_str());
@@ -116,6 +127,10 @@ LRESULT UIToolTips::AddToolAndTrackingTipMessage(HWND tool, HINSTANCE instance, 
     info.uFlags |= TTF_TRACK | TTF_ABSOLUTE;
     send(getHwnd(), TTM_SETTOOLINFOW, 0, info);
     send(getHwnd(), TTM_TRACKACTIVATE, TRUE, info);
+    if (added != FALSE) {
+        m_tracked = tool;
+        m_placed = nullptr;
+    }
     WINDOWINFO place{};
     place.cbSize = sizeof place;
     if (::GetWindowInfo(tool, &place) == FALSE) {
@@ -135,7 +150,11 @@ void UIToolTips::UpdateTipMessage(HWND tool, HINSTANCE instance, INT_PTR text)
 void UIToolTips::DeleteToolFromToolTip(HWND tool)
 {
     TTTOOLINFOW info = toolInfo(m_owner, tool, TTF_IDISHWND | TTF_SUBCLASS);
-    send(getHwnd(), TTM_TRACKACTIVATE, FALSE, info);
+    // Whichever tool it names, this ends the tip that is shown.
+    if (m_placed == nullptr && (m_tracked == nullptr || m_tracked == tool)) {
+        send(getHwnd(), TTM_TRACKACTIVATE, FALSE, info);
+        m_tracked = nullptr;
+    }
     send(getHwnd(), TTM_DELTOOLW, 0, info);
 }
 
@@ -154,7 +173,7 @@ void UIToolTips::AddToolTipAndTruncatedLabel(ControlType type, HWND control, INT
 {
     // A label that is given again, with another text or area, has its tip already.
     DeleteToolFromToolTip(control);
-    CXString tip = o7::withoutMnemonics(label);
+    CXString tip = showsAmpersands(control) ? label : o7::withoutMnemonics(label);
     if (o7::TextMeasure(font).measure(tip.View()).cx <= area.cx) {
         if (extraText != 0) {
             AddToolAndTipMessage(control, IsolationAware::moduleInstance(), extraText);
@@ -237,13 +256,15 @@ void UIToolTips::relayMouse(const _UIWindowsMessage& message)
 void UIToolTips::showPlaced(HWND window, const CXString& text,
                             const std::function<POINT(SIZE)>& placeFor)
 {
-    hidePlaced(window);
+    hidePlaced(text.IsEmpty() ? window : m_placed);
     TTTOOLINFOW info = placedTool(window);
     info.uFlags |= o7::isMirrored(m_owner) ? UINT{TTF_RTLREADING} : 0U; // a dropped list is not
     info.lpszText = const_cast<wchar_t*>(text.c_str());
     if (text.IsEmpty() || send(getHwnd(), TTM_ADDTOOLW, 0, info) == FALSE) {
         return;
     }
+    m_placed = window;
+    m_tracked = nullptr;
     const auto moveTo = [&](SIZE size) {
         const POINT place = placeFor(size);
         ::SendMessageW(getHwnd(), TTM_TRACKPOSITION, 0, MAKELPARAM(place.x, place.y));
@@ -259,6 +280,10 @@ void UIToolTips::showPlaced(HWND window, const CXString& text,
 
 void UIToolTips::hidePlaced(HWND window)
 {
+    if (window == nullptr || window != m_placed) {
+        return; // its tip went when another's came
+    }
+    m_placed = nullptr;
     TTTOOLINFOW info = placedTool(window);
     send(getHwnd(), TTM_TRACKACTIVATE, FALSE, info);
     send(getHwnd(), TTM_DELTOOLW, 0, info);

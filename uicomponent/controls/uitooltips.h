@@ -40,7 +40,8 @@ public:
     LRESULT AddToolAndTrackingTipMessage(HWND tool, HINSTANCE instance, INT_PTR text);
     /// Replaces the text of a control's tip (TTM_UPDATETIPTEXTW).
     void UpdateTipMessage(HWND tool, HINSTANCE instance, INT_PTR text);
-    /// Ends tracking, then takes the control's tip away (TTM_DELTOOLW).
+    /// Ends tracking, unless it is another's tip that is shown so, then takes the control's tip
+    /// away (TTM_DELTOOLW).
     void DeleteToolFromToolTip(HWND tool);
     /// @param which  TTDT_AUTOPOP, TTDT_INITIAL, TTDT_RESHOW or TTDT_AUTOMATIC
     void SetInitialTime(DWORD which, long milliseconds);
@@ -50,6 +51,8 @@ public:
     /// Gives a label that is wider than its area a tip with the whole of it, followed by the extra
     /// text if there is one; a label that fits gets the extra text alone, or no tip without one.
     /// A static control is made to notice the mouse.
+    /// An ampersand marks a mnemonic, except in a static control that shows it as it is
+    /// (SS_NOPREFIX).
     /// @param extraText  0, the number of a string of this module, or a pointer to a string
     /// @param area       room of the label, in pixels; its width counts
     /// @param font       what the label is drawn in (borrowed)
@@ -100,4 +103,6 @@ private:
     HWND m_owner;
     o7::UniqueWindow m_window;
     std::map<HWND, Tip> m_tips; ///< those of setTip
+    HWND m_placed = nullptr;    ///< the window whose placed tip is shown
+    HWND m_tracked = nullptr;   ///< the tool whose tracking tip is shown
 };

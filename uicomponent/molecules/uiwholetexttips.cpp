@@ -67,6 +67,8 @@ void o7::addWholeTextTips(const UIPageWindow& page, UIToolTips& toolTips)
         if (isOfClass(child, WC_STATICW)) // ignores the mouse otherwise
             SetWindowLongPtrW(child, GWL_STYLE,
                               GetWindowLongPtrW(child, GWL_STYLE) | LONG_PTR{SS_NOTIFY});
-        toolTips.setTip(child, withoutMnemonics(text));
+        const bool asItIs =
+            isOfClass(child, WC_STATICW) && GetWindowLongPtrW(child, GWL_STYLE) & SS_NOPREFIX;
+        toolTips.setTip(child, asItIs ? text : withoutMnemonics(text));
     }
 }

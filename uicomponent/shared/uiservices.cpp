@@ -1,5 +1,6 @@
 #include "uiservices.h"
 
+#include "boxplacement.h"
 #include "dialogconversion.h"
 #include "featureservices.h"
 #include "productdata.h"
@@ -41,6 +42,7 @@ int UIServices::showMessage(HWND owner, const CXString& text, const CXString& ti
                             UINT flags) const
 {
     const UINT direction = m_rightToLeft ? MB_RTLREADING | MB_RIGHT : 0U;
+    const o7::BoxPlacement placement(owner);
     return MessageBoxW(owner, text.c_str(), title.c_str(), flags | direction);
 }
 

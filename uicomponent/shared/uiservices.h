@@ -36,8 +36,8 @@ public:
     /// Whether pages and dialogs are mirrored: their language is written from right to left.
     bool isRightToLeft() const noexcept { return m_rightToLeft; }
 
-    /// MessageBoxW, laid out in the direction of the texts. Whatever called may be gone when it
-    /// returns: the pages live on while it is open.
+    /// MessageBoxW, laid out in the direction of the texts and centred over its owner. Whatever
+    /// called may be gone when it returns: the pages live on while it is open.
     /// @param flags  MB_... bits. @return the button that was pressed, as MessageBoxW does.
     int showMessage(HWND owner, const CXString& text, const CXString& title, UINT flags) const;
 
