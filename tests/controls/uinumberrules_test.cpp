@@ -16,8 +16,8 @@ constexpr std::int64_t kMillimetre = 36'000'000;
 /// Names that a test can tell in its messages.
 const char* nameOf(Fault fault)
 {
-    constexpr const char* kNames[] = {"value", "empty",     "no number",
-                                      "unit",  "not whole", "out of range"};
+    constexpr const char* kNames[] = {"value",     "empty",        "no number", "unit",
+                                      "not whole", "out of range", "not now"};
     return kNames[static_cast<int>(fault)];
 }
 
@@ -131,6 +131,37 @@ TEST(UINumberRulesTest, TypedTextsComeToValuesOrToTheKindOfMistake)
         EXPECT_EQ(hasValue ? rules.text(reading.value).ToUtf8() : "", row.shown);
         EXPECT_TRUE(!hasValue || rules.allows(reading.value));
     }
+}
+
+// 1 to 20 is what another setting leaves of 1 to 99.
+TEST(UINumberRulesTest, WhatIsRuledOutNowIsAnotherMistakeThanWhatThereIsNot)
+{
+    UINumberRules rules;
+    rules.ranges = {{1, 20}};
+    rules.supported = {{1, 99}};
+    const UIUnitNames names;
+    const struct
+    {
+        const wchar_t* typed;
+        Fault fault;
+        std::int64_t value;
+    } rows[] = {{L"20", Fault::None, 20},
+                {L"21", Fault::NotNow, 20},
+                {L"99", Fault::NotNow, 20},
+                {L"100", Fault::OutOfRange, 20},
+                {L"0", Fault::OutOfRange, 1}};
+    for (const auto& row : rows) {
+        const auto reading = rules.read(row.typed, names);
+        EXPECT_STREQ(nameOf(reading.fault), nameOf(row.fault)) << row.value;
+        EXPECT_EQ(reading.value, row.value);
+    }
+    EXPECT_EQ(rules.longestText(), 2) << "as wide as it may become";
+    UINumberRules other = rules;
+    other.ranges = {{1, 99}};
+    EXPECT_TRUE(other.writesLike(rules));
+    EXPECT_FALSE(other == rules);
+    other.decimalSeparator = L',';
+    EXPECT_FALSE(other.writesLike(rules));
 }
 
 TEST(UINumberRulesTest, StepsCountFromWhatIsShownAndStopAtTheEnds)

@@ -9,15 +9,13 @@
 #include <cstring>
 #include <tuple>
 
-#include "datamodelfactory.h"
+#include "fieldinput.h"
 #include "idledriver.h"
 #include "input.h"
-#include "moleculedialog.h"
-#include "observercount.h"
+#include "packagefixture.h"
 #include "sheetrig.h"
 #include "tables/tablerows.h"
 #include "uidata.h"
-#include "uifixture.h"
 #include "uimolecule.h"
 #include "windowtext.h"
 
@@ -109,72 +107,6 @@ enum Box
     Optional
 };
 
-HWND boxOf(HWND page, int wanted)
-{
-    for (HWND child = GetWindow(page, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
-        wchar_t name[32] = L"";
-        GetClassNameW(child, name, 32);
-        if ((_wcsicmp(name, L"EDIT") == 0 || _wcsicmp(name, TRACKBAR_CLASSW) == 0) && wanted-- == 0)
-            return child;
-    }
-    return nullptr;
-}
-
-std::string textOf(HWND box)
-{
-    wchar_t name[32] = L"";
-    GetClassNameW(box, name, 32);
-    if (_wcsicmp(name, TRACKBAR_CLASSW) == 0)
-        return std::to_string(SendMessageW(box, TBM_GETPOS, 0, 0));
-    return o7::windowText(box).ToUtf8();
-}
-
-void focus(HWND box)
-{
-    pumpMessages(); // a new dialog has its own wish for the focus
-    SendMessageW(GetParent(box), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(box), TRUE);
-}
-
-/// As the clipboard or a keyboard of another script would bring it.
-void enter(HWND box, const wchar_t* text)
-{
-    focus(box);
-    SendMessageW(box, EM_SETSEL, 0, -1);
-    if (!*text)
-        SendMessageW(box, WM_CLEAR, 0, 0);
-    for (; *text; ++text)
-        SendMessageW(box, WM_CHAR, static_cast<WPARAM>(*text), 1);
-    pumpMessages();
-}
-
-/// The text of the tip that stands on the screen; empty without one.
-std::string shownTip()
-{
-    pumpMessages(); // it comes behind the focus
-    std::string text;
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND window, LPARAM parameter) -> BOOL {
-            wchar_t name[32] = L"";
-            GetClassNameW(window, name, 32);
-            if (_wcsicmp(name, TOOLTIPS_CLASSW) != 0 || !IsWindowVisible(window))
-                return TRUE;
-            const auto count = static_cast<WPARAM>(SendMessageW(window, TTM_GETTOOLCOUNT, 0, 0));
-            for (WPARAM index = 0; index < count; ++index) {
-                wchar_t shown[512] = L"";
-                TTTOOLINFOW info{};
-                info.cbSize = TTTOOLINFOW_V2_SIZE;
-                info.lpszText = shown;
-                SendMessageW(window, TTM_ENUMTOOLSW, index, reinterpret_cast<LPARAM>(&info));
-                if (info.uFlags & TTF_TRACK)
-                    *reinterpret_cast<std::string*>(parameter) = CXString(shown).ToUtf8();
-            }
-            return FALSE;
-        },
-        reinterpret_cast<LPARAM>(&text));
-    return text;
-}
-
 /// Every feature can be disabled, cleared and hidden by the limiter.
 std::string constraints()
 {
@@ -192,56 +124,18 @@ std::string constraints()
 
 } // namespace
 
-class NumberMoleculesTest : public UIFixture
+class NumberMoleculesTest : public PackageFixture
 {
 protected:
     void SetUp() override
     {
-        UIFixture::SetUp();
         std::string text(kPackage);
         const std::string mark = "%CONSTRAINTS%";
         text.replace(text.find(mark), mark.size(), constraints());
-        std::vector<PackageError> errors;
-        m_package = ParseProductPackage(text, "test.json", errors);
-        ASSERT_TRUE(m_package) << (errors.empty() ? "" : errors.front().ToString());
-        m_model = CreateDataModel(*m_package, session().strings());
-        m_services = std::make_unique<ObserverCount>(*m_model);
+        load(text);
     }
 
-    std::unique_ptr<MoleculeDialog> open()
-    {
-        return std::make_unique<MoleculeDialog>(session().productData(), *m_services,
-                                                session().strings(), kPage);
-    }
-    /// The value as a text: a number, a length in hundredths of a millimetre, a range, a text.
-    std::string value(tagFeatureEnum feature)
-    {
-        const auto any = m_model->GetFeatureRef(FeatureIdWithContext{FeatureId(feature)});
-        FeatureValue stored;
-        if (!any->GetNode()->GetValue(stored))
-            return "none";
-        if (const auto* length = std::get_if<Dimension>(&stored))
-            return length->GetStringValue(Dimension::UnitsEnum::Millimetre, 2).ToUtf8();
-        if (const auto* range = std::get_if<RangeOfInteger>(&stored))
-            return std::to_string(range->GetLowerBound()) + "-" +
-                   std::to_string(range->GetUpperBound());
-        if (const auto* string = std::get_if<CXString>(&stored))
-            return string->ToUtf8();
-        if (const auto* flag = std::get_if<bool>(&stored))
-            return *flag ? "yes" : "no";
-        return std::to_string(std::get<int>(stored));
-    }
-    void set(tagFeatureEnum feature, const FeatureValue& value)
-    {
-        ASSERT_TRUE(m_model->GetFeatureRef(FeatureIdWithContext{FeatureId(feature)})
-                        ->GetNode()
-                        ->SetValue(value));
-        pumpMessages();
-    }
-    void setOption(tagFeatureEnum feature, int option)
-    {
-        set(feature, ValueId(static_cast<tagValueEnum>(option)));
-    }
+    std::unique_ptr<MoleculeDialog> open() { return PackageFixture::open(kPage); }
     std::string allValues()
     {
         std::string text;
@@ -250,10 +144,6 @@ protected:
             text += value(feature) + " ";
         return text;
     }
-
-    std::unique_ptr<ProductPackage> m_package;
-    std::unique_ptr<IDataModel> m_model;
-    std::unique_ptr<ObserverCount> m_services;
 };
 
 TEST_F(NumberMoleculesTest, TypedTextsBecomeValuesOrComeBack)
@@ -539,6 +429,7 @@ TEST_F(NumberMoleculesTest, OkIsRefusedAndLeadsToTheField)
             EXPECT_EQ(textOf(box), "many");
             EXPECT_NE(said.find("“many” is not a number.\nAllowed: 1 to 99"), std::string::npos)
                 << said;
+            EXPECT_EQ(said.find("stays"), std::string::npos) << "the text still stands there";
             PostMessageW(box, WM_KEYDOWN, VK_RETURN, 1);
             return true;
         },

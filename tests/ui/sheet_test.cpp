@@ -228,9 +228,14 @@ TEST_F(SheetTest, AnOpenListExplainsWhatItDoesNotOffer)
         until([&](HWND) { return !isTipShown() && option(kPaperType) == before; }),
         drop(L"Paper type:"),
         key(VK_DOWN), // there is only one that goes with an envelope
-        until([&](HWND) { return isTipShown() && option(kPaperType) == kEnvelope; }),
-        key(VK_ESCAPE),
-        until([](HWND) { return !isTipShown(); }),
+        until([&](HWND) { return isTipShown() && option(kPaperType) == before; }),
+        key(VK_ESCAPE), // nothing was chosen yet
+        until([&](HWND) { return !isTipShown() && option(kPaperType) == before; }),
+        drop(L"Paper type:"),
+        key(VK_DOWN),
+        until([](HWND) { return isTipShown(); }),
+        key(VK_RETURN),
+        until([&](HWND) { return !isTipShown() && option(kPaperType) == kEnvelope; }),
         key(VK_ESCAPE),
     });
 }

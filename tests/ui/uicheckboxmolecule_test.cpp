@@ -4,7 +4,8 @@
 
 #include "input.h"
 #include "moleculedialog.h"
-#include "tables/productids.h"
+#include "tables/tablerows.h"
+#include "transactionref.h"
 #include "uicheckboxmolecule.h"
 #include "uifixture.h"
 #include "uistringnumbers.h"
@@ -42,6 +43,7 @@ constexpr UIControlRecord kPictured[] = {check(kCollate), kImage};
 constexpr UIControlRecord kLabelled[] = {kLabel, check(kCollate)};
 constexpr UIControlRecord kToggling[] = {check(kCollate, &kToggledByText), kSecondText};
 constexpr UIControlRecord kBorders[] = {check(o7::kPageBorders)};
+constexpr UIControlRecord kBooklet[] = {check(o7::kBooklet)};
 
 template <auto& Controls>
 constexpr UIMoleculeRecord kMolecule[] = {{.kind = UIMoleculeKind::CheckBox, .controls = Controls}};
@@ -50,6 +52,10 @@ constexpr UIColumnRecord kColumn[] = {{7, Width, 0, kMolecule<Controls>}};
 template <auto& Controls, int Width = 180>
 constexpr UIContainerRecord kDialog = {1, O7STR_TAB_PAPER, Width + 14, 60,
                                        kColumn<Controls, Width>};
+constexpr UIMoleculeRecord kBookletAndStaple[] = {
+    {.kind = UIMoleculeKind::CheckBox, .controls = kBooklet}, combo<o7::kStaple, O7STR_L_STAPLE>()};
+constexpr UIColumnRecord kBookletColumn[] = {{7, 180, 0, kBookletAndStaple}};
+constexpr UIContainerRecord kBookletDialog = {1, O7STR_TAB_PAPER, 194, 60, kBookletColumn};
 
 int checkOf(HWND box)
 {
@@ -116,6 +122,20 @@ TEST_F(UICheckBoxMoleculeTest, AClickIsWrittenAndTheModelShown)
         binding.write(!before);
         EXPECT_EQ(checkOf(box), !before);
     }
+}
+
+// A dialog keeps what is chosen in it in a transaction of its own until its OK.
+TEST_F(UICheckBoxMoleculeTest, AClickIsTakenInAtOnceInsideTheTransactionOfADialog)
+{
+    const MoleculeDialog dialog = open(kBookletDialog);
+    const std::wstring before = dialog.dump();
+    const auto transaction = model().OpenTransaction();
+    sendClick(dialog.child(0));
+    ASSERT_TRUE(boolean(o7::kBooklet));
+    const std::wstring inside = dialog.dump();
+    EXPECT_NE(inside, before);
+    transaction->Close(true);
+    EXPECT_EQ(dialog.dump(), inside) << "what was shown only when the dialog had closed";
 }
 
 TEST_F(UICheckBoxMoleculeTest, WhatCannotBeReadIsIndeterminateAndStaysEditable)

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "booleanfeatureref.h"
+#include "capabilitiesnode.h"
 #include "featureservices.h"
 #include "isolationaware.h"
 #include "optionfeatureref.h"
@@ -131,7 +132,7 @@ void UICheckBoxMolecule::CreateControls(UIPageWindow& page)
     const auto [checkY, checkHeight] = centred(m_checkLines, kAroundLines);
     m_check = std::make_unique<UICheckBoxControl>(page.window, page.takeId(), services, page.font,
                                                   POINT{x, checkY}, SIZE{checkWidth, checkHeight},
-                                                  m_threeState);
+                                                  m_threeState && !IsRequired());
     if (m_checkLines > 1)
         m_check->setMultiline();
     m_check->setLabelText(LoadText(m_checkText));
@@ -148,6 +149,15 @@ void UICheckBoxMolecule::CreateControls(UIPageWindow& page)
                                                    corner, SIZE{m_boxHeight, m_boxHeight}, 0, true);
         ShowOnDependants();
     }
+}
+
+// What has to be specified has no third state to click through.
+bool UICheckBoxMolecule::IsRequired() const
+{
+    const auto feature =
+        IsBound() ? GetSite().featureServices.GetFeatureRef(GetBoundFeature()) : nullptr;
+    const auto capabilities = feature ? feature->GetCapabilities() : nullptr;
+    return capabilities && capabilities->IsRequired();
 }
 
 void UICheckBoxMolecule::MoveControls(POINT delta)
@@ -258,14 +268,14 @@ void UICheckBoxMolecule::WriteCheck()
 {
     m_shownCheck = static_cast<WPARAM>(m_check->getCheck());
     ShowOnDependants();
-    UIValueWriter& writer = GetSite().valueWriter;
     const bool checked = m_shownCheck == BST_CHECKED;
-    if (!IsBoolean())
-        writer.SetOption(GetBoundFeature(), checked ? m_checkedValue : m_uncheckedValue);
-    else if (m_shownCheck == BST_INDETERMINATE)
-        writer.SetIsSpecified(GetBoundFeature(), false);
-    else
-        writer.SetBoolean(GetBoundFeature(), checked);
+    WriteAndReadBack([&, this] {
+        UIValueWriter& writer = GetSite().valueWriter;
+        if (!IsBoolean())
+            return writer.SetOption(GetBoundFeature(), checked ? m_checkedValue : m_uncheckedValue);
+        return m_shownCheck == BST_INDETERMINATE ? writer.SetIsSpecified(GetBoundFeature(), false)
+                                                 : writer.SetBoolean(GetBoundFeature(), checked);
+    });
     LoadValue(); // the model may have refused the write
     m_check->setCheck(static_cast<int>(m_shownCheck));
 }

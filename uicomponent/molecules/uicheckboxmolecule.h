@@ -42,6 +42,7 @@ protected:
     void ShowState(const InterpretedState& state, bool enabled) override;
 
 private:
+    bool IsRequired() const;
     bool IsBoolean() const { return m_checkedValue == DataModelIds::kNoValue; }
     /// From the left edge of the molecule to that of the check control.
     long GetCheckX() const;

@@ -58,7 +58,9 @@ bool UIComboBoxMolecule::HandleNotification(int notification)
 {
     switch (notification) {
     case CBN_SELCHANGE:
-        ChooseEntry(m_combo->getSelection(true));
+        // In an open list it is not a choice yet: Escape goes back to what was there.
+        if (!SendMessageW(m_combo->UIControl::getHwnd(), CB_GETDROPPEDSTATE, 0, 0))
+            ChooseEntry(m_combo->getSelection(true));
         return true;
     case CBN_SELENDCANCEL:
         m_choiceCancelled = true;

@@ -26,7 +26,7 @@ UIDimensionSpinMolecule::~UIDimensionSpinMolecule() = default;
 void UIDimensionSpinMolecule::InitializeFromDescription()
 {
     UISpinMolecule::InitializeFromDescription();
-    AddFurtherFeature(FeatureIdWithContext{FeatureId(o7::kMeasurementUnits)});
+    ObserveFeature(FeatureIdWithContext{FeatureId(o7::kMeasurementUnits)});
 }
 
 bool UIDimensionSpinMolecule::IsMetric() const
@@ -64,16 +64,19 @@ UINumberRules UIDimensionSpinMolecule::MakeRules()
     const auto features = GetSite().featureServices.GetListOfFeaturesFor(GetBoundFeature());
     if (const auto stored = StoredUnits()) {
         rules.grid = countOf(1, *stored);
-        rules.ranges = o7::numberRanges(
-            *features.GetIntegerFeature(GetBoundFeature()).GetRangeCapabilities(), rules.grid);
+        const auto numbers = features.GetIntegerFeature(GetBoundFeature()).GetRangeCapabilities();
+        rules.ranges = o7::numberRanges(*numbers, rules.grid);
+        rules.supported = o7::supportedRanges(*numbers, rules.grid);
         return rules;
     }
     Dimension low;
     Dimension high;
-    if (features.GetDimensionFeature(GetBoundFeature())
-            .GetRangeOfDimensionCapabilities()
-            ->GetRangeValues(low, high))
+    const auto lengths =
+        features.GetDimensionFeature(GetBoundFeature()).GetRangeOfDimensionCapabilities();
+    if (lengths->GetRangeValues(low, high))
         rules.ranges = {{low.GetCount(), high.GetCount()}};
+    if (lengths->GetSupportedValues(low, high))
+        rules.supported = {{low.GetCount(), high.GetCount()}};
     return rules;
 }
 
@@ -111,22 +114,6 @@ void UIDimensionSpinMolecule::LoadValue()
 {
     FollowUnits();
     UISpinMolecule::LoadValue();
-}
-
-bool UIDimensionSpinMolecule::HandleMessage(const _UIWindowsMessage& message)
-{
-    if (message.message == WM_SETTINGCHANGE) {
-        GetSite().services.setRegionalSettings(UIRegionalSettings::current());
-        FollowUnits();
-        return false; // the other lengths have to know as well
-    }
-    return UISpinMolecule::HandleMessage(message);
-}
-
-void UIDimensionSpinMolecule::CollectWantedMessages(UIMessageMask& mask) const
-{
-    UISpinMolecule::CollectWantedMessages(mask);
-    mask.add(WM_SETTINGCHANGE);
 }
 
 CXString UIDimensionSpinMolecule::GetObserverClassNameHeirarchy() const

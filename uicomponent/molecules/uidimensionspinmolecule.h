@@ -12,9 +12,7 @@ public:
     using UISpinMolecule::UISpinMolecule;
     ~UIDimensionSpinMolecule() override;
 
-    bool HandleMessage(const _UIWindowsMessage& message) override;
     void InitializeFromDescription() override;
-    void CollectWantedMessages(UIMessageMask& mask) const override;
     CXString GetObserverClassNameHeirarchy() const override;
 
 protected:

@@ -87,18 +87,17 @@ void UIEditMolecule::CreateControls(UIPageWindow& page)
 
 void UIEditMolecule::CreateNumber(UIPageWindow& page, POINT place, long width)
 {
-    UINumberRules rules;
-    rules.ranges = o7::numberRanges(*GetSite()
-                                         .featureServices.GetListOfFeaturesFor(GetBoundFeature())
-                                         .GetIntegerFeature(GetBoundFeature())
-                                         .GetRangeCapabilities());
     m_number = std::make_unique<UINumberField>();
     m_field = m_number.get();
-    m_number->SetRules(rules);
+    m_number->SetRules([this] {
+        const auto feature = GetSite()
+                                 .featureServices.GetListOfFeaturesFor(GetBoundFeature())
+                                 .GetIntegerFeature(GetBoundFeature());
+        return o7::wholeNumberRules(*feature.GetRangeCapabilities(), GetSite().services);
+    });
     m_number->SetWriter(
         [this](std::int64_t value) { return WriteNumber(static_cast<int>(value)); });
-    m_number->Create(page, {GetSite(), GetToolTips(), GetBoundFeature(), m_label.GetText()}, place,
-                     width, false);
+    m_number->Create(page, FieldSurroundings(), place, width, false);
 }
 
 void UIEditMolecule::CreateText(UIPageWindow& page, POINT place, long width)
@@ -119,8 +118,14 @@ void UIEditMolecule::CreateText(UIPageWindow& page, POINT place, long width)
     m_text = std::make_unique<UITextField>(
         rules, [this](const CXString& text) { return WriteText(text); });
     m_field = m_text.get();
-    m_text->Create(page, {GetSite(), GetToolTips(), GetBoundFeature(), m_label.GetText()}, place,
+    m_text->Create(page, FieldSurroundings(), place,
                    {wanted ? std::min(wanted, width) : width, BoxHeight()});
+}
+
+UITypedField::Surroundings UIEditMolecule::FieldSurroundings() const
+{
+    return {GetSite(), GetToolTips(), GetBoundFeature(), m_label.GetText(),
+            [this] { return GetInfoText(); }};
 }
 
 bool UIEditMolecule::WriteNumber(int value)
@@ -156,13 +161,15 @@ void UIEditMolecule::ShowState(const InterpretedState& state, bool enabled)
 {
     m_cleared = !enabled && state.IsCleared();
     m_label.Enable(enabled);
+    if (m_number)
+        m_number->RenewRules();
     LoadValue();
     if (!m_field)
         return;
     // What can only be read can still be selected and copied.
     const auto capabilities =
         GetSite().featureServices.GetFeatureRef(GetBoundFeature())->GetCapabilities();
-    const bool readOnly = capabilities->IsReadOnly() && !IsForceDisabled() &&
+    const bool readOnly = IsOnlyShown(*capabilities) && !IsForceDisabled() &&
                           !capabilities->GetInterpretedState().IsDisabled();
     m_field->SetReadOnly(readOnly);
     m_field->Enable(enabled || readOnly);

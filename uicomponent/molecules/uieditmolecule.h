@@ -4,11 +4,11 @@
 
 #include "uifeaturemolecule.h"
 #include "uimoleculelabel.h"
+#include "uitypedfield.h"
 
 class UIEditControlData;
 class UINumberField;
 class UITextField;
-class UITypedField;
 
 /// A labelled box for a text or a whole number without arrows. Which of the two is decided by the
 /// kind of the feature when the box is created.
@@ -41,6 +41,7 @@ private:
     void UpdateMinimumHeight();
     void CreateNumber(UIPageWindow& page, POINT place, long width);
     void CreateText(UIPageWindow& page, POINT place, long width);
+    UITypedField::Surroundings FieldSurroundings() const;
     bool WriteNumber(int value);
     bool WriteText(const CXString& text);
 

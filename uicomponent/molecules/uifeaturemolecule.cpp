@@ -17,10 +17,10 @@ void UIFeatureMolecule::ConnectToDataModel()
     if (!IsBound() || m_connected)
         return;
     const SettingsInstanceId current(DataModelIds::kSettingsCurrent);
-    FeatureServices& services = GetSite().featureServices;
-    services.RegisterObserver(*this, current, GetBoundFeature(), DataModelIds::kObserverFeature);
-    for (const auto& feature : m_furtherFeatures)
-        services.RegisterObserver(*this, current, feature, DataModelIds::kObserverFeature);
+    ForObserved([&](const FeatureIdWithContext& feature) {
+        GetSite().featureServices.RegisterObserver(*this, current, feature,
+                                                   DataModelIds::kObserverFeature);
+    });
     m_connected = true;
     LoadValue();
     LoadState();
@@ -33,10 +33,23 @@ void UIFeatureMolecule::DisconnectFromDataModel()
         return;
     m_connected = false;
     const SettingsInstanceId current(DataModelIds::kSettingsCurrent);
-    FeatureServices& services = GetSite().featureServices;
-    services.UnregisterObserver(*this, current, GetBoundFeature(), DataModelIds::kObserverFeature);
-    for (const auto& feature : m_furtherFeatures)
-        services.UnregisterObserver(*this, current, feature, DataModelIds::kObserverFeature);
+    ForObserved([&](const FeatureIdWithContext& feature) {
+        GetSite().featureServices.UnregisterObserver(*this, current, feature,
+                                                     DataModelIds::kObserverFeature);
+    });
+}
+
+template <class Do> void UIFeatureMolecule::ForObserved(const Do& act) const
+{
+    act(GetBoundFeature());
+    for (const auto* features : {&m_furtherFeatures, &m_observedOnly})
+        for (const auto& feature : *features)
+            act(feature);
+}
+
+void UIFeatureMolecule::ObserveFeature(const FeatureIdWithContext& feature)
+{
+    m_observedOnly.push_back(feature);
 }
 
 void UIFeatureMolecule::AddFurtherFeature(const FeatureIdWithContext& feature)
@@ -100,7 +113,7 @@ void UIFeatureMolecule::ProcessChange(const INotification& notification)
         return;
     const auto instance = change->GetSettingsInstanceId().GetSettingsEnum();
     if (instance == DataModelIds::kSettingsValue)
-        LoadValue();
+        KeepFocusWhile([this] { LoadValue(); });
     else if (instance == DataModelIds::kSettingsConstraintState &&
              change->GetFeatureChangeId().GetFeatureChangeEnum() ==
                  DataModelIds::kFeatureConstraintStateChanged)
@@ -118,17 +131,24 @@ void UIFeatureMolecule::LoadState()
     if (!state)
         return; // a feature that cannot be read keeps the state it shows
     m_state = *std::move(state);
-    const bool enabled = !m_state.IsDisabled();
+    m_enabled = !m_state.IsDisabled();
     const bool shown = !m_state.IsHidden() && IsShownOnPage() && !IsHiddenBySetting();
-    // Windows takes the focus from a window that it disables, and then nobody has it.
-    const bool losesFocus =
-        m_enabled && m_shown && !(enabled && shown) && GetPage() && OwnsControl(GetFocus());
-    m_enabled = enabled;
-    ShowState(m_state, m_enabled);
-    UpdateInfoButton(GetBoundFeature(), m_state);
-    ShowReasonTip();
-    ShowOrHide(shown);
-    if (losesFocus)
+    KeepFocusWhile([this, shown] {
+        ShowState(m_state, m_enabled);
+        UpdateInfoButton(GetBoundFeature(), m_state);
+        ShowReasonTip();
+        ShowOrHide(shown);
+    });
+}
+
+// Windows takes the focus from a window that it disables, and then nobody has it.
+template <class Load> void UIFeatureMolecule::KeepFocusWhile(const Load& load)
+{
+    const HWND focus = GetFocus();
+    const bool isOurs = GetPage() && OwnsControl(focus);
+    load();
+    if (isOurs && IsWindow(focus) &&
+        !(IsWindowEnabled(focus) && GetWindowLongPtrW(focus, GWL_STYLE) & WS_VISIBLE))
         HandOnFocus();
 }
 

@@ -31,9 +31,11 @@ protected:
     /// Enables, clears and fills the controls from the state. Safe to repeat; never writes.
     virtual void ShowState(const InterpretedState& state, bool enabled) = 0;
 
-    /// A feature beside the bound one whose changes load value and state again. For
-    /// InitializeFromDescription.
+    /// A feature beside the bound one that the molecule shows as well: its changes load value and
+    /// state again. For InitializeFromDescription.
     void AddFurtherFeature(const FeatureIdWithContext& feature);
+    /// One that the molecule only follows: it is no setting of its own, and is where it is named.
+    void ObserveFeature(const FeatureIdWithContext& feature);
     /// Writes in a transaction, and shows what is read back before it is committed.
     /// @param write  false: the model has refused, and what is shown stays.
     bool WriteAndReadBack(const std::function<bool()>& write);
@@ -48,11 +50,14 @@ protected:
 
 private:
     void ProcessChange(const INotification& notification);
+    template <class Do> void ForObserved(const Do& act) const;
+    template <class Load> void KeepFocusWhile(const Load& load);
     void ShowReasonTip();
     void ShowOrHide(bool shown);
     void HandOnFocus();
 
     std::vector<FeatureIdWithContext> m_furtherFeatures;
+    std::vector<FeatureIdWithContext> m_observedOnly;
     InterpretedState m_state;
     CXString m_reasonTip; ///< what the tip of the greyed control says now
     bool m_connected = false;

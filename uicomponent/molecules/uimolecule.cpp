@@ -280,11 +280,16 @@ std::optional<InterpretedState> UIMolecule::ReadState() const
     if (!capabilities)
         return std::nullopt;
     InterpretedState state = capabilities->GetInterpretedState();
-    const bool readOnly = capabilities->IsReadOnly();
+    const bool readOnly = IsOnlyShown(*capabilities);
     if (!state.IsDisabled() && (readOnly || m_forceDisabled))
         state.Disable(LoadText(readOnly ? O7STR_M_READ_ONLY : O7STR_M_NOT_HERE));
     CompleteState(*capabilities, state);
     return state;
+}
+
+bool UIMolecule::IsOnlyShown(const CapabilitiesNode& capabilities)
+{
+    return capabilities.IsReadOnly() || capabilities.IsStateOnlyFeature();
 }
 
 void UIMolecule::CompleteState(const CapabilitiesNode&, InterpretedState&) const

@@ -169,6 +169,8 @@ protected:
     std::optional<InterpretedState> ReadState() const;
     /// Lets a subclass add what its controls show of the capabilities beside the state itself.
     virtual void CompleteState(const CapabilitiesNode& capabilities, InterpretedState& state) const;
+    /// Whether a person cannot change it, however it stands: read-only, or told by the device.
+    static bool IsOnlyShown(const CapabilitiesNode& capabilities);
     /// Where the molecule finds a feature that its description names: inside the page's list when
     /// it works on that. For a feature beside the bound one; SetBoundFeature does it by itself.
     FeatureIdWithContext InFeatureList(const FeatureIdWithContext& feature) const;

@@ -3,9 +3,11 @@
 #include "capabilitiesnode.h"
 #include "featureref.h"
 #include "featureservices.h"
+#include "productstringloader.h"
 #include "transactionref.h"
 #include "uicheckboxcontrol.h"
 #include "uimoleculedump.h"
+#include "uistringnumbers.h"
 #include "uitextruler.h"
 #include "uivaluewriter.h"
 
@@ -70,31 +72,53 @@ void UIMoleculeSwitch::Move(POINT delta)
 
 void UIMoleculeSwitch::Show(bool shown)
 {
+    m_shown = shown;
     if (m_check)
-        m_check->setShow(shown);
+        m_check->setShow(m_shown && !m_hidden);
 }
 
 // A switch of its own goes by its own feature alone: what it switches may be disabled just because
 // it is off.
-void UIMoleculeSwitch::Enable(bool enabled, bool forceDisabled)
+void UIMoleculeSwitch::ShowState(bool enabled, bool forceDisabled)
 {
+    const InterpretedState own = OwnState();
+    m_cleared = own.IsDisabled() && own.IsCleared();
+    m_hidden = own.IsHidden();
+    Show(m_shown);
     if (m_check)
-        m_check->setEnable(m_ownFeature ? !forceDisabled && !OwnState().IsDisabled() : enabled);
+        m_check->setEnable(m_ownFeature ? !forceDisabled && !own.IsDisabled()
+                                        : enabled && CanBeTurned());
+}
+
+/// What has to be specified cannot be turned off.
+bool UIMoleculeSwitch::CanBeTurned() const
+{
+    const auto feature = m_site.featureServices.GetFeatureRef(m_feature);
+    const auto capabilities = feature->GetCapabilities();
+    return !capabilities || !capabilities->IsRequired() || !feature->IsSpecified();
 }
 
 InterpretedState UIMoleculeSwitch::OwnState() const
 {
-    if (!HasOwnFeature())
+    const auto capabilities =
+        HasOwnFeature() ? m_site.featureServices.GetFeatureRef(m_feature)->GetCapabilities()
+                        : nullptr;
+    if (!capabilities)
         return {};
-    return m_site.featureServices.GetFeatureRef(m_feature)
-        ->GetCapabilities()
-        ->GetInterpretedState();
+    InterpretedState state = capabilities->GetInterpretedState();
+    if (!state.IsDisabled() && (capabilities->IsReadOnly() || capabilities->IsStateOnlyFeature()))
+        state.Disable(m_site.strings.LoadStringW(O7STR_M_READ_ONLY));
+    return state;
 }
 
 void UIMoleculeSwitch::AddReason(InterpretedState& state) const
 {
     const InterpretedState own = OwnState();
-    if (own.IsDisabled())
+    if (own.HasCbrBtnMsg())
+        state.AddConflict(own.GetCbrBtnMsg());
+    if (own.HasInfoBtnMsg())
+        state.AddInfo(own.GetInfoBtnMsg());
+    if (own.IsDisabled() || own.IsHidden())
         state.AddInfo(own.GetReason());
 }
 
@@ -112,7 +136,7 @@ void UIMoleculeSwitch::Load()
 {
     if (!m_exists)
         return;
-    m_on = Read();
+    m_on = !m_cleared && Read();
     if (m_check)
         m_check->setCheck(m_on ? BST_CHECKED : BST_UNCHECKED);
 }

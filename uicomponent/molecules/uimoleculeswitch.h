@@ -45,9 +45,10 @@ public:
     void Create(UIPageWindow& page, POINT place, long width);
     void Move(POINT delta);
     void Show(bool shown);
+    /// Shows the state of its own feature as every control does.
     /// @param enabled  whether the molecule's feature is; counts for a switch that stands for it
-    void Enable(bool enabled, bool forceDisabled);
-    /// Adds why the box is grey by its own feature to what the molecule says of itself.
+    void ShowState(bool enabled, bool forceDisabled);
+    /// Adds what limits the box by its own feature to what the molecule says of itself.
     void AddReason(InterpretedState& state) const;
     /// Reads and shows the value.
     void Load();
@@ -61,6 +62,7 @@ public:
 
 private:
     bool Read() const;
+    bool CanBeTurned() const;
     InterpretedState OwnState() const;
 
     const UIMoleculeSite& m_site;
@@ -70,5 +72,8 @@ private:
     bool m_exists = false;
     bool m_ownFeature = true;
     bool m_on = false;
+    bool m_shown = true;   ///< with the molecule
+    bool m_hidden = false; ///< by its own feature
+    bool m_cleared = false;
     std::unique_ptr<UICheckBoxControl> m_check;
 };

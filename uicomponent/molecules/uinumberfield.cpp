@@ -38,6 +38,7 @@ constexpr Sentence kSentences[] = {
     {UINumberRules::Fault::UnknownUnit, O7STR_M_UNKNOWN_UNIT},
     {UINumberRules::Fault::NotWhole, O7STR_M_NOT_WHOLE},
     {UINumberRules::Fault::OutOfRange, O7STR_M_OUT_OF_RANGE},
+    {UINumberRules::Fault::NotNow, O7STR_M_REFUSED},
 };
 
 /// The text for a sentence: on one line, and not endless.
@@ -52,14 +53,26 @@ CXString quoted(const CXString& text)
 UINumberField::UINumberField() = default;
 UINumberField::~UINumberField() = default;
 
-void UINumberField::SetRules(const UINumberRules& rules)
+void UINumberField::SetRules(RulesSource source)
 {
-    m_rules = rules;
+    m_rulesSource = std::move(source);
+    RenewRules();
+}
+
+void UINumberField::RenewRules()
+{
+    UINumberRules rules = m_rulesSource();
+    if (rules == m_rules)
+        return;
+    const bool looksOther = !rules.writesLike(m_rules);
+    m_rules = std::move(rules);
     if (!GetEdit())
         return;
-    if (m_unit)
-        m_unit->setLabelText(m_rules.unitText);
-    DropPending();
+    if (looksOther) {
+        if (m_unit)
+            m_unit->setLabelText(m_rules.unitText);
+        DropPending();
+    }
     PlaceArrows();
 }
 
@@ -124,8 +137,9 @@ void UINumberField::Show(bool shown)
 
 void UINumberField::ShowValue(std::optional<std::int64_t> value)
 {
-    if (value == m_value)
+    if (value == m_value && m_isShown)
         return;
+    m_isShown = true; // the arrows of an empty box have to be placed as well
     m_value = value;
     m_origin = value;
     DropPending();
@@ -194,6 +208,7 @@ UITypedField::Verdict UINumberField::Take(const CXString& text)
 {
     if (!m_value && text.IsEmpty())
         return {.taken = true};
+    RenewRules();
     const auto reading = Read(text);
     if (reading.fault != UINumberRules::Fault::None) {
         GiveBack();
@@ -206,7 +221,8 @@ UITypedField::Verdict UINumberField::Take(const CXString& text)
     const auto before = std::exchange(m_value, reading.value); // what is told meanwhile is no news
     if (!m_write(reading.value)) {
         m_value = before;
-        return {.fault = String(O7STR_M_REFUSED)};
+        GiveBack();
+        return {.fault = RefusedSentence()};
     }
     PlaceArrows();
     return {.taken = true};
@@ -228,7 +244,10 @@ CXString UINumberField::FaultSentence(UINumberRules::Fault fault, const CXString
     const auto* row =
         std::find_if(std::begin(kSentences), std::end(kSentences),
                      [fault](const Sentence& sentence) { return sentence.fault == fault; });
-    CXString sentence = CXString::Formatted(String(row->number).c_str(), quoted(text).c_str());
+    CXString sentence =
+        fault == UINumberRules::Fault::NotNow
+            ? RefusedSentence()
+            : CXString::Formatted(String(row->number).c_str(), quoted(text).c_str());
     if (!m_rules.ranges.empty())
         sentence +=
             L"\n" + CXString::Formatted(String(O7STR_M_ALLOWED).c_str(), RangeText().c_str());
@@ -257,7 +276,12 @@ void UINumberField::DumpRange() const
 
 bool UINumberField::HandleMessage(const _UIWindowsMessage& message)
 {
-    if (m_arrows && message.message == WM_NOTIFY) {
+    if (message.message == WM_SETTINGCHANGE && GetEdit()) {
+        GetSite().services.setRegionalSettings(UIRegionalSettings::current());
+        RenewRules();
+        return false; // the other fields have to know as well
+    }
+    if (m_arrows && message.message == WM_NOTIFY && message.lParam) {
         const auto& header = *reinterpret_cast<const NMHDR*>(message.lParam);
         if (header.hwndFrom != m_arrows->getHwnd() || header.code != UDN_DELTAPOS)
             return false;
@@ -274,17 +298,26 @@ void UINumberField::StepBy(int steps)
 {
     if (!IsWindowEnabled(GetHwnd()))
         return;
-    std::int64_t from = m_value.value_or(0);
-    if (IsPending() || !m_value) {
-        const auto reading = Read(GetText());
-        if (reading.fault != UINumberRules::Fault::None &&
-            reading.fault != UINumberRules::Fault::OutOfRange)
-            return;
-        from = reading.value;
-    }
-    const std::int64_t next = m_rules.step(from, steps);
+    RenewRules();
+    const auto next = StepFrom(steps);
+    if (!next)
+        return;
     HideTip();
-    ShowText(m_rules.text(next));
+    ShowText(m_rules.text(*next));
     Retake();
     GetEdit()->selectAll();
+}
+
+/// Nothing when what stands in the box is no number that could be counted from.
+std::optional<std::int64_t> UINumberField::StepFrom(int steps) const
+{
+    using Fault = UINumberRules::Fault;
+    if (!IsPending() && m_value)
+        return m_rules.step(*m_value, steps);
+    const auto reading = Read(GetText());
+    if (reading.fault == Fault::Empty) // begins where the values do
+        return m_rules.nearest(m_value.value_or(0));
+    const bool isNumber = reading.fault == Fault::None || reading.fault == Fault::OutOfRange ||
+                          reading.fault == Fault::NotNow;
+    return isNumber ? std::optional(m_rules.step(reading.value, steps)) : std::nullopt;
 }

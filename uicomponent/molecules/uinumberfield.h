@@ -23,8 +23,12 @@ public:
     /// @return false when the model did not take it.
     using Writer = std::function<bool(std::int64_t)>;
     void SetWriter(Writer writer) { m_write = std::move(writer); }
-    /// New rules show the value anew; before the box exists they decide on its width.
-    void SetRules(const UINumberRules& rules);
+    /// Where the rules come from; asked whenever they are needed, for what can be chosen changes
+    /// with other settings. Before the box exists they decide on its width.
+    using RulesSource = std::function<UINumberRules()>;
+    void SetRules(RulesSource source);
+    /// Asks for them once more. When values are written otherwise by now, shows the value anew.
+    void RenewRules();
     const UINumberRules& GetRules() const { return m_rules; }
 
     /// @param width  room in dialog units; the box takes what its values need of it
@@ -66,14 +70,17 @@ private:
     CXString FaultSentence(UINumberRules::Fault fault, const CXString& text) const;
     CXString RangeText() const;
     void StepBy(int steps);
+    std::optional<std::int64_t> StepFrom(int steps) const;
     void PlaceArrows();
     const UIUnitNames& Names() const;
 
+    RulesSource m_rulesSource;
     UINumberRules m_rules;
     Writer m_write;
     std::unique_ptr<UISpinControl> m_arrows;
     std::unique_ptr<UITextControl> m_unit;
     long m_unitWidth = 0;
+    bool m_isShown = false; ///< a value, or that there is none
     std::optional<std::int64_t> m_value;
     std::optional<std::int64_t> m_origin; ///< what the person has settled on before
     mutable std::optional<UIUnitNames> m_names;

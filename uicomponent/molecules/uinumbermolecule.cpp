@@ -118,7 +118,8 @@ void UINumberMolecule::ShowState(const InterpretedState& state, bool enabled)
 {
     m_cleared = !enabled && state.IsCleared();
     m_label.Enable(enabled);
-    m_switch.Enable(enabled, IsForceDisabled());
+    m_switch.ShowState(enabled, IsForceDisabled());
+    RenewRules();
     LoadValue();
 }
 

@@ -41,6 +41,8 @@ protected:
     /// Nothing: the feature is cleared or cannot be read.
     virtual void ShowNumber(std::optional<std::int64_t> value) = 0;
     virtual void EnableNumber(bool enabled) = 0;
+    /// Asks once more which numbers can be chosen.
+    virtual void RenewRules() = 0;
     /// The model's value; nothing when the feature cannot be read.
     virtual std::optional<std::int64_t> ReadNumber() const;
 

@@ -57,6 +57,8 @@ protected:
 
     bool IsSibling(HWND window) const override { return window == Other().GetHwnd(); }
 
+    // What stands in one end waits for the other; it comes to its end when the person has left
+    // both.
     void Settle() override
     {
         UINumberField::Settle();
@@ -133,8 +135,7 @@ UINumberRules UIRangeOfIntegerMolecule::MakeRules(const End& end) const
     const auto capability = IsInteger(end)
                                 ? features.GetIntegerFeature(end.feature).GetRangeCapabilities()
                                 : features.GetRangeFeature(end.feature).GetRangeCapabilities();
-    UINumberRules rules;
-    rules.ranges = o7::numberRanges(*capability);
+    UINumberRules rules = o7::wholeNumberRules(*capability, GetSite().services);
     rules.increment = end.data->getIncrement(true);
     rules.unitText = LoadText(end.data->getUnitLabel(true));
     return rules;
@@ -157,7 +158,7 @@ void UIRangeOfIntegerMolecule::Arrange(long contentWidth)
         if (!end.data)
             continue;
         UINumberField field;
-        field.SetRules(MakeRules(end));
+        field.SetRules([&, this] { return MakeRules(end); });
         wanted += end.labelWidth + field.GetWantedWidth(true);
     }
     m_twoRows = wanted > contentWidth;
@@ -186,7 +187,7 @@ void UIRangeOfIntegerMolecule::CreateControls(UIPageWindow& page)
         m_ends[which].field = std::make_unique<EndField>(*this, which);
     for (const Which which : {kLow, kHigh}) {
         End& end = m_ends[which];
-        end.field->SetRules(MakeRules(end));
+        end.field->SetRules([&end, this] { return MakeRules(end); });
         const long taken = end.labelWidth + end.field->GetWantedWidth(true) + kEndGap;
         CreateEnd(page, which, at,
                   m_twoRows || which == kHigh ? width - (at.x - place.x - indent)
@@ -208,8 +209,9 @@ void UIRangeOfIntegerMolecule::CreateEnd(UIPageWindow& page, Which which, POINT 
             SS_NOTIFY, true, page.boldFont);
         end.labelControl->setLabelText(end.label);
     }
-    end.field->Create(page, {GetSite(), GetToolTips(), end.feature, end.label},
-                      {place.x + end.labelWidth, place.y}, width - end.labelWidth, true);
+    end.field->Create(
+        page, {GetSite(), GetToolTips(), end.feature, end.label, [this] { return GetInfoText(); }},
+        {place.x + end.labelWidth, place.y}, width - end.labelWidth, true);
 }
 
 void UIRangeOfIntegerMolecule::MoveControls(POINT delta)
@@ -284,7 +286,10 @@ void UIRangeOfIntegerMolecule::EnableEnds(bool enabled)
 void UIRangeOfIntegerMolecule::ShowState(const InterpretedState& state, bool enabled)
 {
     m_cleared = !enabled && state.IsCleared();
-    m_switch.Enable(enabled, IsForceDisabled());
+    m_switch.ShowState(enabled, IsForceDisabled());
+    for (const End& end : m_ends)
+        if (end.field)
+            end.field->RenewRules();
     LoadValue();
 }
 

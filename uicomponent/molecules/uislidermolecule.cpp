@@ -95,9 +95,7 @@ std::unique_ptr<UITextControl> UISliderMolecule::CreateText(UIPageWindow& page, 
 
 void UISliderMolecule::CreateSlider(UIPageWindow& page, POINT place, long width)
 {
-    const auto ends = m_rules.ranges.empty() ? UINumberRules::Range{0, 100}
-                                             : UINumberRules::Range{m_rules.ranges.front().low,
-                                                                    m_rules.ranges.back().high};
+    const auto ends = Ends();
     m_slider = std::make_unique<UISliderControl>(
         page.window, page.takeId(), GetSite().services, page.font, place,
         SIZE{width, kSliderHeight}, TBS_TOOLTIPS | TBS_DOWNISLEFT, static_cast<int>(ends.low),
@@ -143,10 +141,27 @@ void UISliderMolecule::MoveControls(POINT delta)
 
 void UISliderMolecule::ReadRules()
 {
-    m_rules.ranges = o7::numberRanges(*GetSite()
-                                           .featureServices.GetListOfFeaturesFor(GetBoundFeature())
-                                           .GetIntegerFeature(GetBoundFeature())
-                                           .GetRangeCapabilities());
+    const auto feature = GetSite()
+                             .featureServices.GetListOfFeaturesFor(GetBoundFeature())
+                             .GetIntegerFeature(GetBoundFeature());
+    m_rules = o7::wholeNumberRules(*feature.GetRangeCapabilities(), GetSite().services);
+}
+
+void UISliderMolecule::RenewRules()
+{
+    ReadRules();
+    if (!m_slider)
+        return;
+    const auto ends = Ends();
+    m_slider->setRange(static_cast<int>(ends.low), static_cast<int>(ends.high));
+}
+
+UINumberRules::Range UISliderMolecule::Ends() const
+{
+    constexpr UINumberRules::Range kWithoutLimits{0, 100};
+    return m_rules.ranges.empty()
+               ? kWithoutLimits
+               : UINumberRules::Range{m_rules.ranges.front().low, m_rules.ranges.back().high};
 }
 
 void UISliderMolecule::ShowNumberText(const CXString& text)
@@ -181,10 +196,21 @@ bool UISliderMolecule::HandleMessage(const _UIWindowsMessage& message)
     return UINumberMolecule::HandleMessage(message);
 }
 
+/// The allowed value that is meant. An arrow key goes over what cannot be chosen, instead of
+/// stopping before it.
+std::int64_t UISliderMolecule::PositionFor(int code) const
+{
+    const std::int64_t position = m_slider->getPosition();
+    const bool byArrow = code == TB_LINEUP || code == TB_LINEDOWN;
+    return byArrow && m_value && position != *m_value
+               ? m_rules.step(*m_value, position > *m_value ? 1 : -1)
+               : m_rules.nearest(position);
+}
+
 // A drag reports every pixel; only where it ends is meant.
 void UISliderMolecule::Slid(int code)
 {
-    const std::int64_t position = m_rules.nearest(m_slider->getPosition());
+    const std::int64_t position = PositionFor(code);
     if (code == TB_THUMBTRACK) {
         ShowNumberText(m_rules.text(position));
         return;

@@ -34,6 +34,7 @@ protected:
     long GetNumberHeight() const override;
     void ShowNumber(std::optional<std::int64_t> value) override;
     void EnableNumber(bool enabled) override;
+    void RenewRules() override;
 
 private:
     long EndsHeight() const;
@@ -43,7 +44,10 @@ private:
     std::unique_ptr<UITextControl> CreateText(UIPageWindow& page, POINT place, long width,
                                               DWORD style) const;
     void ReadRules();
+    /// Of the track.
+    UINumberRules::Range Ends() const;
     void Slid(int code);
+    std::int64_t PositionFor(int code) const;
     void ShowNumberText(const CXString& text);
     template <class Do> void ForTexts(Do&& act) const;
 

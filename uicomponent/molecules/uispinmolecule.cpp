@@ -53,10 +53,12 @@ void UISpinMolecule::CreateControls(UIPageWindow& page)
 {
     SetPage(page);
     CreateLabelAndSwitch(page);
-    m_field.SetRules(MakeRules());
+    m_field.SetRules([this] { return MakeRules(); });
     const long beside = GetBesideWidth();
-    m_field.Create(page, {GetSite(), GetToolTips(), GetBoundFeature(), GetName()},
-                   {GetPosition().x + beside, GetNumberTop()}, GetContentWidth() - beside, true);
+    m_field.Create(
+        page,
+        {GetSite(), GetToolTips(), GetBoundFeature(), GetName(), [this] { return GetInfoText(); }},
+        {GetPosition().x + beside, GetNumberTop()}, GetContentWidth() - beside, true);
 }
 
 void UISpinMolecule::MoveControls(POINT delta)
@@ -67,12 +69,10 @@ void UISpinMolecule::MoveControls(POINT delta)
 
 UINumberRules UISpinMolecule::MakeRules()
 {
-    UINumberRules rules;
-    rules.decimalSeparator = GetSite().services.getRegionalSettings().decimalSeparator;
     const auto feature = GetSite()
                              .featureServices.GetListOfFeaturesFor(GetBoundFeature())
                              .GetIntegerFeature(GetBoundFeature());
-    rules.ranges = o7::numberRanges(*feature.GetRangeCapabilities());
+    UINumberRules rules = o7::wholeNumberRules(*feature.GetRangeCapabilities(), GetSite().services);
     if (m_spinData) {
         rules.increment = m_spinData->getIncrement(true);
         rules.unitText = LoadText(m_spinData->getUnitLabel(true));
@@ -82,7 +82,8 @@ UINumberRules UISpinMolecule::MakeRules()
 
 void UISpinMolecule::RenewRules()
 {
-    m_field.SetRules(MakeRules());
+    if (m_field.GetHwnd())
+        m_field.RenewRules();
 }
 
 bool UISpinMolecule::WriteNumber(std::int64_t value)

@@ -33,6 +33,7 @@ protected:
     long GetNumberHeight() const override { return UINumberField::kHeight; }
     void ShowNumber(std::optional<std::int64_t> value) override;
     void EnableNumber(bool enabled) override;
+    void RenewRules() override;
 
     /// How the values of the feature are written, and which are allowed.
     virtual UINumberRules MakeRules();
@@ -43,8 +44,6 @@ protected:
 
     /// The control record of the box; null when the description has none.
     const UISpinControlData* GetSpinData() const { return m_spinData; }
-    /// Takes rules that have changed over, and shows the value in them.
-    void RenewRules();
 
 private:
     UINumberField m_field;

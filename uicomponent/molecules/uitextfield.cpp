@@ -75,5 +75,13 @@ UITypedField::Verdict UITextField::Take(const CXString& text)
     if (m_write(value))
         return {.taken = fault.IsEmpty(), .fault = fault};
     m_value = before;
-    return {.fault = fault.IsEmpty() ? String(O7STR_M_REFUSED) : fault};
+    if (!fault.IsEmpty())
+        return {.fault = fault};
+    const CXString refused = RefusedSentence();
+    if (m_value != m_origin) {
+        const CXString beginning = std::exchange(m_value, m_origin);
+        if (!m_write(m_origin))
+            m_value = beginning;
+    }
+    return {.fault = refused};
 }

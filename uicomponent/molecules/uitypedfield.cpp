@@ -39,6 +39,7 @@ void UITypedField::CreateBox(UIPageWindow& page, const Surroundings& surrounding
     m_site = &surroundings.site;
     m_toolTips = surroundings.toolTips;
     m_feature = surroundings.feature;
+    m_reason = surroundings.reason;
     m_edit = std::make_unique<UIEditControl>(page.window, page.takeId(), m_site->services,
                                              page.font, box.location, box.size,
                                              box.style | ES_AUTOHSCROLL, true, box.textLimit);
@@ -69,8 +70,9 @@ void UITypedField::SetReadOnly(bool readOnly)
 
 void UITypedField::Show(bool shown)
 {
+    // Nobody can correct what nobody sees.
     if (!shown)
-        HideTip();
+        DropPending();
     if (m_edit)
         m_edit->setShow(shown);
 }
@@ -92,7 +94,8 @@ CXString UITypedField::String(unsigned number) const
 
 void UITypedField::CollectWantedMessages(UIMessageMask& mask)
 {
-    mask.add(WM_TIMER); // for the tips
+    mask.add(WM_TIMER);         // for the tips
+    mask.add(WM_SETTINGCHANGE); // for the separators
 }
 
 bool UITypedField::HandleMessage(const _UIWindowsMessage& message)
@@ -113,7 +116,7 @@ bool UITypedField::HandleMessage(const _UIWindowsMessage& message)
         return true;
     case EN_SETFOCUS:
         if (!m_pending)
-            Settle();
+            Keep();
         return true;
     case EN_KILLFOCUS:
         Left(GetFocus());
@@ -149,11 +152,18 @@ void UITypedField::Left(HWND next)
     Settle();
 }
 
+void UITypedField::Keep()
+{
+    KeepAsOrigin();
+    ShowText(PresentText());
+}
+
 void UITypedField::Settle()
 {
+    if (m_pending)
+        Retake();
     if (!m_pending) {
-        KeepAsOrigin();
-        ShowText(PresentText());
+        Keep();
         return;
     }
     CXString said = m_verdict.fault;
@@ -178,15 +188,25 @@ CXString UITypedField::Consequence(unsigned number, const CXString& value) const
                            : L"\n" + CXString::Formatted(String(number).c_str(), value.c_str());
 }
 
+CXString UITypedField::RefusedSentence() const
+{
+    CXString sentence = String(O7STR_M_REFUSED);
+    const CXString reason = m_reason ? m_reason() : CXString();
+    if (!reason.IsEmpty())
+        sentence += L"\n" + reason;
+    return sentence;
+}
+
+// The text stays in the box, so nothing is said of the value behind it.
 bool UITypedField::Refuse()
 {
+    if (m_pending)
+        Retake();
     if (!m_pending || !m_edit)
         return true;
     BringPageToFront();
-    const CXString text =
-        m_verdict.fault + Consequence(O7STR_M_VALUE_STAYS, PresentTextInSentence());
     m_site->services.showMessage(
-        GetAncestor(m_page, GA_ROOT), text,
+        GetAncestor(m_page, GA_ROOT), m_verdict.fault,
         m_site->strings.GetStringForFeature(m_feature.GetFeatureId().GetFeatureEnum()),
         MB_OK | MB_ICONWARNING);
     SendMessageW(m_page, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(GetHwnd()), TRUE);

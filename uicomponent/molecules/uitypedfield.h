@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <memory>
 
 #include "cxstring.h"
@@ -30,6 +31,7 @@ public:
         UIToolTips* toolTips;         ///< may be null
         FeatureIdWithContext feature; ///< whose name is the title of messages
         CXString label;
+        std::function<CXString()> reason; ///< what limits the setting now; may give nothing
     };
     /// Dialog units.
     struct Box
@@ -88,8 +90,12 @@ protected:
     /// What stands in the box now is what the person has settled on: a text that is no value later
     /// brings it back.
     virtual void KeepAsOrigin() = 0;
-    /// Brings a text that waits to an end: it is corrected, or the old one comes back.
+    /// Brings a text that waits to an end: judged once more, for what decides on it may have
+    /// changed, it is taken, corrected, or the old one comes back.
     virtual void Settle();
+    /// What is wrong with a text that other settings rule out, and which.
+    CXString RefusedSentence() const;
+    const UIMoleculeSite& GetSite() const { return *m_site; }
 
     /// Puts a text into the box, without taking it for typed.
     void ShowText(const CXString& text);
@@ -103,6 +109,7 @@ protected:
 
 private:
     void Typed();
+    void Keep();
     void Left(HWND next);
     void PlaceTip();
     void BringPageToFront() const;
@@ -112,6 +119,7 @@ private:
     const UIMoleculeSite* m_site = nullptr;
     UIToolTips* m_toolTips = nullptr;
     FeatureIdWithContext m_feature;
+    std::function<CXString()> m_reason;
     HWND m_page = nullptr;
     Verdict m_verdict;
     CXString m_lastText; ///< seen or shown in the box

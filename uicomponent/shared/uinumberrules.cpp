@@ -13,6 +13,13 @@ constexpr std::int64_t kBillion = 1'000'000'000;
 constexpr UINumberRules::Range kWholeLimits{std::numeric_limits<int>::min(),
                                             std::numeric_limits<int>::max()};
 
+bool isIn(const std::vector<UINumberRules::Range>& ranges, std::int64_t value)
+{
+    return std::any_of(ranges.begin(), ranges.end(), [value](const UINumberRules::Range& range) {
+        return value >= range.low && value <= range.high;
+    });
+}
+
 std::int64_t atLimit(bool negative)
 {
     using Limits = std::numeric_limits<std::int64_t>;
@@ -88,7 +95,7 @@ UINumberRules::Reading UINumberRules::read(const CXString& typed, const UIUnitNa
     // rounded can be typed as it is shown.
     const std::int64_t allowed = nearest(reading.value);
     if (text(allowed) != text(reading.value))
-        reading.fault = Fault::OutOfRange;
+        reading.fault = isSupported(reading.value) ? Fault::NotNow : Fault::OutOfRange;
     reading.value = allowed;
     return reading;
 }
@@ -122,9 +129,20 @@ bool UINumberRules::allows(std::int64_t value) const
 {
     if (ranges.empty())
         return isLength || (value >= kWholeLimits.low && value <= kWholeLimits.high);
-    return std::any_of(ranges.begin(), ranges.end(), [value](const Range& range) {
-        return value >= range.low && value <= range.high;
-    });
+    return isIn(ranges, value);
+}
+
+bool UINumberRules::isSupported(std::int64_t value) const
+{
+    return isIn(supported, value);
+}
+
+bool UINumberRules::writesLike(const UINumberRules& other) const
+{
+    UINumberRules like = other;
+    like.ranges = ranges;
+    like.supported = supported;
+    return *this == like;
 }
 
 std::int64_t UINumberRules::nearest(std::int64_t value) const
@@ -172,7 +190,8 @@ int UINumberRules::position(std::int64_t value) const
 int UINumberRules::longestText() const
 {
     constexpr int kWithoutLimits = 11;
-    if (ranges.empty())
+    const std::vector<Range>& all = supported.empty() ? ranges : supported;
+    if (all.empty())
         return kWithoutLimits;
-    return std::max(text(ranges.front().low).GetLength(), text(ranges.back().high).GetLength());
+    return std::max(text(all.front().low).GetLength(), text(all.back().high).GetLength());
 }

@@ -17,6 +17,7 @@ struct UINumberRules
     {
         std::int64_t low;
         std::int64_t high;
+        bool operator==(const Range&) const = default;
     };
 
     enum class Fault
@@ -26,16 +27,18 @@ struct UINumberRules
         NotANumber,
         UnknownUnit,
         NotWhole,
-        OutOfRange
+        OutOfRange,
+        NotNow ///< the product has it, but another setting rules it out
     };
 
     struct Reading
     {
         Fault fault = Fault::None;
-        std::int64_t value = 0; ///< also of a number out of range: the nearest allowed one
+        std::int64_t value = 0; ///< also of a number that is not allowed: the nearest allowed one
     };
 
-    std::vector<Range> ranges; ///< rising; none: no limits
+    std::vector<Range> ranges;    ///< what can be chosen now, rising; none: no limits
+    std::vector<Range> supported; ///< what the product has; none: the same
     wchar_t decimalSeparator = L'.';
     std::int64_t increment = 1; ///< one step, counted in the last digit shown
     CXString unitText;          ///< what stands behind the box, and may be typed
@@ -57,10 +60,15 @@ struct UINumberRules
     std::int64_t step(std::int64_t value, std::int64_t steps) const;
     /// The value counted in the last digit shown, for controls that count in whole numbers.
     int position(std::int64_t value) const;
-    /// The most characters that a value takes.
+    /// The most characters that a value takes, ruled out now or not.
     int longestText() const;
+    /// Whether values are written alike: all but the ranges is the same.
+    bool writesLike(const UINumberRules& other) const;
+
+    bool operator==(const UINumberRules&) const = default;
 
 private:
+    bool isSupported(std::int64_t value) const;
     Reading readWhole(const CXString& unit, const Number& number) const;
     Reading readLength(const CXString& unit, const Number& number, const UIUnitNames& names) const;
     /// The length that one counts in that digit behind the separator.
