@@ -12,6 +12,7 @@ class PageWalk
 public:
     std::function<void(unsigned)> text = [](unsigned) {};
     std::function<void(DataModelIds::tagFeatureEnum)> feature = [](auto) {};
+    std::function<void(DataModelIds::tagFeatureEnum, unsigned)> label = [](auto, unsigned) {};
 
     void container(const UIContainerRecord& page) const
     {
@@ -35,6 +36,12 @@ private:
             for (const auto& control : molecule.controls) {
                 text(control.label);
                 feature(control.feature);
+                // The two ends of a range have labels of their own.
+                const bool names = control.kind == UIControlKind::Check ||
+                                   (control.kind == UIControlKind::Text &&
+                                    molecule.kind != UIMoleculeKind::RangeOfInteger);
+                if (names && control.label != 0 && control.feature != DataModelIds::kNoFeature)
+                    label(control.feature, control.label);
             }
             molecules(molecule.children);
             if (molecule.nested != nullptr) {
@@ -81,6 +88,14 @@ void PageCheck::forEachFeature(
         };
         walk.container(page);
     });
+}
+
+void PageCheck::forEachLabel(
+    const std::function<void(DataModelIds::tagFeatureEnum, unsigned)>& visit) const
+{
+    PageWalk walk;
+    walk.label = visit;
+    forEachPage(m_data, [&](const UIContainerRecord& page) { walk.container(page); });
 }
 
 void PageCheck::checkMnemonics(const PackageTexts& texts, std::vector<PackageError>& mistakes) const

@@ -23,6 +23,10 @@ public:
     void forEachFeature(const std::function<void(DataModelIds::tagFeatureEnum feature,
                                                  unsigned page)>& visit) const;
 
+    /// Calls for each label of a setting, with the label's number.
+    void forEachLabel(const std::function<void(DataModelIds::tagFeatureEnum feature,
+                                               unsigned label)>& visit) const;
+
     /// Adds the keys that cannot be used, or that two controls of a page share.
     void checkMnemonics(const PackageTexts& texts, std::vector<PackageError>& mistakes) const;
 

@@ -232,6 +232,38 @@ TEST_P(Products, ShowEverySetting)
         EXPECT_NE(placed.contains(feature), kWithoutPlace.contains(feature)) << feature;
 }
 
+/// Whose label is short because of what stands around it: in a sentence the name says more.
+const std::set<int> kNamedInFull{
+    3024, 3030, 3051, 3054, 3069, 3070, 3071, 3082, 3101, 3103, 3104, 3107, 3115, 3123, 3124, 3131,
+    3132, 3133, 3134, 3137, 3139, 3145, 3146, 3155, 3160, 3162, 3163, 3164, 3199, 3200, 3207, 3208,
+    3226, 3228, 3230, 3242, 3243, 3244, 3247, 3249, 3251, 3252, 3286, 3302, 3304, 3312, 3317};
+
+/// The text of a label without its key and colon.
+std::string nameIn(std::string label)
+{
+    label = std::regex_replace(label, std::regex(R"(\(&.\)|&(?!&))"), "");
+    return std::regex_replace(label, std::regex("(\\s|\u00A0)*(:|\uFF1A)?\\s*$"), "");
+}
+
+TEST_P(Products, CallASettingTheSameInLabelsAndSentences)
+{
+    for (const char* language : o7::kLanguages) {
+        SCOPED_TRACE(language);
+        const StringTable strings = o7::productStrings(GetParam().name, language);
+        for (const int mode : {1, 2, 3, 4}) {
+            const UIData data(static_cast<UIMode>(mode),
+                              static_cast<DataModelIds::tagValueEnum>(GetParam().family),
+                              Workflow::Standard);
+            o7::PageCheck(data).forEachLabel([&](int feature, unsigned label) {
+                const auto name = strings.find(20000U + static_cast<unsigned>(feature));
+                if (name != strings.end() && !kNamedInFull.contains(feature)) {
+                    EXPECT_EQ(nameIn(strings.at(label)), name->second) << feature;
+                }
+            });
+        }
+    }
+}
+
 std::string nameOf(const testing::TestParamInfo<o7::ProductUnderTest>& product)
 {
     return "family" + std::to_string(product.param.family);

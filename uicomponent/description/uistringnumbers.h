@@ -340,7 +340,7 @@
 // Explanations and messages
 #define O7STR_T_JOB_TYPE 33000 // "Held jobs wait until they are released at the printer."
 #define O7STR_T_TONER 33002 // "For drafts: text stays sharp, areas become lighter."
-#define O7STR_T_WATERMARK 33004 // "Printed in grey behind the text of each page."
+#define O7STR_T_WATERMARK 33004 // "A word in grey across the page."
 #define O7STR_T_COVERS 33005 // "Covers come from a tray of their own."
 #define O7STR_T_BANNER 33006 // "A sheet with your name comes before the job."
 #define O7STR_T_TRACKING 33008 // "The printer reports when each of your jobs is done."

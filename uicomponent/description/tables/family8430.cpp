@@ -34,8 +34,8 @@ constexpr UIContainerRecord kLayoutPage = page(2, O7STR_TAB_LAYOUT, kLayoutColum
 
 // Page "Image"
 constexpr UIMoleculeRecord kQualityGroup[] = {
-    s::kPrintQuality, s::kResolution,  s::kOptimiseFor, s::kEdgeSmoothing,
-    s::kThickenLines, s::kTonerSaving, s::kPureBlack,   text<O7STR_T_TONER, 2>()};
+    s::kPrintQuality, s::kResolution, s::kOptimiseFor, s::kEdgeSmoothing,
+    s::kThickenLines, s::kPureBlack,  s::kTonerSaving, text<O7STR_T_TONER, 2>()};
 constexpr UIMoleculeRecord kColourGroup[] = {s::kColourMode, s::kLightness, s::kContrast,
                                              s::kSaturation};
 constexpr UIMoleculeRecord kColourManagementGroup[] = {s::kColourCorrection, s::kRenderingIntent};
@@ -46,8 +46,8 @@ constexpr UIColumnRecord kImageColumns[] = {left(kImageLeft), right(kImageRight)
 constexpr UIContainerRecord kImagePage = page(3, O7STR_TAB_IMAGE, kImageColumns);
 
 // Page "Special Pages": sheets that differ from the others, and which pages are printed
-constexpr UIMoleculeRecord kCoversGroup[] = {s::kCovers, s::kCoverTray, s::kCoverPrinting,
-                                             text<O7STR_T_COVERS, 2>()};
+constexpr UIMoleculeRecord kCoversGroup[] = {s::kCovers, s::kCoverTray, text<O7STR_T_COVERS, 2>(),
+                                             s::kCoverPrinting};
 constexpr UIMoleculeRecord kBannerGroup[] = {s::kBannerSheet, text<O7STR_T_BANNER, 2>()};
 constexpr UIMoleculeRecord kPagesGroup[] = {s::kPageRange, s::kSkipBlankPages, s::kReverseOrder,
                                             s::kRotate180, s::kMirrorImage,    s::kEdgeToEdge};
@@ -60,10 +60,10 @@ constexpr UIColumnRecord kSpecialColumns[] = {left(kSpecialLeft), right(kSpecial
 constexpr UIContainerRecord kSpecialPage = page(4, O7STR_TAB_SPECIAL, kSpecialColumns);
 
 // Page "Watermark"
-constexpr UIMoleculeRecord kWatermarkGroup[] = {s::kWatermark, s::kWatermarkFirst,
-                                                s::kWatermarkLayer, text<O7STR_T_WATERMARK, 2>()};
-constexpr UIMoleculeRecord kOverlayGroup[] = {s::kOverlay, s::kOverlayName,
-                                              text<O7STR_T_OVERLAY, 2>()};
+constexpr UIMoleculeRecord kWatermarkGroup[] = {s::kWatermark, text<O7STR_T_WATERMARK, 2>(),
+                                                s::kWatermarkFirst, s::kWatermarkLayer};
+constexpr UIMoleculeRecord kOverlayGroup[] = {s::kOverlay, text<O7STR_T_OVERLAY, 2>(),
+                                              s::kOverlayName};
 constexpr UIMoleculeRecord kPageNumbersGroup[] = {s::kPageNumbers, s::kFirstPageNumber};
 constexpr UIMoleculeRecord kWatermarkLeft[] = {group(O7STR_G_WATERMARK, kWatermarkGroup)};
 constexpr UIMoleculeRecord kWatermarkRight[] = {group(O7STR_G_OVERLAY, kOverlayGroup),
@@ -72,9 +72,9 @@ constexpr UIColumnRecord kWatermarkColumns[] = {left(kWatermarkLeft), right(kWat
 constexpr UIContainerRecord kWatermarkPage = page(5, O7STR_TAB_WATERMARK, kWatermarkColumns);
 
 // Page "Job Options"
-constexpr UIMoleculeRecord kJobOptionsGroup[] = {s::kJobTypeList, s::kPin,
-                                                 s::kDelayHour,   s::kDelayMinute,
-                                                 s::kEncryptJob,  text<O7STR_T_JOB_TYPE, 2>()};
+constexpr UIMoleculeRecord kJobOptionsGroup[] = {s::kJobTypeList, text<O7STR_T_JOB_TYPE, 2>(),
+                                                 s::kPin,         s::kDelayHour,
+                                                 s::kDelayMinute, s::kEncryptJob};
 constexpr UIMoleculeRecord kSavedJobsGroup[] = {s::kSavedName, s::kSavedFolder,
                                                 s::kDeleteAfterPrinting};
 constexpr UIMoleculeRecord kFaxGroup[] = {s::kFaxResolution, s::kFaxSendTime, s::kFaxConfirmation};
@@ -100,10 +100,10 @@ constexpr UIContainerRecord kPolicyPage = page(8, O7STR_TAB_POLICY, kPolicyColum
 
 // Device settings: "Installed Options"
 constexpr UIMoleculeRecord kHandlingGroup[] = {s::kTrays, s::kDuplexUnit, s::kLargeTray};
-constexpr UIMoleculeRecord kControllerGroup[] = {s::kMemory, s::kHardDisk, s::kFaxBoard,
-                                                 text<O7STR_T_CONTROLLER, 2>()};
-constexpr UIMoleculeRecord kInstalledFinishingGroup[] = {
-    s::kFinisher, s::kPunchKit, s::kFoldingUnit, text<O7STR_T_FINISHING, 2>()};
+constexpr UIMoleculeRecord kControllerGroup[] = {s::kMemory, s::kHardDisk,
+                                                 text<O7STR_T_CONTROLLER, 2>(), s::kFaxBoard};
+constexpr UIMoleculeRecord kInstalledFinishingGroup[] = {s::kFinisher, text<O7STR_T_FINISHING, 2>(),
+                                                         s::kPunchKit, s::kFoldingUnit};
 constexpr UIMoleculeRecord kInstalledLeft[] = {group(O7STR_G_PAPER_HANDLING, kHandlingGroup),
                                                group(O7STR_G_CONTROLLER, kControllerGroup)};
 constexpr UIMoleculeRecord kInstalledRight[] = {group(O7STR_G_FINISHING, kInstalledFinishingGroup),
@@ -112,8 +112,8 @@ constexpr UIColumnRecord kInstalledColumns[] = {left(kInstalledLeft), right(kIns
 constexpr UIContainerRecord kInstalledPage = devicePage(1, O7STR_TAB_INSTALLED, kInstalledColumns);
 
 // Device settings: "Communication"
-constexpr UIMoleculeRecord kStateGroup[] = {s::kBidirectional, s::kStatusInterval,
-                                            text<O7STR_T_CONNECTION, 2>()};
+constexpr UIMoleculeRecord kStateGroup[] = {s::kBidirectional, text<O7STR_T_CONNECTION, 2>(),
+                                            s::kStatusInterval};
 constexpr UIMoleculeRecord kLinkLeft[] = {group(O7STR_G_CONNECTION, kStateGroup),
                                           group(O7STR_G_TRACKING, kTrackingGroup),
                                           group(O7STR_G_APPLY, kApplyGroup)};

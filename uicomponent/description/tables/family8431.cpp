@@ -117,8 +117,8 @@ constexpr UIColumnRecord kInstalledColumns[] = {left(kInstalledLeft), right(kIns
 constexpr UIContainerRecord kInstalledPage = devicePage(1, O7STR_TAB_INSTALLED, kInstalledColumns);
 
 constexpr UIMoleculeRecord kColourUnitsGroup[] = {s::kSpecialColourStation, s::kColourController,
-                                                  s::kColourSensor, s::kCalibrationDays,
-                                                  text<O7STR_T_COLOUR_UNITS, 2>()};
+                                                  text<O7STR_T_COLOUR_UNITS, 2>(), s::kColourSensor,
+                                                  s::kCalibrationDays};
 constexpr UIMoleculeRecord kServiceLeft[] = {group(O7STR_G_COLOUR, kColourUnitsGroup),
                                              group(O7STR_G_SECURITY, kSecurityGroup)};
 constexpr UIMoleculeRecord kServiceRight[] = {group(O7STR_G_CONNECTION, kConnectionGroup),

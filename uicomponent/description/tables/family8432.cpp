@@ -45,8 +45,8 @@ constexpr UIColumnRecord kImageColumns[] = {left(kImageLeft), right(kImageRight)
 constexpr UIContainerRecord kImagePage = page(3, O7STR_TAB_IMAGE, kImageColumns);
 
 // Page "Job Options"
-constexpr UIMoleculeRecord kJobOptionsGroup[] = {s::kJobTypeList, s::kCopiesTogether,
-                                                 s::kNotifyWhenDone, text<O7STR_T_JOB_TYPE, 2>()};
+constexpr UIMoleculeRecord kJobOptionsGroup[] = {s::kJobTypeList, text<O7STR_T_JOB_TYPE, 2>(),
+                                                 s::kCopiesTogether, s::kNotifyWhenDone};
 constexpr UIMoleculeRecord kHeldJobsGroup[] = {s::kPin, s::kHeldJobHours, s::kSavedName,
                                                s::kDeleteAfterPrinting};
 constexpr UIMoleculeRecord kAccountGroup[] = {s::kAccounting, s::kAccountId, s::kUserId};

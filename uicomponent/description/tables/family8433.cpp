@@ -72,8 +72,8 @@ constexpr UIContainerRecord kAdvancedPage = page(5, O7STR_TAB_ADVANCED, kAdvance
 constexpr UIContainerRecord kPolicyPage = page(6, O7STR_TAB_POLICY, kPolicyColumns);
 
 // Device settings
-constexpr UIMoleculeRecord kInstalledGroup[] = {s::kRolls,    s::kCutter,   s::kBoardFeed,
-                                                s::kMatteInk, s::kWireless, text<O7STR_T_INK, 2>()};
+constexpr UIMoleculeRecord kInstalledGroup[] = {
+    s::kRolls, s::kCutter, s::kBoardFeed, s::kMatteInk, text<O7STR_T_INK, 2>(), s::kWireless};
 constexpr UIMoleculeRecord kNoiseGroup[] = {s::kQuietMode, s::kSleepMinutes};
 constexpr UIMoleculeRecord kSuppliesGroup[] = {s::kLowSupplyWarning, s::kCalibrationDays};
 constexpr UIMoleculeRecord kServiceLeft[] = {group(O7STR_G_INSTALLED, kInstalledGroup),

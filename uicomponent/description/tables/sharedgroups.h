@@ -15,8 +15,8 @@ inline constexpr UIMoleculeRecord kDataGroup[] = {s::kFonts, s::kImageCompressio
                                                   s::kPrintAsPicture, s::kErrorReport};
 inline constexpr UIMoleculeRecord kAccountsGroup[] = {s::kAccounting, s::kAccountKind,
                                                       s::kAccountId, s::kUserId};
-inline constexpr UIMoleculeRecord kNotifyGroup[] = {s::kTrackJobs, s::kNotifyWhenDone,
-                                                    text<O7STR_T_TRACKING, 2>()};
+inline constexpr UIMoleculeRecord kNotifyGroup[] = {s::kTrackJobs, text<O7STR_T_TRACKING, 2>(),
+                                                    s::kNotifyWhenDone};
 inline constexpr UIMoleculeRecord kTrackingGroup[] = {s::kTrackJobs, text<O7STR_T_TRACKING, 2>()};
 inline constexpr UIMoleculeRecord kMessagesGroup[] = {s::kTrackJobs, s::kNotifyWhenDone,
                                                       s::kMessageAddress};
