@@ -1,4 +1,4 @@
-# Two choices that clash are marked wherever they stand, and F8 leads to them.
+# Two choices that clash are marked wherever they stand, and F8 leads to them and offers ways out.
 product office-c430
 entry sheet
 mode 1
@@ -13,6 +13,8 @@ expect tab "Paper/Output" marked
 expect status contains "In conflict"
 page "Layout"
 key F8
+expect message contains "Labels"
+answer "Close"
 key Home
 expect "Sides" is "One-sided"
 expect no conflict

@@ -75,7 +75,7 @@ IdleDriver::Step act(std::function<void(HWND)> action)
 
 IdleDriver::Step key(WORD virtualKey, bool shift = false)
 {
-    return act([=](HWND) { shift ? sendKey(virtualKey, {VK_SHIFT}) : sendKey(virtualKey); });
+    return act([=](HWND) { shift ? strikeKey(virtualKey, {VK_SHIFT}) : strikeKey(virtualKey); });
 }
 
 IdleDriver::Step selectPage(WPARAM index)
@@ -220,6 +220,8 @@ TEST_F(SheetGuideTest, F8GoesFromConflictToConflictThroughAllPages)
     steps.push_back(act([](HWND sheet) { SetFocus(tabsOf(sheet)); }));
     for (const Stop& stop : kWay) {
         steps.push_back(key(VK_F8, stop.backwards));
+        steps.push_back(until([](HWND box) { return GetDlgItem(box, IDOK) && !tabsOf(box); }));
+        steps.push_back(key(VK_ESCAPE)); // the ways out that are offered there
         steps.push_back(until([stop](HWND sheet) {
             const HWND list = findListBehind(sheet, stop.label);
             const HWND wanted = list ? list : findControl(sheet, L"BUTTON", stop.label);
@@ -308,7 +310,12 @@ TEST_F(SheetGuideTest, ADialogOverTheSheetHasItsOwnConflicts)
                       Workflow::Standard);
     const IdleDriver driver({
         key(VK_F8),
-        until([](HWND dialog) { return GetFocus() == findListBehind(dialog, L"Paper tray:"); }),
+        until([](HWND box) { return findControl(box, L"BUTTON", L"Carry Out") != nullptr; }),
+        key(VK_ESCAPE),
+        until([](HWND dialog) {
+            const HWND list = findListBehind(dialog, L"Paper tray:");
+            return list && GetFocus() == list;
+        }),
         key(VK_ESCAPE),
     });
     manager.runAsDialog(session().featureServices(), session().strings(), nullptr);

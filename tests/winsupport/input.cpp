@@ -67,4 +67,14 @@ void sendKey(WORD virtualKey, std::initializer_list<WORD> held)
     pumpUntilQuiet();
 }
 
+void strikeKey(WORD virtualKey, std::initializer_list<WORD> held)
+{
+    input::key(virtualKey, {held.begin(), held.size()});
+}
+
+void strikeClick(HWND window)
+{
+    input::click(input::middleOf(window));
+}
+
 } // namespace o7::test

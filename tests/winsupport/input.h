@@ -35,4 +35,9 @@ void sendMouse(DWORD event, LONG right = 0, int wheel = 0);
 /// held.
 void sendKey(WORD virtualKey, std::initializer_list<WORD> held = {});
 
+/// The same without dispatching anything: for a step of an IdleDriver whose input opens a modal
+/// box, for the loop of that box would run inside the step.
+void strikeKey(WORD virtualKey, std::initializer_list<WORD> held = {});
+void strikeClick(HWND window);
+
 } // namespace o7::test

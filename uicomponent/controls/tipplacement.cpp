@@ -39,6 +39,22 @@ RECT workAreaOf(HWND window) noexcept
     return workAreaOfScreen(::MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST));
 }
 
+void centreOver(HWND window, HWND other) noexcept
+{
+    RECT place{};
+    ::GetWindowRect(window, &place);
+    const RECT area = workAreaOf(other ? other : window);
+    RECT around = area;
+    if (other)
+        ::GetWindowRect(other, &around);
+    const LONG width = place.right - place.left;
+    const LONG height = place.bottom - place.top;
+    const LONG x = within((around.left + around.right - width) / 2, width, area.left, area.right);
+    const LONG y = within((around.top + around.bottom - height) / 2, height, area.top, area.bottom);
+    ::SetWindowPos(window, nullptr, std::max(x, area.left), std::max(y, area.top), 0, 0,
+                   SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 POINT placeBeside(const RECT& part, SIZE tip, const RECT& workArea, bool isMirrored) noexcept
 {
     const LONG right = part.right + kGap;

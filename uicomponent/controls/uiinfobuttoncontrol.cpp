@@ -13,8 +13,10 @@
 
 namespace {
 
-// In place of a notification code of the button: show the reason now.
+// In place of a notification code of the button: show the reason now, or only if there is a way
+// out of it.
 constexpr WORD kShowMessage = 0x7001;
+constexpr WORD kOfferWaysOut = 0x7002;
 constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW;
 
 bool isHighContrast()
@@ -128,9 +130,9 @@ bool UIInfoButtonControl::handleMessage(const _UIWindowsMessage& message)
     }
     if (message.message == WM_COMMAND && reinterpret_cast<HWND>(message.lParam) == getHwnd()) {
         if (HIWORD(message.wParam) == BN_CLICKED)
-            postShowMessage();
-        if (HIWORD(message.wParam) == kShowMessage)
-            showMessage();
+            post(kShowMessage);
+        if (HIWORD(message.wParam) == kShowMessage || HIWORD(message.wParam) == kOfferWaysOut)
+            showMessage(HIWORD(message.wParam) == kOfferWaysOut);
         return true;
     }
     return false;
@@ -144,26 +146,33 @@ LRESULT UIInfoButtonControl::subclassWindowProcedure(HWND window, UINT message, 
     if (message == WM_GETDLGCODE && key && key->message == WM_KEYDOWN && key->wParam == VK_RETURN)
         return callSavedProcedure(window, message, wParam, lParam) | DLGC_WANTMESSAGE;
     if (message == WM_KEYDOWN && wParam == VK_RETURN) {
-        postShowMessage();
+        post(kShowMessage);
         return 0;
     }
     return callSavedProcedure(window, message, wParam, lParam);
 }
 
-void UIInfoButtonControl::postShowMessage() const
+void UIInfoButtonControl::post(WORD code) const
 {
-    PostMessageW(getParentHwnd(), WM_COMMAND, MAKEWPARAM(getId(), kShowMessage),
+    PostMessageW(getParentHwnd(), WM_COMMAND, MAKEWPARAM(getId(), code),
                  reinterpret_cast<LPARAM>(getHwnd()));
 }
 
-void UIInfoButtonControl::showMessage() const
+void UIInfoButtonControl::offerWaysOut() const
+{
+    post(kOfferWaysOut);
+}
+
+void UIInfoButtonControl::showMessage(bool onlyWithWaysOut) const
 {
     // The reason may change, and this button go, while the box is open: work on copies.
-    const CXString text = m_text;
-    const CXString title = m_title;
+    const Reason reason{GetAncestor(getParentHwnd(), GA_ROOT), m_style, m_text, m_title};
     const UIServices& services = m_services;
-    const UINT icon = m_style == kConflict ? MB_ICONWARNING : MB_ICONINFORMATION;
-    services.showMessage(GetAncestor(getParentHwnd(), GA_ROOT), text, title, MB_OK | icon);
+    const Explainer explainer = m_explainer;
+    if ((explainer && explainer(reason)) || onlyWithWaysOut)
+        return;
+    const UINT icon = reason.style == kConflict ? MB_ICONWARNING : MB_ICONINFORMATION;
+    services.showMessage(reason.owner, reason.text, reason.title, MB_OK | icon);
 }
 
 void UIInfoButtonControl::draw(const DRAWITEMSTRUCT& item) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 #include "cxstring.h"
 #include "subclassedwindow.h"
@@ -10,7 +11,7 @@ class UIToolTips;
 
 /// The small button beside a control that is limited: an information mark, or a warning mark when
 /// two of the user's own choices clash. The reason is its tip, and its press shows it in a message
-/// box, so that the keyboard reaches it too.
+/// box, so that the keyboard reaches it too; or whoever knows more about it shows it.
 class O7UI_API UIInfoButtonControl : public UIControl,
                                      private o7::SubclassedWindow<UIInfoButtonControl>
 {
@@ -33,6 +34,21 @@ public:
     /// @param title  names the setting in the caption of the message box
     void setMessage(std::uint32_t style, const CXString& text, const CXString& title);
 
+    /// What a box about the reason is to say.
+    struct Reason
+    {
+        HWND owner;
+        std::uint32_t style;
+        CXString text;
+        CXString title;
+    };
+    /// Shows a box with ways out of it; false, and nothing shown, when there is none. May outlive
+    /// the button.
+    using Explainer = std::function<bool(const Reason&)>;
+    void setExplainer(Explainer explainer) { m_explainer = std::move(explainer); }
+    /// As its press, but only where there are ways out; soon, by a message that it posts to itself.
+    void offerWaysOut() const;
+
 private:
     friend o7::SubclassedWindow<UIInfoButtonControl>;
     static constexpr const wchar_t* kProcedureName =
@@ -42,12 +58,13 @@ private:
     using UIControl::forgetWindow;
     LRESULT subclassWindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void draw(const DRAWITEMSTRUCT& item) const;
-    void postShowMessage() const;
-    void showMessage() const;
+    void post(WORD code) const;
+    void showMessage(bool onlyWithWaysOut) const;
 
     const UIServices& m_services;
     UIToolTips* m_toolTips;
     std::uint32_t m_style = 0;
     CXString m_text;
     CXString m_title;
+    Explainer m_explainer;
 };

@@ -4,6 +4,7 @@
 
 #include "dialogconversion.h"
 #include "productstringloader.h"
+#include "requiredsettings.h"
 #include "textmeasure.h"
 #include "tipplacement.h"
 #include "uibuttoncontrol.h"
@@ -15,6 +16,7 @@
 #include "uilayoutmanager.h"
 #include "uimolecule.h"
 #include "uiservices.h"
+#include "uistringnumbers.h"
 #include "uitextruler.h"
 
 namespace {
@@ -34,7 +36,8 @@ UIPopupDialog::UIPopupDialog(FeatureServices& featureServices, UIContext& contex
     : UIMoleculeContainer(featureServices, context.strings, services, features),
       m_data(data),
       m_wholeUi(wholeUi),
-      m_param(param)
+      m_param(param),
+      m_question(featureServices, context.strings, services, UIMode::CompactDialog)
 {
     buildFrom(data, data.getDialogActions().empty() ? 0 : kButtonRow);
     getLayout().layOut();
@@ -121,21 +124,7 @@ void UIPopupDialog::focusFirst() const
 
 void UIPopupDialog::placeOnScreen() const
 {
-    const HWND window = getWindow();
-    const HWND owner = m_wholeUi ? nullptr : GetWindow(window, GW_OWNER);
-    RECT place{};
-    GetWindowRect(window, &place);
-    const RECT area = o7::workAreaOf(owner ? owner : window);
-    RECT around = area;
-    if (owner)
-        GetWindowRect(owner, &around);
-    const long width = place.right - place.left;
-    const long height = place.bottom - place.top;
-    const long x = std::clamp((around.left + around.right - width) / 2, area.left,
-                              std::max(area.left, area.right - width));
-    const long y = std::clamp((around.top + around.bottom - height) / 2, area.top,
-                              std::max(area.top, area.bottom - height));
-    SetWindowPos(window, nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    o7::centreOver(getWindow(), m_wholeUi ? nullptr : GetWindow(getWindow(), GW_OWNER));
 }
 
 bool UIPopupDialog::processCommand(const _UIWindowsMessage& message)
@@ -144,7 +133,7 @@ bool UIPopupDialog::processCommand(const _UIWindowsMessage& message)
         return false;
     switch (LOWORD(message.wParam)) {
     case IDOK:
-        if (validateAll())
+        if (validateAll() && isAgreed())
             EndDialog(getWindow(), 1);
         return true;
     case IDCANCEL:
@@ -158,10 +147,42 @@ bool UIPopupDialog::processCommand(const _UIWindowsMessage& message)
 void UIPopupDialog::goToConflict(bool backwards) const
 {
     const UIConflictWalk walk(getFeatureServices(), {this});
-    if (const auto next = walk.next(walk.placeOfFocus(0), backwards))
-        walk.moleculeAt(*next).Focus();
-    else
+    const auto next = walk.next(walk.placeOfFocus(0), backwards);
+    if (!next) {
         MessageBeep(MB_OK);
+        return;
+    }
+    walk.moleculeAt(*next).Focus();
+    walk.moleculeAt(*next).OfferWaysOut();
+}
+
+bool UIPopupDialog::isAgreed()
+{
+    if (!m_wholeUi)
+        return true; // the sheet or dialog around it asks
+    const auto missing =
+        o7::findMissing(getFeatureServices(), [this](const FeatureIdWithContext& feature) {
+            return findMolecule(feature) != nullptr;
+        });
+    if (missing) {
+        goTo(*missing);
+        const CXString name = getStrings().GetStringForFeature(missing->GetFeatureEnum());
+        const CXString text = CXString::Formatted(
+            getStrings().LoadStringW(O7STR_M_VALUE_MISSING).c_str(), name.c_str());
+        getServices().showMessage(getWindow(), text, name, MB_ICONWARNING);
+        return false;
+    }
+    if (m_question.ask(getWindow(), UIConflictWalk::conflicts(getFeatureServices())) ==
+        UIConflictQuestion::Answer::GoOn)
+        return true;
+    goTo(m_question.getFirst());
+    return false;
+}
+
+void UIPopupDialog::goTo(const FeatureIdWithContext& feature) const
+{
+    if (UIMolecule* const molecule = findMolecule(feature))
+        molecule->Focus();
 }
 
 void UIPopupDialog::dump() const

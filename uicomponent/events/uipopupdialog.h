@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "listoffeaturesref.h"
+#include "uiconflictquestion.h"
 #include "uifunctionkey.h"
 #include "uimessagehandler.h"
 #include "uimoleculecontainer.h"
@@ -13,7 +14,8 @@ class UIButtonControl;
 struct UIContext;
 
 /// One popup dialog: a container of molecules in a window of its own, with a row of buttons at its
-/// lower edge. Lives while the modal dialog runs.
+/// lower edge. Lives while the modal dialog runs. Where it stands alone, its OK is the person's
+/// last word: required settings have to have a value, and settings in conflict are asked about.
 class UIPopupDialog : public UIMoleculeContainer, public UIMessageHandler
 {
 public:
@@ -40,10 +42,13 @@ private:
     void placeOnScreen() const;
     bool processCommand(const _UIWindowsMessage& message);
     void goToConflict(bool backwards) const;
+    bool isAgreed();
+    void goTo(const FeatureIdWithContext& feature) const;
 
     const UIContainerData& m_data;
     bool m_wholeUi;
     void* m_param;
+    UIConflictQuestion m_question;
     std::vector<std::unique_ptr<UIButtonControl>> m_buttons;
     std::optional<UIFunctionKey> m_conflictKey;
 };

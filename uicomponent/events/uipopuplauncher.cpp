@@ -3,9 +3,9 @@
 #include "cxstring.h"
 #include "featureservices.h"
 #include "isolationaware.h"
+#include "modaldialog.h"
 #include "uicontext.h"
 #include "uidata.h"
-#include "uidialogprocedure.h"
 #include "uidialogtemplate.h"
 #include "uimessagemanager.h"
 #include "uipopupdialog.h"
@@ -29,20 +29,6 @@ public:
 private:
     UIMessageManager& m_manager;
 };
-
-INT_PTR runModal(HINSTANCE instance, UIDialogTemplate& dialogTemplate, HWND parent,
-                 UIDialogRecord& record)
-{
-    IsolationAware::ActivationScope scope;
-    if (!scope.isActive())
-        return -1;
-    const INT_PTR result = DialogBoxIndirectParamW(instance, dialogTemplate.get(), parent,
-                                                   &UIDialogProcedure::dialogProcedure,
-                                                   reinterpret_cast<LPARAM>(&record));
-    if (result == -1)
-        scope.keepLastError();
-    return result;
-}
 
 } // namespace
 
@@ -89,9 +75,9 @@ bool UIPopupLauncher::launch(DialogId id, const ListOfFeaturesRef& features, HWN
     UIPopupDialog dialog(m_featureServices, m_context, m_services, features, *data, m_wholeUi,
                          param);
     const DialogRegistration registration(m_messageManager, dialog);
-    UIDialogRecord record{&m_messageManager};
     const auto transaction = m_featureServices.OpenTransaction(CXString(L"popup dialog"));
-    const INT_PTR result = runModal(m_moduleInstance, dialogTemplate, parent, record);
+    const INT_PTR result =
+        o7::runModalDialog(m_moduleInstance, dialogTemplate, parent, m_messageManager);
     // A dialog that could not be shown (-1) has accepted nothing.
     const bool accepted = result != 0 && result != -1;
     transaction->Close(accepted);

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <functional>
+
 #include "featureidwithcontext.h"
 
 class FeatureServices;
@@ -15,6 +17,8 @@ class UIDataValidator
 public:
     UIDataValidator(FeatureServices& featureServices, UIEventProcessor& eventProcessor);
 
+    /// Leaves alone what it answers false for: what the person cannot reach here.
+    void setScope(std::function<bool(const FeatureIdWithContext&)> scope);
     /// @param apply  the PSN_APPLY notification. @return false when the settings cannot be
     /// accepted.
     bool validate(const NMHDR& apply);
@@ -23,5 +27,6 @@ public:
 
 private:
     FeatureServices& m_featureServices;
+    std::function<bool(const FeatureIdWithContext&)> m_scope;
     FeatureIdWithContext m_missing;
 };

@@ -35,11 +35,12 @@ UISheetApply::UISheetApply(FeatureServices& featureServices, const ProductString
       m_mode(mode),
       m_areas(areas),
       m_guide(guide),
-      m_button(button)
+      m_button(button),
+      m_question(featureServices, strings, services, mode)
 {
 }
 
-void UISheetApply::pageAnswered(const _UIWindowsMessage& message) const
+void UISheetApply::pageAnswered(const _UIWindowsMessage& message)
 {
     const LONG_PTR result = GetWindowLongPtrW(message.window, DWLP_MSGRESULT);
     if (result == PSNRET_INVALID || !isAcceptable(message))
@@ -53,8 +54,10 @@ bool UISheetApply::isAcceptable(const _UIWindowsMessage& message) const
 {
     UIDataValidator validator(m_featureServices, m_eventProcessor);
     // Whoever sets defaults for everybody leaves names and numbers to each person.
-    const bool isComplete = m_mode == UIMode::PrintingDefaults ||
-                            validator.validate(*reinterpret_cast<const NMHDR*>(message.lParam));
+    validator.setScope([this](const FeatureIdWithContext& feature) {
+        return m_mode != UIMode::PrintingDefaults && m_guide.shows(feature);
+    });
+    const bool isComplete = validator.validate(*reinterpret_cast<const NMHDR*>(message.lParam));
     if (isComplete && m_areas.validate())
         return true;
     if (!isComplete)
@@ -77,13 +80,32 @@ void UISheetApply::tellMissing(HWND page, const FeatureIdWithContext& feature) c
 void UISheetApply::reject() const
 {
     m_eventProcessor.resetNotificationCount();
+    tellRefused();
+}
+
+void UISheetApply::tellRefused() const
+{
     m_featureServices.GetFullListOfFeatures()
         .GetBooleanFeature(FeatureId(DataModelIds::kFeatureApplyIsValid))
         .SetValue(false);
 }
 
-void UISheetApply::complete(const _UIWindowsMessage& message) const
+bool UISheetApply::isAgreed(HWND page)
 {
+    if (m_question.ask(GetAncestor(page, GA_ROOT), m_guide.conflictsInOrder()) ==
+        UIConflictQuestion::Answer::GoOn)
+        return true;
+    tellRefused();
+    m_guide.goTo(m_question.getFirst());
+    return false;
+}
+
+void UISheetApply::complete(const _UIWindowsMessage& message)
+{
+    if (!isAgreed(message.window)) {
+        SetWindowLongPtrW(message.window, DWLP_MSGRESULT, PSNRET_INVALID_NOCHANGEPAGE);
+        return;
+    }
     const bool closing = reinterpret_cast<const PSHNOTIFY*>(message.lParam)->lParam != 0;
     m_eventProcessor.notifyDataModel(closing ? DataModelIds::kEventOk : DataModelIds::kEventApply,
                                      &m_mode);

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include "uiconflictquestion.h"
 #include "uimode.h"
 
 class FeatureIdWithContext;
@@ -17,6 +18,7 @@ struct _UIWindowsMessage;
 /// OK and Apply of a whole sheet. Windows tells each page that was visited; this counts them and
 /// turns the last one into one event for the data model: 21002 for OK, 21004 for Apply. A page that
 /// refuses, and a required setting without a value, start the count anew and keep the sheet open.
+/// Settings in conflict are asked about once, when all pages have agreed and before the event.
 class UISheetApply
 {
 public:
@@ -27,13 +29,15 @@ public:
 
     /// A page has answered PSN_APPLY, and its answer stands in its message result. May change that
     /// to keep the sheet open.
-    void pageAnswered(const _UIWindowsMessage& message) const;
+    void pageAnswered(const _UIWindowsMessage& message);
 
 private:
     bool isAcceptable(const _UIWindowsMessage& message) const;
     void tellMissing(HWND page, const FeatureIdWithContext& feature) const;
     void reject() const;
-    void complete(const _UIWindowsMessage& message) const;
+    void tellRefused() const;
+    bool isAgreed(HWND page);
+    void complete(const _UIWindowsMessage& message);
     bool warn(HWND page) const;
 
     FeatureServices& m_featureServices;
@@ -44,4 +48,5 @@ private:
     const UISheetAreas& m_areas;
     UISheetGuide& m_guide;
     UIApplyButton& m_button;
+    UIConflictQuestion m_question;
 };

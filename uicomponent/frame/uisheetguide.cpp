@@ -56,7 +56,8 @@ bool UISheetGuide::handleMessage(const _UIWindowsMessage& message)
         if (reinterpret_cast<const NMHDR*>(message.lParam)->code == PSN_SETACTIVE)
             activated(message.window);
         return false;
-    case UIConflictWalk::kMessage:
+    case UIConflictWalk::kMessage: // of a page in whose box F8 was pressed, too
+        return pageOf(message.window) && serveOwn(message);
     case kUpdateMessage:
         return message.window == m_page && serveOwn(message);
     default:
@@ -142,7 +143,6 @@ void UISheetGuide::update()
         serveMolecules(*container, conflicts);
 }
 
-// As F8 walks: page by page. What no page shows comes last.
 std::vector<FeatureIdWithContext> UISheetGuide::conflictsInOrder()
 {
     auto conflicts = UIConflictWalk::conflicts(m_featureServices);
@@ -254,21 +254,28 @@ void UISheetGuide::goToConflict(bool backwards)
         containers.push_back(tab.get());
     const UIConflictWalk walk(m_featureServices, std::move(containers));
     const auto next = walk.next(walk.placeOfFocus(m_active), backwards);
-    if (!next)
+    if (!next) {
         MessageBeep(MB_OK);
-    else if (selectPage(static_cast<std::size_t>(next->container)))
+    } else if (selectPage(static_cast<std::size_t>(next->container))) {
         walk.moleculeAt(*next).Focus();
+        walk.moleculeAt(*next).OfferWaysOut();
+    }
+}
+
+bool UISheetGuide::shows(const FeatureIdWithContext& feature) const
+{
+    return std::any_of(m_tabs.begin(), m_tabs.end(),
+                       [&](const auto& tab) { return tab->findMolecule(feature) != nullptr; });
 }
 
 void UISheetGuide::goTo(const FeatureIdWithContext& feature)
 {
     for (std::size_t page = 0; page < m_tabs.size(); ++page) {
-        for (UIMolecule* molecule : m_tabs[page]->getMolecules()) {
-            if (!(molecule->GetBoundFeature() == feature) || !selectPage(page))
-                continue;
-            molecule->Focus();
-            return;
-        }
+        UIMolecule* const molecule = m_tabs[page]->findMolecule(feature);
+        if (!molecule || !selectPage(page))
+            continue;
+        molecule->Focus();
+        return;
     }
 }
 

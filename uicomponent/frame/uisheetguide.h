@@ -58,6 +58,10 @@ public:
     /// Brings the page that shows the setting to the front and the keyboard to its control; nothing
     /// when no page shows it.
     void goTo(const FeatureIdWithContext& feature);
+    /// Whether a page shows the setting.
+    bool shows(const FeatureIdWithContext& feature) const;
+    /// What is in conflict, as F8 walks: page by page. What no page shows comes last.
+    std::vector<FeatureIdWithContext> conflictsInOrder();
 
     void ProcessNotification(const INotification& notification, unsigned int kind) override;
     CXString GetObserverClassNameHeirarchy() const override;
@@ -70,7 +74,6 @@ private:
     void requestUpdate();
     void update();
     void reopenLastPage();
-    std::vector<FeatureIdWithContext> conflictsInOrder();
     std::size_t placeOf(const FeatureIdWithContext& feature);
     void markTabs(const std::vector<FeatureIdWithContext>& conflicts);
     void serveMolecules(const UIMoleculeContainer& container,

@@ -9,6 +9,7 @@
 #include "uiinfobuttoncontrol.h"
 #include "uimoleculedata.h"
 #include "uipagelook.h"
+#include "uireasonbox.h"
 #include "uiservices.h"
 #include "uistringnumbers.h"
 #include "uitooltips.h"
@@ -199,13 +200,13 @@ void UIMolecule::UpdateInfoButton(const FeatureIdWithContext& feature,
         return;
     }
     if (!m_infoButton)
-        CreateInfoButton();
+        CreateInfoButton(feature);
     if (m_infoButton)
         m_infoButton->setMessage(static_cast<std::uint32_t>(m_infoStyle), m_infoText,
                                  GetInfoTitle(feature));
 }
 
-void UIMolecule::CreateInfoButton()
+void UIMolecule::CreateInfoButton(const FeatureIdWithContext& feature)
 {
     const HWND anchor = InfoAnchor();
     if (!m_page || !anchor)
@@ -224,6 +225,15 @@ void UIMolecule::CreateInfoButton()
     // Created late, it would be the last in the Tab order; it belongs behind its control.
     SetWindowPos(m_infoButton->getHwnd(), anchor, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOREDRAW);
+    m_infoButton->setExplainer([box = UIReasonBox(m_site, feature, m_page)](const auto& reason) {
+        return box.show(reason);
+    });
+}
+
+void UIMolecule::OfferWaysOut() const
+{
+    if (m_infoButton && m_infoStyle == InfoStyle::Conflict)
+        m_infoButton->offerWaysOut();
 }
 
 void UIMolecule::SetPage(UIPageWindow& page)

@@ -137,6 +137,8 @@ public:
     void SetControlIds(int first, int end);
     /// Whether a window is one of the molecule's own controls, or stands inside one.
     bool OwnsControl(HWND window) const;
+    /// Offers the ways out of the conflict that the mark tells of, if there are any; soon.
+    void OfferWaysOut() const;
     /// Whether the control that stands for the feature could not be created.
     bool LacksControl() const;
 
@@ -190,7 +192,7 @@ protected:
 
 private:
     bool ColourControl(const _UIWindowsMessage& message) const;
-    void CreateInfoButton();
+    void CreateInfoButton(const FeatureIdWithContext& feature);
 
     const UIMoleculeData& m_data;
     UIMoleculeSite m_site;

@@ -158,6 +158,15 @@ bool UIMoleculeContainer::validateAll()
     return true;
 }
 
+UIMolecule* UIMoleculeContainer::findMolecule(const FeatureIdWithContext& feature) const
+{
+    const auto found =
+        std::find_if(m_molecules.begin(), m_molecules.end(), [&](const UIMolecule* molecule) {
+            return molecule->GetBoundFeature() == feature;
+        });
+    return found != m_molecules.end() ? *found : nullptr;
+}
+
 bool UIMoleculeContainer::offerToMolecules(const _UIWindowsMessage& message) const
 {
     if (!m_wanted.wants(message.message))

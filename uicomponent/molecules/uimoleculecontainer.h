@@ -13,6 +13,7 @@
 #include "uivaluewriter.h"
 #include "uiwindowsmessage.h"
 
+class FeatureIdWithContext;
 class IUIContainerCompanion;
 class SetOfSettingIds;
 class UIContainer;
@@ -57,6 +58,8 @@ public:
 
     HWND getWindow() const { return m_page.window; }
     const std::vector<UIMolecule*>& getMolecules() const { return m_molecules; }
+    /// The molecule that is bound to the feature; null when there is none.
+    UIMolecule* findMolecule(const FeatureIdWithContext& feature) const;
     /// The messages that the molecules may claim.
     const UIMessageMask& getWantedMessages() const { return m_wanted; }
     void setCompanion(IUIContainerCompanion* companion) { m_companion = companion; }
