@@ -40,7 +40,7 @@ enum tagValueEnum : std::int32_t
 {
     kValueByName = 0,         ///< Exists by its name alone (a user-defined paper).
     kNoValue = 1,             ///< "No value": the result of a read that found none.
-    kValueUnspecified = 5001, ///< The entry of an option list that stands for "unspecified".
+    kValueUnspecified = 5001, ///< The entry of an option list for "unspecified": never a value.
     kValueItemNamedByText = 7283,
     kValueDialogSelected = 7830,
     kValueJobTrackerOn = 8202,

@@ -1,6 +1,7 @@
 #include "featurenode.h"
 
 #include "datamodel.h"
+#include "settingssnapshot.h"
 #include "unsupportednode.h"
 #include "valuecode.h"
 
@@ -59,6 +60,7 @@ FeatureNode::FeatureNode(DataModel& model, FeatureNode* parent,
                          const FeatureDescription& description, FeatureIdWithContext id)
     : m_followsDefault(!description.defaults.empty()),
       m_coded(HasCodes(description)),
+      m_stateOnly(description.flags.stateOnly || (parent != nullptr && parent->m_stateOnly)),
       m_model(&model),
       m_parent(parent),
       m_description(&description),
@@ -306,11 +308,12 @@ void FeatureNode::BuildMembers()
     }
 }
 
-std::shared_ptr<FeatureNode> FeatureNode::MakeItem()
+std::shared_ptr<FeatureNode> FeatureNode::MakeItem(int key)
 {
-    const FeatureId key(m_description->number, m_description->name, m_nextItem++);
+    const int number = key == SettingsSnapshot::kNewItem ? m_nextItem : key;
     FeatureIdWithContext id = m_id;
-    id.SetFeatureId(key);
+    id.SetFeatureId(FeatureId(m_description->number, m_description->name, number));
+    m_nextItem = std::max(m_nextItem, number + 1);
     auto item = std::make_shared<FeatureNode>(*m_model, this, *m_description->item, std::move(id));
     item->BuildMembers();
     return item;

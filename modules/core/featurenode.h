@@ -46,6 +46,8 @@ public:
     // For the rest of the module.
     const FeatureDescription& Description() const { return *m_description; }
     FeatureNode* Parent() const { return m_parent; }
+    /// It, or a list around it, reports a state of the device.
+    bool IsStateOnly() const { return m_stateOnly; }
     std::vector<std::shared_ptr<FeatureNode>>& Children() { return m_children; }
     const std::vector<std::shared_ptr<FeatureNode>>& Children() const { return m_children; }
 
@@ -98,8 +100,9 @@ public:
 
     /// Builds the members below a list; for a list of values builds nothing.
     void BuildMembers();
-    /// A new item for this list of values, not yet in it.
-    std::shared_ptr<FeatureNode> MakeItem();
+    /// A new item for this list of values, not yet in it: with the key that a former one had, or
+    /// (SettingsSnapshot::kNewItem) with one that none had.
+    std::shared_ptr<FeatureNode> MakeItem(int key);
 
     /// Detached nodes (deleted items) answer as unsupported until they are attached again.
     void SetAttached(bool attached);
@@ -150,6 +153,7 @@ private:
     bool m_specified = true;
     bool m_followsDefault = false;
     bool m_coded = false;
+    bool m_stateOnly = false;
     std::uint8_t m_code = 0;
     std::uint8_t m_forcedCode = 0;
 

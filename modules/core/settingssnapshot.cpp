@@ -111,7 +111,8 @@ bool Same(const FeatureDescription& description, const SettingsSnapshot& a,
     for (std::size_t i = 0; i < a.children.size(); ++i) {
         const FeatureDescription& child =
             description.item ? *description.item : description.list->features[i];
-        if (!child.IsPrivate() && !Same(child, a.children[i], b.children[i], choices))
+        if (!child.IsPrivate() && !child.flags.stateOnly &&
+            !Same(child, a.children[i], b.children[i], choices))
             return false;
     }
     return true;

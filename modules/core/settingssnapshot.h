@@ -41,7 +41,8 @@ SettingsSnapshot ResettableDefaults(const FeatureNode& feature);
 void Overlay(const FeatureDescription& description, const IFeatureNode& source,
              SettingsSnapshot& settings);
 
-/// Whether two snapshots of the same feature say the same; features private to the UI do not count.
+/// Whether two snapshots of the same feature say the same; features private to the UI, and what the
+/// device reports, do not count.
 bool SameSettings(const FeatureDescription& description, const SettingsSnapshot& a,
                   const SettingsSnapshot& b);
 /// Whether the snapshot says of the feature what DefaultSettings() does, choices of values that

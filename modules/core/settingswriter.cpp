@@ -16,6 +16,19 @@ bool IsWritable(const FeatureNode& feature)
            description.kind != FeatureKind::Resolution;
 }
 
+/// Value 5001 stands for having none, whichever way it is named.
+bool IsNone(const FeatureValue& value)
+{
+    const auto* option = std::get_if<ValueId>(&value);
+    return value.index() == 0 ||
+           (option != nullptr && option->GetValueEnum() == DataModelIds::kValueUnspecified);
+}
+
+bool HasKey(const FeatureNode& item, const SettingsSnapshot& wanted)
+{
+    return item.GetId().GetFeatureId().GetItem() == wanted.item;
+}
+
 } // namespace
 
 bool IsLeaf(const FeatureNode& feature)
@@ -27,10 +40,11 @@ bool IsLeaf(const FeatureNode& feature)
 void SettingsWriter::Write(FeatureNode& feature, FeatureValue value, bool specified,
                            bool followsDefault)
 {
-    if (feature.HasStored(value, specified) && (feature.FollowsDefault() || !followsDefault))
+    const bool same = feature.HasStored(value, specified);
+    if (same && feature.FollowsDefault() == followsDefault)
         return;
     // The record first: without it nothing may have changed.
-    if (m_log.IsRecording()) {
+    if (m_log.IsRecording() && !feature.IsStateOnly()) {
         auto& undo = m_log.Record({ChangeLog::Undo::Kind::Value,
                                    &feature,
                                    {},
@@ -41,15 +55,19 @@ void SettingsWriter::Write(FeatureNode& feature, FeatureValue value, bool specif
         undo.value = feature.Release();
     }
     feature.Store(std::move(value), specified, followsDefault);
-    m_log.Note(feature, kValueBit);
+    if (!same)
+        m_log.Note(feature, kValueBit);
     m_engine.ValueChanged(feature);
 }
 
 bool SettingsWriter::CanTake(const FeatureNode& feature, FeatureValue& value) const
 {
     const FeatureDescription& description = feature.Description();
-    return IsWritable(feature) &&
-           (value.index() == 0 ? !description.flags.required : description.Accepts(value));
+    if (!IsWritable(feature) || (!IsNone(value) && !description.Accepts(value)))
+        return false;
+    if (IsNone(value))
+        value = {};
+    return value.index() != 0 || !description.flags.required;
 }
 
 void SettingsWriter::Force(FeatureNode& feature, const FeatureValue& value)
@@ -60,30 +78,28 @@ void SettingsWriter::Force(FeatureNode& feature, const FeatureValue& value)
 
 bool SettingsWriter::SetValue(FeatureNode& feature, const FeatureValue& value)
 {
-    const auto* option = std::get_if<ValueId>(&value);
-    if (option != nullptr && option->GetValueEnum() == DataModelIds::kValueUnspecified)
-        return SetSpecified(feature, false);
-    FeatureValue complete = value;
-    if (!IsWritable(feature) || !feature.Description().Accepts(complete))
+    FeatureValue wanted = value;
+    if (!CanTake(feature, wanted))
         return false;
+    const bool specified = wanted.index() != 0;
     if (feature.IsForced())
-        return complete == feature.PresentValue();
-    if ((!feature.HasStored(complete, true) && feature.IsBlocked(complete)))
+        return wanted == feature.PresentValue();
+    if (specified ? feature.HasStored(wanted, true) : !feature.StoredSpecified())
+        return true; // one that follows a default goes on following it
+    if (feature.IsBlocked(specified ? wanted
+                                    : FeatureValue(ValueId(DataModelIds::kValueUnspecified))))
         return false;
-    Write(feature, std::move(complete), true, false);
+    Force(feature, wanted);
     return true;
 }
 
 bool SettingsWriter::SetSpecified(FeatureNode& feature, bool specified)
 {
-    if (!IsWritable(feature) || feature.IsForced())
+    if (feature.IsForced() || specified == feature.StoredSpecified())
         return specified == feature.PresentSpecified();
-    const FeatureValue unspecified = ValueId(DataModelIds::kValueUnspecified);
-    if (!specified && feature.StoredSpecified() &&
-        (feature.Description().flags.required || feature.IsBlocked(unspecified)))
-        return false;
-    Write(feature, feature.StoredValue(), specified, false);
-    return true;
+    // The value of before has to be one that can still be chosen.
+    const FeatureValue wanted = specified ? feature.StoredValue() : FeatureValue();
+    return specified == !IsNone(wanted) && SetValue(feature, wanted);
 }
 
 void SettingsWriter::Insert(FeatureNode& list, const std::shared_ptr<FeatureNode>& item,
@@ -108,7 +124,7 @@ void SettingsWriter::Erase(FeatureNode& list, std::size_t index)
 
 void SettingsWriter::DeleteItem(FeatureNode& list, std::size_t index)
 {
-    if (m_log.IsRecording())
+    if (m_log.IsRecording() && !list.IsStateOnly())
         m_log.Record({ChangeLog::Undo::Kind::ItemDeleted,
                       &list,
                       {},
@@ -125,8 +141,14 @@ std::shared_ptr<FeatureNode> SettingsWriter::CreateItem(FeatureNode& list)
     const std::size_t index = list.Children().size();
     if (!description.item || description.flags.readOnly || index >= description.maxItems)
         return nullptr;
-    std::shared_ptr<FeatureNode> item = list.MakeItem();
-    if (m_log.IsRecording())
+    return CreateItem(list, index, SettingsSnapshot::kNewItem);
+}
+
+std::shared_ptr<FeatureNode> SettingsWriter::CreateItem(FeatureNode& list, std::size_t index,
+                                                        int key)
+{
+    std::shared_ptr<FeatureNode> item = list.MakeItem(key);
+    if (m_log.IsRecording() && !list.IsStateOnly())
         m_log.Record({ChangeLog::Undo::Kind::ItemCreated, &list, {}, false, false, item, index});
     Insert(list, item, index);
     return item;
@@ -149,6 +171,9 @@ bool SettingsWriter::DeleteItems(FeatureNode& list, std::vector<std::size_t> ind
 
 void SettingsWriter::Apply(FeatureNode& feature, const SettingsSnapshot& snapshot)
 {
+    // What the device reports is nobody's setting, so nothing brings it back.
+    if (feature.IsStateOnly())
+        return;
     if (feature.Description().item) {
         ApplyItems(feature, snapshot);
         return;
@@ -157,28 +182,43 @@ void SettingsWriter::Apply(FeatureNode& feature, const SettingsSnapshot& snapsho
         Apply(*feature.Children()[i], snapshot.children[i]);
     if (!IsLeaf(feature))
         return;
-    const FeatureValue& wanted =
-        snapshot.followsDefault ? feature.CurrentDefault() : snapshot.value;
+    bool follows = snapshot.followsDefault;
+    FeatureValue wanted = follows ? feature.CurrentDefault() : snapshot.value;
+    if (wanted.index() != 0 && IsNone(wanted)) {
+        const bool required = feature.Description().flags.required;
+        follows = required && !feature.Description().defaults.empty();
+        wanted = required ? feature.CurrentDefault() : FeatureValue();
+    }
     const bool specified = wanted.index() != 0;
-    Write(feature, specified ? wanted : feature.StoredValue(), specified, snapshot.followsDefault);
+    Write(feature, specified ? wanted : feature.StoredValue(), specified, follows);
 }
 
 void SettingsWriter::ApplyItems(FeatureNode& list, const SettingsSnapshot& snapshot)
 {
     const auto& items = list.Children();
-    const bool sameItems =
-        std::equal(items.begin(), items.end(), snapshot.children.begin(), snapshot.children.end(),
-                   [](const auto& item, const SettingsSnapshot& wanted) {
-                       return item->GetId().GetFeatureId().GetItem() == wanted.item;
-                   });
-    if (!sameItems) {
-        while (!items.empty())
-            DeleteItem(list, items.size() - 1);
-        for (std::size_t i = 0; i < snapshot.children.size(); ++i)
-            CreateItem(list);
+    const auto& wanted = snapshot.children;
+    // Items that are still wanted stay, with all that refers to them: those of a known key by it,
+    // new ones in place of what stands there.
+    const bool known = std::any_of(wanted.begin(), wanted.end(), [](const auto& child) {
+        return child.item != SettingsSnapshot::kNewItem;
+    });
+    for (std::size_t i = items.size(); known && i-- > 0;) {
+        if (std::none_of(wanted.begin(), wanted.end(),
+                         [&](const auto& child) { return HasKey(*items[i], child); }))
+            DeleteItem(list, i);
     }
-    for (std::size_t i = 0; i < items.size(); ++i)
-        Apply(*items[i], snapshot.children[i]);
+    for (std::size_t i = 0; i < wanted.size(); ++i) {
+        const bool isNew = wanted[i].item == SettingsSnapshot::kNewItem;
+        while (!isNew && i < items.size() && !HasKey(*items[i], wanted[i]) &&
+               std::any_of(items.begin() + static_cast<std::ptrdiff_t>(i), items.end(),
+                           [&](const auto& item) { return HasKey(*item, wanted[i]); }))
+            DeleteItem(list, i);
+        if (i >= items.size() || (!isNew && !HasKey(*items[i], wanted[i])))
+            CreateItem(list, i, wanted[i].item);
+        Apply(*items[i], wanted[i]);
+    }
+    while (items.size() > wanted.size())
+        DeleteItem(list, items.size() - 1);
 }
 
 bool SettingsWriter::CopyFrom(FeatureNode& feature, const IFeatureNode& source)

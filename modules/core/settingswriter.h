@@ -36,6 +36,7 @@ public:
 
 private:
     void Write(FeatureNode& feature, FeatureValue value, bool specified, bool followsDefault);
+    std::shared_ptr<FeatureNode> CreateItem(FeatureNode& list, std::size_t index, int key);
     void Insert(FeatureNode& list, const std::shared_ptr<FeatureNode>& item, std::size_t index);
     void Erase(FeatureNode& list, std::size_t index);
     void DeleteItem(FeatureNode& list, std::size_t index);

@@ -315,15 +315,11 @@ InterpretedState StateInterpreter::OptionState(const std::vector<const Constrain
 InterpretedState StateInterpreter::UnspecifiedState(const FeatureNode& feature,
                                                     const InterpretedState& state)
 {
-    InterpretedState unspecified;
+    InterpretedState unspecified = OptionState(feature, ValueId(DataModelIds::kValueUnspecified));
     if (state.IsDisabled())
         unspecified.Disable(state.GetReason());
     if (feature.IsRequired())
         unspecified.Disable(FeatureName(feature));
-    const ValueId entry(DataModelIds::kValueUnspecified);
-    const InterpretedState own = OptionState(feature, entry);
-    if (own.IsDisabled())
-        unspecified.Disable(own.GetReason());
     return unspecified;
 }
 
