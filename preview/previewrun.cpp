@@ -104,7 +104,7 @@ bool PreviewRun::applyFamily()
 void PreviewRun::loadJobTicket()
 {
     const JobTicketResult result = m_session->model().LoadJobTicket(jobTicketPath());
-    if (result.outcome != JobTicketOutcome::Damaged) {
+    if (result.outcome == JobTicketOutcome::Loaded || result.outcome == JobTicketOutcome::None) {
         return;
     }
     const CXString text(result.message.c_str());

@@ -13,15 +13,18 @@ namespace o7 {
 /// What became of reading a job-ticket file.
 enum class JobTicketOutcome
 {
-    Loaded,  ///< Its settings are the current and the accepted ones.
-    None,    ///< There is no file: defaults stay.
-    Damaged, ///< Set aside under another name: defaults stay.
+    Loaded,     ///< Its settings are the current and the accepted ones.
+    None,       ///< There is no file: the settings stay as they are.
+    Damaged,    ///< Set aside under another name: the settings stay as they are.
+    Unreadable, ///< Another program holds it, or a transaction is open. The settings and the file
+                ///< stay as they are, and saving to it is refused until it was read.
 };
 
 struct JobTicketResult
 {
     JobTicketOutcome outcome = JobTicketOutcome::None;
-    /// For Damaged: what was wrong and where the file is now, as an English sentence in UTF-8.
+    /// For Damaged and Unreadable: what was wrong and where the file is now, as an English sentence
+    /// in UTF-8.
     std::string message;
     /// For Damaged: where the file is now; empty when it could not be moved.
     std::filesystem::path setAside;
@@ -50,12 +53,14 @@ enum class SettingsScope
 class IDataModel : public FeatureServices
 {
 public:
-    /// Writes the accepted settings, atomically: the old file stays until the new one is complete.
+    /// Writes the accepted settings, atomically: the old file stays until the new one is complete
+    /// and on the disk. Several programs may write at once; the last one wins.
     /// Features flagged as not saved are left out; entries that the last load did not know are
     /// kept. False, with a sentence in `message`, when the file cannot be written.
     virtual bool SaveJobTicket(const std::filesystem::path& file, std::string& message) = 0;
 
-    /// Reads settings from the file, notifies what changed, and makes them the accepted ones.
+    /// Reads settings from the file, notifies what changed, and makes them the accepted ones. A
+    /// file that another program holds is tried for a second.
     virtual o7::JobTicketResult LoadJobTicket(const std::filesystem::path& file) = 0;
 
     /// The accepted settings that differ from the defaults, as a versioned block with checksum.
@@ -66,9 +71,9 @@ public:
 
     /// The inverse: all settings of the scope become what the block says, the others of the scope
     /// their defaults, and the result becomes the accepted settings. A block that is damaged in any
-    /// way, or of another product, is refused whole: false, and nothing changed. What does not fit
-    /// this product (an unknown feature or value, one of another kind, items beyond what a list
-    /// takes) is passed over, and the rest is kept.
+    /// way, or of another product, is refused whole, and so is any while a transaction is open: false,
+    /// and nothing changed. What does not fit this product (an unknown feature or value, one of
+    /// another kind, items beyond what a list takes) is passed over, and the rest is kept.
     virtual bool ImportSettings(const std::uint8_t* bytes, std::size_t size,
                                 o7::SettingsScope scope = o7::SettingsScope::All) = 0;
 

@@ -128,6 +128,8 @@ private:
     SettingsSnapshot m_accepted;
     /// What the job ticket held besides our settings, as JSON text.
     std::string m_foreignTicketEntries;
+    /// A job ticket that is there and could not be read: not to be overwritten.
+    std::filesystem::path m_unreadTicket;
     int m_operations = 0;
     int m_deliveryDepth = 0;
     int m_deliveryRounds = 0;

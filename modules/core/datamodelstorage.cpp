@@ -3,9 +3,8 @@
 #include "jobticket.h"
 #include "listofvaluescapability.h"
 #include "settingsblock.h"
+#include "ticketfile.h"
 
-#include <fstream>
-#include <iterator>
 #include <system_error>
 #include <utility>
 
@@ -16,13 +15,7 @@ namespace {
 constexpr unsigned kDocumentIsFull = 60296;
 constexpr unsigned kListIsFull = 60269;
 
-constexpr std::uintmax_t kLargestTicket = 4U << 20U;
-
-std::string NameOf(const std::filesystem::path& file)
-{
-    const std::u8string name = file.filename().generic_u8string();
-    return {name.begin(), name.end()};
-}
+constexpr std::size_t kLargestTicket = 4U << 20U;
 
 /// "<file>.damaged", or with a number where such files exist already; empty when that fails too.
 std::filesystem::path SetAside(const std::filesystem::path& file)
@@ -39,57 +32,38 @@ std::filesystem::path SetAside(const std::filesystem::path& file)
     return {};
 }
 
-/// False when there is something but it cannot be read as a whole.
-bool ReadWhole(const std::filesystem::path& file, std::string& text)
-{
-    std::error_code error;
-    const auto size = std::filesystem::file_size(file, error);
-    if (error || size > kLargestTicket)
-        return false;
-    std::ifstream stream(file, std::ios::binary);
-    text.assign(std::istreambuf_iterator<char>(stream), {});
-    return stream.good() && text.size() == size;
-}
-
 } // namespace
 
 bool DataModel::SaveJobTicket(const std::filesystem::path& file, std::string& message)
 {
-    const std::string text = WriteJobTicket(*m_product, {m_accepted, m_foreignTicketEntries, {}});
-    std::filesystem::path unfinished = file;
-    unfinished += ".new";
-    std::error_code error;
-    if (file.has_parent_path())
-        std::filesystem::create_directories(file.parent_path(), error);
-    {
-        std::ofstream stream(unfinished, std::ios::binary | std::ios::trunc);
-        stream << text;
-        stream.close();
-        if (stream.fail()) {
-            message = NameOf(unfinished) + " cannot be written";
-            std::filesystem::remove(unfinished, error);
-            return false;
-        }
+    if (!m_unreadTicket.empty() && m_unreadTicket == file) {
+        message = "The saved settings in " + NameOf(file) +
+                  " could not be read, so they are not replaced by others.";
+        return false;
     }
-    // The old file is there until the new one takes its name in one step.
-    std::filesystem::rename(unfinished, file, error);
-    if (!error)
-        return true;
-    message = NameOf(file) + " cannot be replaced: " + error.message();
-    std::filesystem::remove(unfinished, error);
-    return false;
+    return WriteTicketFile(
+        file, WriteJobTicket(*m_product, {m_accepted, m_foreignTicketEntries, {}}), message);
 }
 
 JobTicketResult DataModel::LoadJobTicket(const std::filesystem::path& file)
 {
     JobTicketResult result;
-    std::error_code error;
-    if (!std::filesystem::exists(file, error) && !error)
-        return result;
     std::string text;
-    std::string fault = "it cannot be read";
+    const FileRead read =
+        m_log.IsAnyOpen() ? FileRead::Busy : ReadTicketFile(file, kLargestTicket, text);
+    m_unreadTicket = read == FileRead::Busy ? file : std::filesystem::path();
+    if (read == FileRead::None)
+        return result;
+    if (read == FileRead::Busy) {
+        result.outcome = JobTicketOutcome::Unreadable;
+        result.message = "The saved settings in " + NameOf(file) +
+                         " cannot be read now: another program may be using them. They stay as "
+                         "they are, and what is chosen meanwhile is not saved.";
+        return result;
+    }
+    std::string fault = "it is too large";
     JobTicket ticket{DefaultsOf(), {}, {}};
-    if (ReadWhole(file, text) && ReadJobTicket(*m_product, text, ticket, fault)) {
+    if (read == FileRead::Done && ReadJobTicket(*m_product, text, ticket, fault)) {
         const std::string trimmed = TrimToRoom(*m_product, ticket.settings);
         m_foreignTicketEntries = std::move(ticket.foreignEntries);
         Adopt(ticket.settings);
@@ -127,7 +101,8 @@ bool DataModel::ExportSettings(std::vector<std::uint8_t>& block, std::size_t lim
 bool DataModel::ImportSettings(const std::uint8_t* bytes, std::size_t size, SettingsScope scope)
 {
     SettingsSnapshot settings = ResettableDefaults(*m_root, scope);
-    if (!DecodeSettings(*m_product, bytes, size, scope, settings))
+    // What is open would be taken back later, and with it what was just taken.
+    if (m_log.IsAnyOpen() || !DecodeSettings(*m_product, bytes, size, scope, settings))
         return false;
     TrimToRoom(*m_product, settings);
     Adopt(settings);

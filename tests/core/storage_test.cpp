@@ -2,10 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <fstream>
 #include <iterator>
 #include <string>
 #include <string_view>
+#include <thread>
 
 namespace {
 
@@ -354,6 +356,10 @@ protected:
         std::ifstream stream(file, std::ios::binary);
         return {std::istreambuf_iterator<char>(stream), {}};
     }
+    std::ptrdiff_t CountFiles() const
+    {
+        return std::distance(std::filesystem::directory_iterator(folder), {});
+    }
     void Write(const std::string& text) const
     {
         std::ofstream(file, std::ios::binary | std::ios::trunc) << text;
@@ -372,7 +378,7 @@ TEST_F(JobTicket, RoundTripsEveryKind)
     ChangeEverything(from);
     ASSERT_TRUE(from.model->SaveJobTicket(file, message)) << message;
     ASSERT_TRUE(from.model->SaveJobTicket(file, message)) << "over the old one";
-    EXPECT_FALSE(std::filesystem::exists(folder / "settings.json.new"));
+    EXPECT_EQ(CountFiles(), 1) << "nothing unfinished is left";
 
     const Product to;
     EXPECT_EQ(to.model->LoadJobTicket(file).outcome, o7::JobTicketOutcome::Loaded);
@@ -425,8 +431,81 @@ TEST_F(JobTicket, ADamagedFileIsSetAside)
         EXPECT_FALSE(std::filesystem::exists(file));
         EXPECT_EQ(product.Get(test::kMedia), test::kPlain);
     }
-    const auto files = std::distance(std::filesystem::directory_iterator(folder), {});
-    EXPECT_EQ(static_cast<std::size_t>(files), std::size(damaged)) << "none overwrote another";
+    EXPECT_EQ(static_cast<std::size_t>(CountFiles()), std::size(damaged))
+        << "none overwrote another";
+}
+
+TEST_F(JobTicket, WhatCannotBeReadNowIsLeftAlone)
+{
+    // Something that is there and does not open as a file stands for one that somebody holds.
+    std::filesystem::create_directory(file);
+    const Product product;
+    product.Set(test::kMedia, test::kFilm);
+    const auto result = product.model->LoadJobTicket(file);
+    EXPECT_EQ(result.outcome, o7::JobTicketOutcome::Unreadable);
+    EXPECT_FALSE(result.message.empty());
+    EXPECT_TRUE(std::filesystem::is_directory(file));
+    EXPECT_EQ(product.Get(test::kMedia), test::kFilm);
+
+    // Whoever held it is done: its settings are not replaced by those of somebody who never saw
+    // them.
+    std::filesystem::remove(file);
+    product.model->CommitAccepted();
+    EXPECT_TRUE(Product().model->SaveJobTicket(file, message)) << message;
+    const std::string text = Text();
+    EXPECT_FALSE(product.model->SaveJobTicket(file, message));
+    EXPECT_NE(message.find("settings.json"), std::string::npos);
+    EXPECT_EQ(Text(), text);
+    EXPECT_TRUE(product.model->SaveJobTicket(folder / "another.json", message));
+    EXPECT_EQ(product.model->LoadJobTicket(file).outcome, o7::JobTicketOutcome::Loaded);
+    EXPECT_TRUE(product.model->SaveJobTicket(file, message)) << message;
+}
+
+TEST_F(JobTicket, NothingComesInWhileATransactionIsOpen)
+{
+    const Product product;
+    product.Set(test::kMedia, test::kFilm);
+    product.model->CommitAccepted();
+    ASSERT_TRUE(product.model->SaveJobTicket(file, message));
+    const auto block = Block(product);
+    product.Set(test::kMedia, test::kPlain);
+    product.model->CommitAccepted();
+    {
+        const auto transaction = product.model->OpenTransaction();
+        EXPECT_FALSE(product.model->ImportSettings(block.data(), block.size()));
+        EXPECT_EQ(product.model->LoadJobTicket(file).outcome, o7::JobTicketOutcome::Unreadable);
+        EXPECT_EQ(product.Get(test::kMedia), test::kPlain);
+    }
+    EXPECT_FALSE(product.model->IsModified());
+    EXPECT_EQ(product.model->LoadJobTicket(file).outcome, o7::JobTicketOutcome::Loaded);
+    EXPECT_EQ(product.Get(test::kMedia), test::kFilm);
+}
+
+TEST_F(JobTicket, ManyMayWriteAndReadAtOnce)
+{
+    ASSERT_TRUE(Product().model->SaveJobTicket(file, message));
+    std::atomic<int> refused = 0;
+    std::atomic<int> unread = 0;
+    const auto work = [&](bool writes) {
+        const Product product;
+        std::string why;
+        for (int i = 0; i < 20; ++i) {
+            if (writes)
+                refused += product.model->SaveJobTicket(file, why) ? 0 : 1;
+            else
+                unread += product.model->LoadJobTicket(file).outcome == o7::JobTicketOutcome::Loaded
+                              ? 0
+                              : 1;
+        }
+    };
+    std::vector<std::thread> programs;
+    for (const bool writes : {true, true, true, false, true})
+        programs.emplace_back(work, writes);
+    for (std::thread& program : programs)
+        program.join();
+    EXPECT_EQ(refused, 0);
+    EXPECT_EQ(unread, 0);
+    EXPECT_EQ(CountFiles(), 1);
 }
 
 TEST_F(JobTicket, WhatIsNotOursIsKept)
