@@ -76,7 +76,7 @@ public:
     /// 21901, when to store. 21003 brings the accepted settings back.
     virtual INotificationSink& GetNotificationSink() = 0;
 
-    /// Whether a setting differs from the accepted ones (UI-private features do not count).
+    /// Whether a setting differs from the accepted ones (not UI-private or state-only features).
     virtual bool IsModified() const = 0;
 
     /// Makes the current settings the accepted ones.

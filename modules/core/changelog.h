@@ -1,6 +1,7 @@
 #pragma once
 
 #include "featurevalue.h"
+#include "room.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -58,6 +59,10 @@ public:
 
     ChangeLog();
 
+    /// To be told of each feature, with those below it, before it is first noted. Makes the room
+    /// that noting it, and burying it, takes: neither fails then.
+    void Expect(const FeatureNode& feature);
+
     /// Notes a change on the innermost level; once per feature and level.
     void Note(FeatureNode& feature, unsigned bits);
     /// Records how to take a change back; to be asked for with IsRecording() first, because outside
@@ -67,10 +72,14 @@ public:
         m_levels.back().undo.push_back(std::move(undo));
         return m_levels.back().undo.back();
     }
+    /// The next Record() will not fail.
+    void MakeRoomForRecord() { MakeRoom(m_levels.back().undo, m_levels.back().undo.size() + 1); }
     bool IsRecording() const { return IsAnyOpen() && !m_muted; }
     /// Keeps an item that was deleted until nothing speaks of it any more.
-    void Bury(std::shared_ptr<FeatureNode> item) { m_buried.push_back(std::move(item)); }
-    void ReleaseBuried() { m_buried.clear(); }
+    void Bury(std::shared_ptr<FeatureNode> item);
+    /// The item is in its list again.
+    void Exhume(const std::shared_ptr<FeatureNode>& item);
+    void ReleaseBuried();
 
     /// While muted, changes are neither noted nor recorded: somebody tries something and takes it
     /// back by itself.
@@ -83,21 +92,27 @@ public:
     Level& Innermost() { return m_levels.back(); }
     /// Takes the innermost level's records of how to take it back.
     std::vector<Undo> TakeUndo() { return std::exchange(m_levels.back().undo, {}); }
-    /// Removes the innermost transaction. With `keep` its undo records go to the level below.
+    /// Removes the innermost transaction. With `keep` its undo records go to the level below; that
+    /// may fail, and then the transaction is still open.
     std::vector<Change> Pop(bool keep);
     /// Hands a delivered list back, so that the next level need not allocate one.
     void Recycle(std::vector<Change> changes);
-    /// Takes what the base level has gathered.
+    /// Takes what the base level has gathered; when that fails, it is still there.
     std::vector<Change> TakeBase();
     /// Puts changes back for a later delivery.
-    void ReturnToBase(std::vector<Change> changes);
+    void ReturnToBase(const std::vector<Change>& changes);
 
 private:
+    static void NoteIn(Level& level, FeatureNode& feature, unsigned bits);
+    /// Makes the marks in the features those of this level again.
+    static void MarkIn(const Level& level);
+
     std::uint64_t m_nextId = 1;
     bool m_muted = false;
     std::vector<Level> m_levels;
     std::vector<std::shared_ptr<FeatureNode>> m_buried;
-    Level m_spare; ///< Empty lists with their memory.
+    std::size_t m_features = 0; ///< That can be noted: those in the tree, and the buried ones.
+    Level m_spare;              ///< Empty lists with their memory.
 };
 
 } // namespace o7

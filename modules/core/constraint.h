@@ -37,6 +37,7 @@ struct alignas(64) Constraint
     bool onList = false;       ///< The target is a list: its members are limited with it.
     bool whole = true;         ///< The feature as a whole is affected, not some of its values.
     bool hit = false;          ///< Active, and the target's value is one that is affected.
+    bool linked = false;       ///< Hangs on the features that it reads and limits.
     bool toggled = false;      ///< In the change under way ...
     bool activeBefore = false; ///< ... and what it was before that.
     std::uint32_t brokenAt = kNotBroken; ///< Where the engine's list of broken ones has it.

@@ -29,7 +29,9 @@ void BindConditions(const std::vector<ConditionDescription>& when, FeatureNode& 
     }
 }
 
-void BindDefaults(FeatureNode& feature)
+using Constraints = std::vector<std::unique_ptr<Constraint>>;
+
+void BindDefaults(FeatureNode& feature, Constraints& bound)
 {
     const auto& rows = feature.Description().defaults;
     for (std::size_t i = 0; i < rows.size(); ++i) {
@@ -37,7 +39,7 @@ void BindDefaults(FeatureNode& feature)
         BindConditions(rows[i].when, *feature.Parent(), *row);
         row->target = &feature;
         row->defaultRow = static_cast<int>(i);
-        feature.constraints.push_back(std::move(row));
+        bound.push_back(std::move(row));
     }
 }
 
@@ -55,10 +57,11 @@ void FinishConstraint(Constraint& constraint)
 void BindConstraints(FeatureNode& feature)
 {
     const FeatureDescription& description = feature.Description();
-    BindDefaults(feature);
-    if (!description.list)
-        return;
-    for (const ConstraintDescription& declared : description.list->constraints) {
+    Constraints bound;
+    BindDefaults(feature, bound);
+    const std::vector<ConstraintDescription> none;
+    for (const ConstraintDescription& declared :
+         description.list ? description.list->constraints : none) {
         auto constraint = std::make_unique<Constraint>();
         BindConditions(declared.when, feature, *constraint);
         constraint->target = &FindOutwards(feature, declared.target);
@@ -68,8 +71,9 @@ void BindConstraints(FeatureNode& feature)
         constraint->reason = declared.reason;
         constraint->id = declared.id;
         FinishConstraint(*constraint);
-        feature.constraints.push_back(std::move(constraint));
+        bound.push_back(std::move(constraint));
     }
+    feature.constraints = std::move(bound); // all of them or none
 }
 
 } // namespace o7

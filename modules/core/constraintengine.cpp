@@ -2,6 +2,7 @@
 
 #include "constraintbinding.h"
 #include "prefetch.h"
+#include "room.h"
 #include "valuecode.h"
 
 #include <algorithm>
@@ -29,29 +30,82 @@ bool Reaches(const FeatureNode& from, const FeatureNode& to)
            });
 }
 
+bool LiesIn(const FeatureNode& feature, const FeatureNode& list)
+{
+    const FeatureNode* node = &feature;
+    while (node != nullptr && node != &list)
+        node = node->Parent();
+    return node != nullptr;
+}
+
+/// Whether the constraint has to do with the feature or with what is below it.
+bool Concerns(const Constraint& constraint, const FeatureNode& feature)
+{
+    return LiesIn(*constraint.target, feature) ||
+           std::any_of(constraint.when.begin(), constraint.when.end(),
+                       [&](const auto& cause) { return LiesIn(*cause.feature, feature); });
+}
+
+/// Whether everything that the constraint has to do with is there. (What surrounds a feature that
+/// is not may be gone for good.)
+bool IsComplete(const Constraint& constraint)
+{
+    return constraint.target->isLinked &&
+           std::all_of(constraint.when.begin(), constraint.when.end(),
+                       [](const auto& cause) { return cause.feature->isLinked; });
+}
+
 } // namespace
 
 void ConstraintEngine::Attach(FeatureNode& feature)
 {
+    try {
+        LinkAll(feature);
+        for (const auto& constraint : m_added) {
+            if (!constraint->linked && IsComplete(*constraint))
+                Link(*constraint);
+        }
+    } catch (...) {
+        Detach(feature);
+        throw;
+    }
+    Settle();
+}
+
+void ConstraintEngine::LinkAll(FeatureNode& feature)
+{
     if (feature.constraints.empty())
         BindConstraints(feature);
+    MakeRoom(m_pending, m_features + 1);
+    ++m_features;
+    feature.isLinked = true;
     // What is in a list that can be cleared comes after it.
     if (feature.Parent() != nullptr && feature.Parent()->rank != 0)
         Raise(feature, feature.Parent()->rank + 1);
     for (const auto& constraint : feature.constraints)
         Link(*constraint);
     for (const auto& child : feature.Children())
-        Attach(*child);
-    Settle();
+        LinkAll(*child);
 }
 
 void ConstraintEngine::Detach(FeatureNode& feature)
 {
+    for (const auto& constraint : m_added) {
+        if (constraint->linked && Concerns(*constraint, feature))
+            Unlink(*constraint);
+    }
+    UnlinkAll(feature);
+    Settle();
+}
+
+void ConstraintEngine::UnlinkAll(FeatureNode& feature)
+{
     for (const auto& child : feature.Children())
-        Detach(*child);
+        UnlinkAll(*child);
     for (const auto& constraint : feature.constraints)
         Unlink(*constraint);
-    Settle();
+    if (std::exchange(feature.isLinked, false))
+        --m_features;
 }
 
 bool ConstraintEngine::Add(std::unique_ptr<Constraint> constraint)
@@ -62,18 +116,30 @@ bool ConstraintEngine::Add(std::unique_ptr<Constraint> constraint)
             return false;
     }
     m_added.push_back(std::move(constraint));
-    Link(*m_added.back());
+    try {
+        Link(*m_added.back());
+    } catch (...) {
+        Unlink(*m_added.back());
+        m_added.pop_back();
+        throw;
+    }
     Settle();
     return true;
 }
 
+void ConstraintEngine::ForgetDetached()
+{
+    std::erase_if(m_added, [](const auto& constraint) { return !constraint->linked; });
+}
+
 void ConstraintEngine::Link(Constraint& constraint)
 {
+    FeatureNode& target = *constraint.target;
     if (constraint.defaultRow != Constraint::kNoRow)
-        constraint.target->defaultRows.push_back(&constraint);
+        target.defaultRows.push_back(&constraint);
     else
-        constraint.target->effects.push_back(&constraint);
-    constraint.target->choices.clear();
+        target.effects.push_back(&constraint);
+    target.choices.clear();
     constraint.unmet = 0;
     for (std::size_t i = 0; i < constraint.when.size(); ++i) {
         const Constraint::Cause& cause = constraint.when[i];
@@ -86,9 +152,16 @@ void ConstraintEngine::Link(Constraint& constraint)
         ++m_evaluations;
         constraint.unmet += holds ? 0 : 1;
         feature.readers.push_back({&constraint, mask, static_cast<std::uint32_t>(i), holds, false});
+        MakeRoom(m_answers, feature.readers.size());
         if (Influences(constraint))
-            Raise(*constraint.target, feature.rank + 1);
+            Raise(target, feature.rank + 1);
     }
+    // From here on nothing allocates: not now, and not when the constraint is at work.
+    MakeRoom(target.activeEffects, target.effects.size());
+    MakeRoom(m_toggled, m_linked + 1);
+    MakeRoom(m_broken, m_linked + 1);
+    constraint.linked = true;
+    ++m_linked;
     if (constraint.unmet == 0)
         Activate(constraint, true);
 }
@@ -102,6 +175,8 @@ void ConstraintEngine::Unlink(Constraint& constraint)
                       [&](const auto& reader) { return reader.constraint == &constraint; });
     std::erase(constraint.target->effects, &constraint);
     std::erase(constraint.target->defaultRows, &constraint);
+    if (std::exchange(constraint.linked, false))
+        --m_linked;
 }
 
 void ConstraintEngine::Raise(FeatureNode& feature, unsigned rank)

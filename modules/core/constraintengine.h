@@ -20,14 +20,19 @@ class ConstraintEngine
 public:
     explicit ConstraintEngine(ChangeLog& changes) : m_changes(changes) {}
 
-    /// Binds and evaluates the constraints of this feature and of those below it.
+    /// Binds and evaluates the constraints of this feature and of those below it. Makes all the
+    /// room that these will ever need: what is done with them later does not fail. When this fails,
+    /// nothing was attached.
     void Attach(FeatureNode& feature);
-    /// The inverse, for items that are deleted.
+    /// The inverse, for items that are deleted. Never fails, and neither does attaching them again.
     void Detach(FeatureNode& feature);
 
-    /// Adds a constraint at run time; it stays for the life of the model. False, and nothing added,
-    /// when it would clear its own cause in a circle.
+    /// Adds a constraint at run time; it stays for the life of the model, or until an item that it
+    /// has to do with is gone for good. False, and nothing added, when it would clear its own cause
+    /// in a circle.
     bool Add(std::unique_ptr<Constraint> constraint);
+    /// Detached items will not be attached again.
+    void ForgetDetached();
 
     /// To be told after the stored value of a feature changed.
     void ValueChanged(FeatureNode& feature);
@@ -42,6 +47,8 @@ public:
     std::uint64_t Evaluations() const { return m_evaluations; }
 
 private:
+    void LinkAll(FeatureNode& feature);
+    void UnlinkAll(FeatureNode& feature);
     void Link(Constraint& constraint);
     void Unlink(Constraint& constraint);
     void Raise(FeatureNode& feature, unsigned rank);
@@ -70,6 +77,8 @@ private:
     std::vector<Constraint*> m_toggled;
     std::vector<FeatureNode::Reader*> m_answers; ///< Empty but while readers are asked.
     std::vector<Constraint*> m_broken;
+    std::size_t m_features = 0; ///< Attached.
+    std::size_t m_linked = 0;   ///< Constraints.
     std::uint64_t m_evaluations = 0;
     std::uint64_t m_marks = 0;
 };

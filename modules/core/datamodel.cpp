@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <new>
 #include <utility>
 
 namespace o7 {
@@ -53,6 +54,7 @@ DataModel::DataModel(std::shared_ptr<const ProductDescription> product, IStringS
         std::make_shared<FeatureNode>(*this, nullptr, m_rootDescription, FeatureIdWithContext());
     m_root->BuildMembers();
     m_room = std::make_unique<SettingsRoom>(*m_product, *m_root);
+    m_log.Expect(*m_root);
     m_engine.Attach(*m_root);
     m_log.TakeBase();
     m_accepted = CaptureSettings(*m_root);
@@ -207,7 +209,9 @@ bool DataModel::RestoreToDefault(FeatureNode& feature)
 
 std::unique_ptr<TransactionRef> DataModel::OpenTransaction(const CXString&)
 {
-    return std::make_unique<Transaction>(m_self, m_log.Open());
+    auto transaction = std::make_unique<Transaction>(m_self);
+    transaction->Begin(m_log.Open());
+    return transaction;
 }
 
 void DataModel::RollBackInnermost()
@@ -250,11 +254,14 @@ void DataModel::Deliver(std::vector<Change> changes)
         return;
     }
     if (m_deliveryDepth >= kDeepestDelivery) {
-        m_log.ReturnToBase(std::move(changes));
+        m_log.ReturnToBase(changes);
         return;
     }
     const Counted counted(m_deliveryDepth);
-    m_notifier.Deliver(changes);
+    if (!m_notifier.Deliver(changes)) {
+        m_log.ReturnToBase(changes); // to be told with the next change
+        throw std::bad_alloc();
+    }
     m_log.Recycle(std::move(changes));
 }
 
@@ -268,8 +275,10 @@ void DataModel::DeliverPending()
     }
     if (m_deliveryDepth == 0) {
         m_deliveryRounds = 0;
-        if (!m_log.IsAnyOpen())
+        if (!m_log.IsAnyOpen()) {
+            m_engine.ForgetDetached();
             m_log.ReleaseBuried();
+        }
     }
 }
 

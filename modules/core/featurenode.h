@@ -140,6 +140,7 @@ public:
     unsigned wholeLimits = 0;                             ///< How many of them limit it whole.
     unsigned rank = 0;        ///< Above those whose clearing or value can change this one's.
     bool isWayOut = false;    ///< A reason that was read sends the person to it.
+    bool isLinked = false;    ///< The engine knows it and its constraints.
     bool isPending = false;   ///< Its readers have to look again.
     bool isUnsettled = false; ///< Its default, or what is forced, may have changed.
 

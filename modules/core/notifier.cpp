@@ -2,10 +2,12 @@
 
 #include "counted.h"
 #include "featurechangenotification.h"
+#include "room.h"
 
 #include <algorithm>
 #include <array>
 #include <exception>
+#include <new>
 
 namespace o7 {
 namespace {
@@ -111,21 +113,24 @@ void Notifier::Register(IObserver& observer, DataModelIds::SettingsEnum instance
             return;
         }
     }
-    if (entry.serial == 0)
-        entry.serial = m_nextSerial++;
     auto registration = std::make_shared<Registration>();
     registration->observer = &observer;
     registration->instance = instance;
     registration->feature = feature;
     registration->kind = kind;
-    registration->serial = entry.serial;
+    // Registered in both places or in none: who was told of a failure does not unregister.
+    MakeRoom(entry.registrations, entry.registrations.size() + 1);
     if (node != nullptr) {
-        registration->node = node->weak_from_this();
-        node->registrations.push_back(registration);
         if (!node->delivery)
             node->delivery = std::make_unique<DeliveryList>();
+        MakeRoom(node->registrations, node->registrations.size() + 1);
+        registration->node = node->weak_from_this();
+        node->registrations.push_back(registration);
         node->delivery->valid = false;
     }
+    if (entry.serial == 0)
+        entry.serial = m_nextSerial++;
+    registration->serial = entry.serial;
     entry.registrations.push_back(std::move(registration));
 }
 
@@ -160,7 +165,10 @@ void Notifier::RegisterForEvent(IObserver& observer, DataModelIds::EventEnum eve
 
 void Notifier::UnregisterForEvent(IObserver& observer, DataModelIds::EventEnum event, unsigned kind)
 {
-    auto& registrations = m_events[event];
+    const auto registered = m_events.find(event);
+    if (registered == m_events.end())
+        return;
+    auto& registrations = registered->second;
     const auto found = std::find_if(registrations.begin(), registrations.end(), [&](const auto& r) {
         return r->observer == &observer && r->kind == kind;
     });
@@ -181,7 +189,7 @@ void Notifier::Gather(const Change& change, std::vector<Entry>& entries)
     }
 }
 
-bool Notifier::DeliverAlone(const Change& change)
+bool Notifier::PrepareAlone(const Change& change)
 {
     FeatureNode& feature = *change.feature;
     for (const FeatureNode* list = feature.Parent(); list != nullptr; list = list->Parent()) {
@@ -195,6 +203,19 @@ bool Notifier::DeliverAlone(const Change& change)
         Rebuild(feature);
     if (!list.valid || !list.simple)
         return false;
+    for (unsigned bits = 1; bits < list.bundles.size(); ++bits) {
+        if ((bits & change.bits) == bits)
+            KeptBundle(feature, bits);
+    }
+    return true;
+}
+
+void Notifier::DeliverAlone(const Change& change)
+{
+    FeatureNode& feature = *change.feature;
+    if (feature.registrations.empty())
+        return;
+    DeliveryList& list = *feature.delivery;
     const Counted counted(list.deliveries);
     const unsigned changed = change.bits;
     std::array<const NotificationBundle*, 4> bundles{};
@@ -207,16 +228,32 @@ bool Notifier::DeliverAlone(const Change& change)
             call([&] { slot.observer->ProcessNotification(*bundles[bits], slot.kind); });
     }
     call.Rethrow();
+}
+
+bool Notifier::Deliver(const std::vector<Change>& changes)
+{
+    if (m_observers.empty())
+        return true;
+    bool alone = false;
+    std::vector<Entry> entries;
+    try {
+        alone = changes.size() == 1 && PrepareAlone(changes.front());
+        for (const Change& change : changes) {
+            if (!alone)
+                Gather(change, entries);
+        }
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+    if (alone)
+        DeliverAlone(changes.front());
+    else
+        DeliverRuns(entries);
     return true;
 }
 
-void Notifier::Deliver(const std::vector<Change>& changes)
+void Notifier::DeliverRuns(std::vector<Entry>& entries)
 {
-    if (m_observers.empty() || (changes.size() == 1 && DeliverAlone(changes.front())))
-        return;
-    std::vector<Entry> entries;
-    for (const Change& change : changes)
-        Gather(change, entries);
     const auto before = [](const Entry& a, const Entry& b) {
         return ComesBefore(*a.registration, *b.registration);
     };

@@ -27,7 +27,8 @@ public:
 
     /// One bundle to each observer concerned, in the order in which observers first registered. An
     /// observer's exception does not keep the others from being told; the first is then rethrown.
-    void Deliver(const std::vector<Change>& changes);
+    /// False when there is no memory to tell anybody; nobody was told then.
+    bool Deliver(const std::vector<Change>& changes);
     void DeliverEvent(const EventNotification& event);
 
 private:
@@ -49,9 +50,11 @@ private:
         std::vector<std::shared_ptr<Registration>> registrations;
     };
 
-    /// A change of one feature that nobody watches through a list around it: the short way. False,
-    /// and nothing done, when it is something else.
-    static bool DeliverAlone(const Change& change);
+    /// A change of one feature that nobody watches through a list around it goes the short way.
+    /// False when it is something else.
+    static bool PrepareAlone(const Change& change);
+    static void DeliverAlone(const Change& change);
+    static void DeliverRuns(std::vector<Entry>& entries);
     static void Gather(const Change& change, std::vector<Entry>& entries);
     static void DeliverRun(const Entry* first, const Entry* last);
     /// The bundle that a feature keeps for a change of just itself.

@@ -1,6 +1,7 @@
 #include "settingswriter.h"
 
 #include "featurenode.h"
+#include "room.h"
 
 #include <algorithm>
 #include <functional>
@@ -105,9 +106,18 @@ bool SettingsWriter::SetSpecified(FeatureNode& feature, bool specified)
 void SettingsWriter::Insert(FeatureNode& list, const std::shared_ptr<FeatureNode>& item,
                             std::size_t index)
 {
-    list.Children().insert(list.Children().begin() + static_cast<std::ptrdiff_t>(index), item);
+    const auto at = static_cast<std::ptrdiff_t>(index);
+    list.Children().insert(list.Children().begin() + at, item);
     item->SetAttached(true);
-    m_engine.Attach(*item);
+    m_log.Exhume(item);
+    try {
+        m_engine.Attach(*item);
+    } catch (...) {
+        list.Children().erase(list.Children().begin() + at);
+        item->SetAttached(false);
+        m_log.Bury(item);
+        throw;
+    }
     m_log.Note(list, kValueBit);
 }
 
@@ -148,9 +158,12 @@ std::shared_ptr<FeatureNode> SettingsWriter::CreateItem(FeatureNode& list, std::
                                                         int key)
 {
     std::shared_ptr<FeatureNode> item = list.MakeItem(key);
+    MakeRoom(list.Children(), list.Children().size() + 1);
+    m_log.Expect(*item);
+    m_log.MakeRoomForRecord();
+    Insert(list, item, index);
     if (m_log.IsRecording() && !list.IsStateOnly())
         m_log.Record({ChangeLog::Undo::Kind::ItemCreated, &list, {}, false, false, item, index});
-    Insert(list, item, index);
     return item;
 }
 

@@ -148,10 +148,10 @@ std::vector<const Constraint*> ActiveInOrder(const FeatureNode& feature)
 
 const CXString& StateInterpreter::Text(unsigned number)
 {
-    const auto [entry, added] = m_texts.try_emplace(number);
-    if (added)
-        entry->second = m_strings.LoadStringW(number);
-    return entry->second;
+    const auto known = m_texts.find(number);
+    if (known != m_texts.end())
+        return known->second;
+    return m_texts.emplace(number, m_strings.LoadStringW(number)).first->second;
 }
 
 CXString StateInterpreter::FeatureName(const FeatureNode& feature)

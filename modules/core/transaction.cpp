@@ -4,22 +4,25 @@
 #include "trace.h"
 
 #include <exception>
+#include <new>
 #include <utility>
 
 namespace o7 {
 
-Transaction::Transaction(std::weak_ptr<DataModel*> model, std::uint64_t id)
-    : m_model(std::move(model)), m_id(id)
+Transaction::Transaction(std::weak_ptr<DataModel*> model) : m_model(std::move(model))
 {
 }
 
 Transaction::~Transaction()
 {
+    // The settings come back whatever happens; only telling of it can fail.
     try {
-        Close(false);
-    } catch (const std::exception& error) {
-        // The settings are back; only an observer failed to take notice of it.
-        trace(CXString(L"While a transaction was rolled back: ") + CXString(error.what()));
+        try {
+            Close(false);
+        } catch (const std::exception& error) {
+            trace(CXString(L"While a transaction was rolled back: ") + CXString(error.what()));
+        }
+    } catch (const std::bad_alloc&) { // NOLINT(bugprone-empty-catch): no memory to say so
     }
 }
 

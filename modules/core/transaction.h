@@ -13,15 +13,17 @@ class DataModel;
 class Transaction final : public TransactionRef
 {
 public:
-    Transaction(std::weak_ptr<DataModel*> model, std::uint64_t id);
+    /// Of no level yet.
+    explicit Transaction(std::weak_ptr<DataModel*> model);
     ~Transaction() override;
 
+    void Begin(std::uint64_t id) { m_id = id; }
     bool Close(bool commit) override;
     bool IsOpen() const override;
 
 private:
     std::weak_ptr<DataModel*> m_model;
-    std::uint64_t m_id;
+    std::uint64_t m_id = 0;
 };
 
 } // namespace o7

@@ -318,4 +318,72 @@ TEST(Keeping, TheUnspecifiedEntryHasTheWholeState)
     }
 }
 
+TEST(Keeping, WhatIsRequiredKeepsAValueWhateverComesIn)
+{
+    std::string text = Text();
+    const std::string_view flag = R"("flags": ["required"],)";
+    text.replace(text.find(flag), flag.size(), "");
+    const Product lenient(test::Whole{text});
+    EXPECT_TRUE(lenient.Set(kRequired, DataModelIds::kValueUnspecified));
+    lenient.model->CommitAccepted();
+    const Product strict(test::Whole{Text()});
+    for (const auto way : {ThroughBlock, ThroughTicket}) {
+        strict.Set(kRequired, kSecond);
+        way(lenient, strict);
+        EXPECT_EQ(strict.Get(kRequired), kFirst);
+    }
+    EXPECT_TRUE(strict.Set(kRequired, kSecond));
+    EXPECT_TRUE(strict.All().CopyFrom(lenient.All()));
+    EXPECT_EQ(strict.Get(kRequired), kSecond);
+}
+
+TEST(Keeping, OneKindDoesNotTakeOverAnother)
+{
+    const Product product(test::Whole{Text()});
+    const auto node = [&](DataModelIds::tagFeatureEnum feature) {
+        return product.All().GetFeature(feature)->GetNode();
+    };
+    const DataModelIds::tagFeatureEnum kinds[] = {kType, kSwitch, kBefore, kReportedItems};
+    for (const auto to : kinds) {
+        for (const auto from : kinds)
+            EXPECT_EQ(node(to)->CopyFrom(*node(from)), to == from) << to << " " << from;
+        EXPECT_FALSE(node(to)->CopyFrom(*product.All().GetNode()));
+    }
+    // A feature of the same number and another kind is passed over with the rest taken.
+    std::string text = Text();
+    const std::string_view flag = R"("kind": "boolean", "default": false)";
+    text.replace(text.find(flag), flag.size(), R"("kind": "string", "default": "on")");
+    const Product other(test::Whole{text});
+    other.Set(kType, kHeavy);
+    EXPECT_TRUE(product.All().CopyFrom(other.All()));
+    EXPECT_EQ(product.Get(kType), kHeavy);
+    bool on = true;
+    EXPECT_TRUE(
+        product.All().GetBooleanFeature(kSwitch).GetValue(on, FeatureRef::kAssertIfUnsupported));
+    EXPECT_FALSE(on);
+}
+
+TEST(Keeping, WhatIsInstalledNeverGivesWay)
+{
+    std::string text =
+        Text(R"({ "id": "n", "never": [ { "feature": "odrv-switch", "isNot": [true] },
+        { "feature": "odrv-type", "is": ["heavy"] } ], "limit": ["odrv-type"], "reason": 60000 })");
+    const std::string_view plain = R"("kind": "boolean", "default": false)";
+    for (const bool device : {false, true}) {
+        if (device)
+            text.replace(text.find(plain), plain.size(),
+                         std::string(plain) + R"(, "flags": ["device"])");
+        const Product product(test::Whole{text});
+        const auto proposal =
+            product.model->ProposeChange(kType, o7::FeatureValue(ValueId(kHeavy)));
+        ASSERT_EQ(proposal.conflicts.size(), 1U);
+        bool switches = false;
+        for (const auto& alternative : proposal.alternatives) {
+            for (const auto& change : alternative.changes)
+                switches = switches || change.feature == FeatureIdWithContext(kSwitch);
+        }
+        EXPECT_EQ(switches, !device);
+    }
+}
+
 } // namespace

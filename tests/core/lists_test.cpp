@@ -1,5 +1,8 @@
 #include "testproduct.h"
 
+#include "constraintmkii.h"
+#include "iconstraintsintegrator.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -88,6 +91,43 @@ TEST(Lists, ARollbackBringsItemsBackAndTakesNewOnesAway)
     EXPECT_TRUE(
         pages.GetListOfFeatures(0).GetOptionFeature(test::kSides).SetValue(test::kTwoSided));
     product.model->UnregisterObserver(recorder, all, test::kSpecialPages,
+                                      DataModelIds::kObserverFeature);
+}
+
+TEST(Lists, AConstraintAddedToAnItemGoesAndComesWithIt)
+{
+    const Product product;
+    auto pages = SpecialPages(product);
+    test::Recorder recorder;
+    const SettingsInstanceId all(DataModelIds::kSettingsCurrent);
+    product.model->RegisterObserver(recorder, all, FeatureIdWithContext(),
+                                    DataModelIds::kObserverFeature);
+    auto page = pages.CreateListOfFeatures();
+    const FeatureIdWithContext sides(page.GetFeatureIdWithContextRef(), FeatureId(test::kSides));
+    const auto isLimited = [&] {
+        return !page.GetOptionFeature(test::kSides).SetValue(test::kTwoSided);
+    };
+    EXPECT_TRUE(product.model->GetConstraintsIntegrator().AddConstraint(
+        ConstraintMkII(Condition(test::kBooklet, DataModelIds::kInclude, ValSet{true}),
+                       Condition(sides, DataModelIds::kInclude, ValSet{test::kTwoSided}))));
+    auto booklet = product.All().GetBooleanFeature(test::kBooklet);
+    {
+        const auto transaction = product.model->OpenTransaction();
+        pages.DeleteAllItems();
+        booklet.SetValue(true);
+        pages.CreateListOfFeatures();
+    }
+    EXPECT_FALSE(isLimited());
+    page.GetOptionFeature(test::kSides).SetValue(test::kOneSided);
+    booklet.SetValue(true);
+    EXPECT_TRUE(isLimited());
+    pages.DeleteAllItems();
+    page = ListOfFeaturesRef();
+    recorder.bundles.clear();
+    booklet.SetValue(false);
+    EXPECT_EQ(recorder.bundles, std::vector<std::string>{"odrv-booklet value"});
+    booklet.SetValue(true);
+    product.model->UnregisterObserver(recorder, all, FeatureIdWithContext(),
                                       DataModelIds::kObserverFeature);
 }
 

@@ -115,6 +115,61 @@ TEST_F(Notifications, TransactionsNest)
     EXPECT_EQ(recorder.bundles.size(), 3U);
 }
 
+TEST_F(Notifications, AnOuterLevelAnswersForTheInnerOnes)
+{
+    Recorder recorder;
+    Watch(recorder, test::kCopies);
+    Watch(recorder, test::kMedia);
+    auto copies = product.All().GetIntegerFeature(test::kCopies);
+    {
+        // As when a popup's own list was confirmed, and then the popup is cancelled.
+        const auto outer = product.model->OpenTransaction();
+        auto inner = product.model->OpenTransaction();
+        copies.SetValue(3);
+        inner->Close(true);
+    }
+    EXPECT_EQ(product.Number(test::kCopies), 1);
+    EXPECT_EQ(recorder.bundles, (Bundles{"odrv-copies value", "odrv-copies value"}));
+
+    recorder.bundles.clear();
+    auto outer = product.model->OpenTransaction();
+    auto inner = product.model->OpenTransaction();
+    copies.SetValue(4);
+    outer->Close(true);
+    EXPECT_EQ(recorder.bundles, Bundles{"odrv-copies value"}) << "what was open inside is told";
+    EXPECT_FALSE(inner->IsOpen());
+
+    recorder.bundles.clear();
+    outer = product.model->OpenTransaction();
+    copies.SetValue(5);
+    inner = product.model->OpenTransaction();
+    copies.SetValue(6);
+    inner->Close(true);
+    product.Set(test::kMedia, test::kFilm);
+    copies.SetValue(7);
+    outer->Close(true);
+    EXPECT_EQ(recorder.bundles,
+              (Bundles{"odrv-copies value", "odrv-copies value, odrv-media value"}))
+        << "once in each level";
+}
+
+TEST_F(Notifications, CancelEndsWhatIsOpen)
+{
+    product.Set(test::kMedia, test::kFilm);
+    product.model->CommitAccepted();
+    auto outer = product.model->OpenTransaction();
+    product.Set(test::kMedia, test::kPlain);
+    auto inner = product.model->OpenTransaction();
+    product.Set(test::kSides, test::kOneSided);
+    product.All().GetIntegerFeature(test::kCopies).SetValue(9);
+    product.model->RevertToAccepted();
+    EXPECT_FALSE(outer->IsOpen());
+    EXPECT_FALSE(inner->Close(true));
+    EXPECT_EQ(product.Get(test::kMedia), test::kFilm);
+    EXPECT_EQ(product.Number(test::kCopies), 1);
+    EXPECT_FALSE(product.model->IsModified());
+}
+
 TEST_F(Notifications, ClosingAnOuterLevelClosesTheInnerOnes)
 {
     auto outer = product.model->OpenTransaction();
