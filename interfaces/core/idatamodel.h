@@ -71,9 +71,9 @@ public:
 
     /// The inverse: all settings of the scope become what the block says, the others of the scope
     /// their defaults, and the result becomes the accepted settings. A block that is damaged in any
-    /// way, or of another product, is refused whole, and so is any while a transaction is open: false,
-    /// and nothing changed. What does not fit this product (an unknown feature or value, one of
-    /// another kind, items beyond what a list takes) is passed over, and the rest is kept.
+    /// way, or of another product, is refused whole, and so is any while a transaction is open:
+    /// false, and nothing changed. What does not fit this product (an unknown feature or value, one
+    /// of another kind, items beyond what a list takes) is passed over, and the rest is kept.
     virtual bool ImportSettings(const std::uint8_t* bytes, std::size_t size,
                                 o7::SettingsScope scope = o7::SettingsScope::All) = 0;
 
