@@ -583,6 +583,18 @@ double milliseconds(int rounds, const std::function<void(int)>& act)
     return shortest;
 }
 
+/// What this thread has had of the processor; what others take of it does not count.
+double processorMilliseconds()
+{
+    constexpr double kUnitsPerMillisecond = 10'000;
+    FILETIME times[4] = {};
+    ::GetThreadTimes(::GetCurrentThread(), &times[0], &times[1], &times[2], &times[3]);
+    const auto units = [](const FILETIME& time) {
+        return time.dwHighDateTime * 4294967296.0 + time.dwLowDateTime;
+    };
+    return (units(times[2]) + units(times[3])) / kUnitsPerMillisecond;
+}
+
 TEST_F(UIListView, TwentyThousandRowsAreSelectedAndChangedAtOnce)
 {
     constexpr int kCount = 20'000;
@@ -590,12 +602,15 @@ TEST_F(UIListView, TwentyThousandRowsAreSelectedAndChangedAtOnce)
     m_list->setRows(manyRows(kCount));
     std::vector<int> all(kCount);
     std::iota(all.begin(), all.end(), 0);
-    double shortest = 1e9;
-    for (int round = 0; round < 5; ++round) {
+    constexpr int kRounds = 5;
+    double taken = 0;
+    for (int round = 0; round < kRounds; ++round) {
         m_list->selectRows({});
-        shortest = std::min(shortest, milliseconds(1, [&](int) { m_list->selectRows(all); }));
+        const double before = processorMilliseconds();
+        m_list->selectRows(all);
+        taken += processorMilliseconds() - before;
     }
-    EXPECT_LE(shortest, 50);
+    EXPECT_LE(taken / kRounds, 50);
     EXPECT_EQ(all, m_list->getSelectedRows());
     const std::pair<const char*, std::function<void(int)>> changes[] = {
         {"unavailable", [&](int n) { m_list->setRowUnavailable(5, n % 2 == 0); }},
