@@ -234,7 +234,7 @@ TEST_F(Tables, EveryPageIsWhole)
             }
         }
     }
-    EXPECT_EQ(roots, 18);
+    EXPECT_EQ(roots, 20);
     const PaperSizeMenuMetricData sizes;
     for (const auto& section : sizes.getSections())
         usePlain(section->getTitle());
