@@ -15,5 +15,6 @@ public:
     /// The system directory, without a separator at its end (GetSystemDirectoryW).
     static CXString SystemDirectory();
     /// Loads a library of the system from the system directory and nowhere else; test the result.
+    static SystemLibrary LoadSystemLibrary(const wchar_t* fileName) noexcept;
     static SystemLibrary LoadSystemLibrary(const CXString& fileName) noexcept;
 };

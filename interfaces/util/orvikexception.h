@@ -57,7 +57,8 @@ public:
     /// display hook. `procedureName` is the function that caught it, `source` the module that
     /// reports; `source` is the title. While one is shown on a thread, further ones of that thread
     /// go to the diagnostic output alone, so that a failing paint cannot pile up boxes.
-    /// Never fails.
+    /// Never fails: when there is no memory for the text, the box says that, and the hook gets
+    /// empty texts.
     O7UTIL_API static void DisplayExceptionMessage(const std::exception& exception,
                                                    const wchar_t* procedureName,
                                                    const wchar_t* source) noexcept;

@@ -12,8 +12,9 @@ struct HINSTANCE__;
 class O7UTIL_API SystemLibrary
 {
 public:
-    /// `fileName` is a bare name ("uxtheme.dll"); one with a path is refused.
-    explicit SystemLibrary(const CXString& fileName) noexcept;
+    /// `fileName` is a bare name ("uxtheme.dll"); one with a path is refused. Allocates nothing.
+    explicit SystemLibrary(const wchar_t* fileName) noexcept;
+    explicit SystemLibrary(const CXString& fileName) noexcept : SystemLibrary(fileName.c_str()) {}
     ~SystemLibrary();
     SystemLibrary(SystemLibrary&& other) noexcept;
     SystemLibrary& operator=(SystemLibrary&& other) noexcept;

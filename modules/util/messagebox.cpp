@@ -3,6 +3,8 @@
 #if defined(_WIN32)
 #include <windows.h>
 #else
+#include "cxstring.h"
+
 #include <cstdio>
 #endif
 
@@ -10,16 +12,16 @@ namespace o7 {
 
 #if defined(_WIN32)
 
-void showErrorBox(const CXString& title, const CXString& text)
+void showErrorBox(const wchar_t* title, const wchar_t* text)
 {
-    MessageBoxW(GetActiveWindow(), text.c_str(), title.c_str(), MB_OK | MB_ICONERROR);
+    MessageBoxW(GetActiveWindow(), text, title, MB_OK | MB_ICONERROR);
 }
 
 #else
 
-void showErrorBox(const CXString& title, const CXString& text)
+void showErrorBox(const wchar_t* title, const wchar_t* text)
 {
-    const std::string line = (title + L": " + text + L"\n").ToUtf8();
+    const std::string line = (CXString(title) + L": " + text + L"\n").ToUtf8();
     std::fwrite(line.data(), 1, line.size(), stderr);
 }
 

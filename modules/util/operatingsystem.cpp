@@ -22,6 +22,11 @@ CXString OperatingSystem::SystemDirectory()
     return directory;
 }
 
+SystemLibrary OperatingSystem::LoadSystemLibrary(const wchar_t* fileName) noexcept
+{
+    return SystemLibrary(fileName);
+}
+
 SystemLibrary OperatingSystem::LoadSystemLibrary(const CXString& fileName) noexcept
 {
     return SystemLibrary(fileName);

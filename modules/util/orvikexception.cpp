@@ -71,7 +71,10 @@ CXString describe(const std::exception& exception)
     return text;
 }
 
-void show(const CXString& what, const wchar_t* procedureName, const wchar_t* source)
+constexpr wchar_t kNoMemory[] = L"There is not enough memory left.";
+
+ExceptionDisplay displayOf(const CXString& what, const wchar_t* procedureName,
+                           const wchar_t* source)
 {
     ExceptionDisplay display;
     display.title = textOf(source).IsEmpty() ? CXString(L"o7utilQK") : textOf(source);
@@ -80,16 +83,39 @@ void show(const CXString& what, const wchar_t* procedureName, const wchar_t* sou
         display.text += CXString::Formatted(L"\nCaught in %s", procedureName);
     }
     o7::trace(display.title + L": " + display.text);
+    return display;
+}
 
+/// @param display  empty when there was no memory for it: what is shown then needs none.
+void show(const ExceptionDisplay& display, const wchar_t* source) noexcept
+{
     const ShowingScope scope;
     if (!scope.isFirst()) {
         return;
     }
-    if (const OrvikException::DisplayHook hook = g_displayHook.load(); hook != nullptr) {
-        hook(display);
-    } else {
-        o7::showErrorBox(display.title, display.text);
+    try {
+        if (const OrvikException::DisplayHook hook = g_displayHook.load(); hook != nullptr) {
+            hook(display);
+        } else if (display.text.IsEmpty()) {
+            o7::showErrorBox(source != nullptr ? source : L"", kNoMemory);
+        } else {
+            o7::showErrorBox(display.title.c_str(), display.text.c_str());
+        }
+    } catch (...) {
+        o7::trace(CXString());
     }
+}
+
+template <class Describe>
+void showWhat(Describe describeIt, const wchar_t* procedureName, const wchar_t* source) noexcept
+{
+    ExceptionDisplay display;
+    try {
+        display = displayOf(describeIt(), procedureName, source);
+    } catch (...) {
+        o7::trace(CXString());
+    }
+    show(display, source);
 }
 
 } // namespace
@@ -117,21 +143,13 @@ void OrvikException::DisplayExceptionMessage(const std::exception& exception,
                                              const wchar_t* procedureName,
                                              const wchar_t* source) noexcept
 {
-    try {
-        show(describe(exception), procedureName, source);
-    } catch (...) {
-        o7::trace(CXString());
-    }
+    showWhat([&] { return describe(exception); }, procedureName, source);
 }
 
 void OrvikException::DisplayUnknownExceptionMessage(const wchar_t* procedureName,
                                                     const wchar_t* source) noexcept
 {
-    try {
-        show(L"An unknown error occurred.", procedureName, source);
-    } catch (...) {
-        o7::trace(CXString());
-    }
+    showWhat([] { return CXString(L"An unknown error occurred."); }, procedureName, source);
 }
 
 OrvikException::DisplayHook OrvikException::SetDisplayHook(DisplayHook hook) noexcept

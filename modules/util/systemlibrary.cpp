@@ -1,15 +1,16 @@
 #include "systemlibrary.h"
 
+#include <cwchar>
 #include <utility>
 
 #include <windows.h>
 
-SystemLibrary::SystemLibrary(const CXString& fileName) noexcept
+SystemLibrary::SystemLibrary(const wchar_t* fileName) noexcept
 {
     const bool bareName =
-        !fileName.IsEmpty() && fileName.View().find_first_of(L"\\/:") == std::wstring_view::npos;
+        fileName != nullptr && *fileName != L'\0' && std::wcspbrk(fileName, L"\\/:") == nullptr;
     if (bareName) {
-        m_module = LoadLibraryExW(fileName.c_str(), nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+        m_module = LoadLibraryExW(fileName, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
     }
 }
 
