@@ -8,13 +8,19 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "dlldelayloader.h"
 #include "documentsettings.h"
 #include "driverentries.h"
+#include "eventid.h"
+#include "idatamodel.h"
 #include "printerddi.h"
+#include "printerstandin.h"
 #include "resourceguard.h"
 
 namespace o7 {
@@ -180,18 +186,26 @@ protected:
     {
         s_button = button;
         s_pages = 0;
+        show(entryName, header, pressWhenShown);
+        return s_pages > 0;
+    }
+
+    /// @param meanwhile  called again and again while the sheet is open.
+    /// @return the sheet's result.
+    DWORD show(const char* entryName, void* header, TIMERPROC meanwhile)
+    {
         using CommonSheet = LONG WINAPI(HWND, PFNPROPSHEETUI, LPARAM, LPDWORD);
         const HMODULE system =
             LoadLibraryExW(L"compstui.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-        auto* const show = reinterpret_cast<CommonSheet*>(
+        auto* const sheet = reinterpret_cast<CommonSheet*>(
             reinterpret_cast<void*>(GetProcAddress(system, "CommonPropertySheetUIW")));
-        const UINT_PTR timer = SetTimer(nullptr, 0, 50, pressWhenShown);
+        const UINT_PTR timer = SetTimer(nullptr, 0, 50, meanwhile);
         DWORD result = 0;
-        show(nullptr, entry<decltype(DrvDocumentPropertySheets)>(entryName),
-             reinterpret_cast<LPARAM>(header), &result);
+        sheet(nullptr, entry<decltype(DrvDocumentPropertySheets)>(entryName),
+              reinterpret_cast<LPARAM>(header), &result);
         KillTimer(nullptr, timer);
         FreeLibrary(system);
-        return s_pages > 0;
+        return result;
     }
 
 private:
@@ -250,6 +264,151 @@ TEST_F(DriverSheets, LeaveNothingInTheProcess)
         EXPECT_GT(document(DM_OUT_BUFFER), 0);
         m_header.fMode = kShowSheet;
         EXPECT_TRUE(openAndPress("DrvDocumentPropertySheets", &m_header, button));
+    }
+}
+
+/// A sheet whose model the test can reach, because it stands for the printer.
+class Storing : public DriverSheets, private PrinterStandIn, private IObserver
+{
+protected:
+    /// Of this the public fields say nothing.
+    static constexpr auto kTonerSaving = static_cast<DataModelIds::tagFeatureEnum>(3011);
+
+    void SetUp() override
+    {
+        DriverSheets::SetUp();
+        const auto library = LoadLibraryExW((folderOfThisModule() + L"\\o7plimQK.dll").c_str(),
+                                            nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
+        m_setStandIn = reinterpret_cast<decltype(&O7SetPrinterStandIn)>(
+            reinterpret_cast<void*>(GetProcAddress(library, "O7SetPrinterStandIn")));
+        ASSERT_NE(m_setStandIn, nullptr);
+        m_setStandIn(this);
+        s_self = this;
+    }
+    void TearDown() override
+    {
+        m_setStandIn(nullptr);
+        DriverSheets::TearDown();
+    }
+
+    /// Opens the sheet, presses the button and, should the sheet stay, Cancel.
+    DWORD openAndDo(const char* entryName, void* header, WPARAM button)
+    {
+        m_button = button;
+        m_presses = 0;
+        const DWORD result = show(entryName, header, [](HWND, UINT, UINT_PTR, DWORD) {
+            EnumThreadWindows(GetCurrentThreadId(), step, 0);
+        });
+        EXPECT_GT(m_presses, 0);
+        return result;
+    }
+
+    std::function<void(IDataModel&)> m_atOpen; ///< before the button is pressed
+    std::function<void(IDataModel&)> m_atOk;   ///< as an observer of OK and Apply
+    int m_stores = 0;
+
+private:
+    const wchar_t* package() const override { return m_package.c_str(); }
+    const wchar_t* language() const override { return L"en"; }
+    void loadDeviceSettings(IDataModel& model) override { m_model = &model; }
+    bool storeDeviceSettings(const IDataModel& model) override
+    {
+        EXPECT_FALSE(model.IsModified()) << "not accepted yet";
+        ++m_stores;
+        return true;
+    }
+    void pagesAdded(UIManager&) override
+    {
+        // The model goes with the sheet, and forgets its observers.
+        for (const auto event : {DataModelIds::kEventOk, DataModelIds::kEventApply})
+            m_model->RegisterForEvent(*this, EventId(event), DataModelIds::kObserverEvent);
+    }
+    void ProcessNotification(const INotification&, unsigned int) override
+    {
+        if (m_atOk)
+            m_atOk(*m_model);
+    }
+
+    static BOOL CALLBACK step(HWND window, LPARAM)
+    {
+        wchar_t name[16];
+        GetClassNameW(window, name, 16);
+        if (!IsWindowVisible(window) || !IsWindowEnabled(window) ||
+            std::wstring_view(name) != L"#32770")
+            return TRUE;
+        if (SendMessageW(window, PSM_GETTABCONTROL, 0, 0) == 0)
+            PostMessageW(window, WM_COMMAND, IDOK, 0); // a message about what went wrong
+        else
+            s_self->press(window);
+        return FALSE;
+    }
+    void press(HWND sheet)
+    {
+        if (m_presses == 0 && m_atOpen)
+            m_atOpen(*m_model);
+        PostMessageW(sheet, PSM_PRESSBUTTON, m_presses == 0 ? m_button : WPARAM{PSBTN_CANCEL}, 0);
+        ++m_presses;
+    }
+
+    static inline Storing* s_self = nullptr;
+    decltype(&O7SetPrinterStandIn) m_setStandIn = nullptr;
+    std::wstring m_package = folderOfThisModule() + L"\\products\\office-c430";
+    IDataModel* m_model = nullptr;
+    WPARAM m_button = 0;
+    int m_presses = 0;
+};
+
+TEST_F(Storing, KeepsEverythingThatWasAcceptedAndNothingElse)
+{
+    const auto change = [](IDataModel& model) {
+        EXPECT_TRUE(model.GetFullListOfFeatures().GetBooleanFeature(kTonerSaving).SetValue(true));
+    };
+    const auto reject = [](IDataModel& model) {
+        model.GetOptionFeatureRef(DataModelIds::kFeatureApplyResult)
+            .SetValue(DataModelIds::kValueApplyRejected);
+    };
+    const auto fail = [](IDataModel&) { throw std::runtime_error("observer"); };
+    const struct
+    {
+        const char* what;
+        WPARAM button;
+        std::function<void(IDataModel&)> atOpen;
+        std::function<void(IDataModel&)> atOk;
+        bool kept;
+    } rows[] = {
+        {"OK", PSBTN_OK, change, nullptr, true},
+        {"Apply, then Cancel", PSBTN_APPLYNOW, change, nullptr, true},
+        {"Cancel", PSBTN_CANCEL, change, nullptr, false},
+        {"what an observer of OK writes", PSBTN_OK, nullptr, change, true},
+        {"rejected", PSBTN_OK, change, reject, false},
+        {"an observer of OK throws", PSBTN_OK, change, fail, false},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        ASSERT_GT(document(DM_OUT_BUFFER), 0);
+        const std::vector<std::uint8_t> before = m_buffer;
+        m_header.fMode = kShowSheet;
+        m_atOpen = row.atOpen;
+        m_atOk = row.atOk;
+        const DWORD result = openAndDo("DrvDocumentPropertySheets", &m_header, row.button);
+        EXPECT_EQ(result, static_cast<DWORD>(row.kept ? CPSUI_OK : CPSUI_CANCEL));
+        EXPECT_EQ(m_buffer != before, row.kept);
+        bool reopened = false;
+        m_atOpen = [&](IDataModel& model) {
+            model.GetFullListOfFeatures()
+                .GetBooleanFeature(kTonerSaving)
+                .GetValue(reopened, FeatureRef::kAssertIfUnsupported);
+        };
+        m_atOk = nullptr;
+        openAndDo("DrvDocumentPropertySheets", &m_header, PSBTN_CANCEL);
+        EXPECT_EQ(reopened, row.kept);
+
+        m_stores = 0;
+        m_atOpen = nullptr;
+        m_atOk = row.atOk;
+        DevicePropertyHeader device{sizeof device, 0, nullptr, m_printerName};
+        openAndDo("DrvDevicePropertySheets", &device, row.button);
+        EXPECT_EQ(m_stores, row.kept ? 1 : 0);
     }
 }
 
