@@ -439,4 +439,5 @@
 
 // Messages of the sheet when it is applied
 #define O7STR_M_VALUE_MISSING 34250 // "“%s” has no value yet. Enter or choose one..."
+#define O7STR_M_NOT_SHOWN 34260 // "These settings cannot be shown at the moment: %s..."
 // clang-format on

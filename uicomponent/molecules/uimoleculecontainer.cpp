@@ -3,15 +3,25 @@
 #include <algorithm>
 
 #include "iuicontainercompanion.h"
+#include "productstringloader.h"
 #include "textmeasure.h"
 #include "trace.h"
 #include "uicontainer.h"
 #include "uilayoutmanager.h"
 #include "uimolecule.h"
 #include "uiservices.h"
+#include "uistringnumbers.h"
 #include "uitextruler.h"
 #include "uitooltips.h"
 #include "uiwholetexttips.h"
+#include "windowtext.h"
+
+namespace {
+
+// Posted to the own window once the controls are there, or are not.
+constexpr UINT kTellMissing = WM_APP + 11;
+
+} // namespace
 
 UIMoleculeContainer::UIMoleculeContainer(FeatureServices& featureServices,
                                          const ProductStringLoader& strings, UIServices& services,
@@ -34,6 +44,7 @@ void UIMoleculeContainer::buildFrom(const UIContainerData& data, long extraHeigh
     m_wanted.clear();
     m_wanted.add(WM_MOUSEMOVE);
     m_wanted.add(WM_SETCURSOR);
+    m_wanted.add(kTellMissing);
     for (const UIMolecule* molecule : m_molecules)
         molecule->CollectWantedMessages(m_wanted);
 }
@@ -88,16 +99,32 @@ bool UIMoleculeContainer::fitTexts() const
 
 void UIMoleculeContainer::createControls()
 {
+    m_missing.Empty();
     makeBoldFont();
     for (UIMolecule* molecule : m_molecules) {
         molecule->SetToolTips(m_toolTips.get());
         const int firstId = m_page.nextId;
         molecule->CreateControls(m_page);
         molecule->SetControlIds(firstId, m_page.nextId);
-        if (molecule->LacksControl())
-            o7::trace(CXString::Formatted(L"the control of %s could not be created",
-                                          molecule->GetDumpDisplayString(false).c_str()));
+        if (!molecule->LacksControl())
+            continue;
+        o7::trace(CXString::Formatted(L"the control of %s could not be created",
+                                      molecule->GetDumpDisplayString(false).c_str()));
+        if (!m_missing.IsEmpty())
+            m_missing += getStrings().LoadStringW(O7STR_S_SEPARATOR);
+        m_missing += getStrings().GetStringForFeature(molecule->GetBoundFeature().GetFeatureEnum());
     }
+    if (!m_missing.IsEmpty())
+        PostMessageW(m_page.window, kTellMissing, 0, 0);
+}
+
+/// A gap in the page would look as if there were no such setting.
+void UIMoleculeContainer::tellMissing() const
+{
+    const CXString text =
+        CXString::Formatted(getStrings().LoadStringW(O7STR_M_NOT_SHOWN).c_str(), m_missing.c_str());
+    const HWND window = GetAncestor(m_page.window, GA_ROOT);
+    getServices().showMessage(window, text, o7::windowText(window), MB_ICONWARNING);
 }
 
 void UIMoleculeContainer::connectAll()
@@ -171,6 +198,10 @@ bool UIMoleculeContainer::offerToMolecules(const _UIWindowsMessage& message) con
 {
     if (!m_wanted.wants(message.message))
         return false;
+    if (message.message == kTellMissing && message.window == m_page.window) {
+        tellMissing();
+        return true;
+    }
     if (message.message == WM_MOUSEMOVE || message.message == WM_SETCURSOR) {
         if (m_toolTips) // over a disabled control the mouse belongs to the page
             m_toolTips->relayMouse(message);

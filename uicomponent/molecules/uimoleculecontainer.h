@@ -5,6 +5,7 @@
 #include <memory>
 #include <vector>
 
+#include "cxstring.h"
 #include "uihandles.h"
 #include "uimessagemask.h"
 #include "uimoleculesite.h"
@@ -85,6 +86,7 @@ protected:
 private:
     bool fitTexts() const;
     void createControls();
+    void tellMissing() const;
     void makeBoldFont();
 
     UIValueWriter m_valueWriter;
@@ -99,4 +101,5 @@ private:
     bool m_connected = false;
     IUIContainerCompanion* m_companion = nullptr;
     UIMessageMask m_wanted;
+    CXString m_missing; ///< names of the settings whose control could not be created
 };
