@@ -15,6 +15,13 @@ public:
     /// False when the program does not import the function.
     bool isInPlace() const { return m_slot != nullptr; }
 
+    /// The function that was there before, for a replacement that calls it; null when the patch is
+    /// not in place.
+    template <class Function> Function originalAs() const
+    {
+        return reinterpret_cast<Function>(m_original);
+    }
+
 private:
     void** m_slot;
     void* m_original = nullptr;

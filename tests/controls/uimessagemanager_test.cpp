@@ -89,13 +89,30 @@ TEST(UIMessageManager, AsksInOrderUpToTheFirstClaim)
     }
 }
 
+TEST(UIMessageManager, OnlyWhoStandsThereIsTakenOff)
+{
+    std::string log;
+    Handler first(log, 'a', false);
+    Handler second(log, 'b', false);
+    UIMessageManager manager;
+    manager.remove(UIMessageKind::Dialog, first);
+    for (Handler* handler : {&first, &second, &first})
+        manager.append(UIMessageKind::Dialog, *handler);
+    manager.remove(UIMessageKind::TabPage, first);
+    manager.remove(UIMessageKind::Dialog, first);
+    using List = UIMessageManager::HandlerList;
+    EXPECT_EQ(manager.handlers(UIMessageKind::Dialog), (List{&first, &second}));
+    manager.remove(UIMessageKind::Dialog, first);
+    manager.remove(UIMessageKind::Dialog, first);
+    EXPECT_EQ(manager.handlers(UIMessageKind::Dialog), List{&second});
+}
+
 TEST(UIMessageManager, HandlersMayChangeTheListWhileTheyAreAsked)
 {
     std::string log;
     Handler opener(log, 'a', false);
     Handler popup(log, 'P', true);
     UIMessageManager manager;
-    manager.removeLast(UIMessageKind::Dialog); // an empty list stays empty
     manager.append(UIMessageKind::Dialog, opener);
     opener.whenAsked = [&] { manager.append(UIMessageKind::Dialog, popup); };
 
@@ -104,7 +121,7 @@ TEST(UIMessageManager, HandlersMayChangeTheListWhileTheyAreAsked)
     EXPECT_EQ(1, manager.handleMessage(message));
     EXPECT_EQ("aP", log);
 
-    opener.whenAsked = [&] { manager.removeLast(UIMessageKind::Dialog); };
+    opener.whenAsked = [&] { manager.remove(UIMessageKind::Dialog, popup); };
     EXPECT_EQ(0, manager.handleMessage(message));
 }
 

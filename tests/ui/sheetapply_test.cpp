@@ -6,19 +6,11 @@
 #include <prsht.h>
 
 #include "booleanfeatureref.h"
-#include "eventid.h"
-#include "eventnotification.h"
-#include "idledriver.h"
-#include "iobserver.h"
-#include "notificationbundle.h"
-#include "orvikexception.h"
 #include "sheetrig.h"
-#include "tables/tablerows.h"
+#include "sheetsteps.h"
 #include "uidata.h"
 #include "uifixture.h"
 #include "uimessagemanager.h"
-#include "uirecords.h"
-#include "uistringnumbers.h"
 #include "uitabmanager.h"
 #include "watchedservices.h"
 #include "windowtext.h"
@@ -27,104 +19,17 @@ namespace o7::test {
 
 namespace {
 
-template <tagFeatureEnum feature, std::uint32_t label>
-constexpr UIControlRecord kCheck[] = {{UIControlKind::Check, feature, label}};
-constexpr UIMoleculeRecord kChecks[] = {
-    {UIMoleculeKind::CheckBox, kCheck<kTonerSaving, O7STR_L_TONER_SAVING>},
-    {UIMoleculeKind::CheckBox, kCheck<kCollate, O7STR_L_COLLATE>},
-};
-constexpr UIColumnRecord kColumns[] = {{7, 200, 0, kChecks}};
 // Too low for its content, so it is described but not shown.
-constexpr UIContainerRecord kLowPage = {99, O7STR_TAB_LAYOUT, 220, 12, kColumns};
-// The fields of this one can refuse what is typed.
-constexpr UIMoleculeRecord kFields[] = {spin<kCopies, O7STR_L_COPIES>(),
-                                        check<kCollate, O7STR_L_COLLATE>()};
-constexpr UIColumnRecord kFieldColumns[] = {{7, 200, 0, kFields}};
-constexpr UIContainerRecord kFieldPage = {2, O7STR_TAB_LAYOUT, 220, 90, kFieldColumns};
-constexpr int kFieldPageIndex = 1;
-
-constexpr UIContainerRecord page(std::uint32_t id)
-{
-    return {id, O7STR_TAB_PAPER, 220, 60, kColumns};
-}
-constexpr UIContainerRecord kThreePages[] = {page(1), kLowPage, kFieldPage, page(3)};
+constexpr UIContainerRecord kLowPage = {99, O7STR_TAB_LAYOUT, 220, 12, kCheckColumns};
+constexpr UIContainerRecord kThreePages[] = {checkPage(1), kLowPage, kFieldPage, checkPage(3)};
 constexpr UIContainerRecord kSixteenPages[] = {
-    page(1), page(2),  page(3),  page(4),  page(5),  page(6),  page(7),  page(8),
-    page(9), page(10), page(11), page(12), page(13), page(14), page(15), page(16)};
+    checkPage(1),  checkPage(2),  checkPage(3),  checkPage(4),  checkPage(5),  checkPage(6),
+    checkPage(7),  checkPage(8),  checkPage(9),  checkPage(10), checkPage(11), checkPage(12),
+    checkPage(13), checkPage(14), checkPage(15), checkPage(16)};
 constexpr UIRootRecord kThree = {DataModelIds::kValueFamily8430, UIMode::PrintingPreferences, 0,
                                  kThreePages};
 constexpr UIRootRecord kSixteen = {DataModelIds::kValueFamily8430, UIMode::PrintingPreferences, 0,
                                    kSixteenPages};
-
-/// Counts the events that the model hands on.
-class EventCounter : public IObserver
-{
-public:
-    EventCounter(FeatureServices& services, std::initializer_list<DataModelIds::EventEnum> events)
-        : m_services(services), m_events(events)
-    {
-        for (const auto event : m_events)
-            services.RegisterForEvent(*this, EventId(event), DataModelIds::kObserverEvent);
-    }
-    ~EventCounter() override
-    {
-        for (const auto event : m_events)
-            m_services.UnregisterForEvent(*this, EventId(event), DataModelIds::kObserverEvent);
-    }
-    void ProcessNotification(const INotification& notification, unsigned int) override
-    {
-        const auto& bundle = dynamic_cast<const NotificationBundle&>(notification);
-        for (auto iterator = bundle.GetIterator(); iterator.MoreNotifications();)
-            seen.push_back(dynamic_cast<const EventNotification&>(iterator.GetNext())
-                               .GetEventId()
-                               .GetEventEnum());
-    }
-
-    std::vector<int> seen;
-
-private:
-    FeatureServices& m_services;
-    std::vector<DataModelIds::EventEnum> m_events;
-};
-
-IdleDriver::Step show(int index)
-{
-    return [index](HWND sheet) {
-        return sheet && SendMessageW(sheet, PSM_SETCURSEL, static_cast<WPARAM>(index), 0) &&
-               IsWindowVisible(currentPage(sheet));
-    };
-}
-
-IdleDriver::Step press(int button)
-{
-    return [button](HWND sheet) {
-        if (sheet)
-            PostMessageW(sheet, PSM_PRESSBUTTON, static_cast<WPARAM>(button), 0);
-        return sheet != nullptr;
-    };
-}
-
-constexpr wchar_t kCopiesLabel[] = L"Copies:";
-
-/// Replaces what stands in the box of the copies.
-IdleDriver::Step type(const wchar_t* text)
-{
-    return [=](HWND sheet) {
-        const HWND field = sheet ? findListBehind(sheet, kCopiesLabel) : nullptr;
-        if (!field)
-            return false;
-        SetFocus(field);
-        SendMessageW(field, EM_SETSEL, 0, -1);
-        SendMessageW(field, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(text));
-        return true;
-    };
-}
-
-std::string s_shownText;
-void rememberShown(const ExceptionDisplay& display)
-{
-    s_shownText = display.text.ToUtf8();
-}
 
 /// The list of a model in which one feature is required and has no value.
 class LackingList : public WatchedNode
@@ -393,13 +298,17 @@ TEST_F(SheetApplyTest, TheWarningKeepsTheSheetOpenEachTime)
     SheetRig rig(session().productData(), model(), session().strings(), data);
     setOption(DataModelIds::kFeatureApplyResult, DataModelIds::kValueApplyRejected);
     const CXString text = session().strings().LoadStringW(35001);
+    const CXString advice = session().strings().LoadStringW(35002);
+    ASSERT_FALSE(text.IsEmpty() || advice.IsEmpty());
     HWND first = nullptr;
     int warnings = 0;
     const auto acceptWarning = [&](HWND box) {
         if (!box || box == first)
             return false;
         const HWND message = GetDlgItem(box, 0xFFFF);
-        warnings += o7::windowText(message).Find(text) >= 0 ? 1 : 0;
+        const CXString shown = o7::windowText(message);
+        warnings += shown.Find(text) >= 0 && shown.Find(advice) > shown.Find(text) ? 1 : 0;
+        EXPECT_EQ(o7::windowText(box), session().strings().LoadStringW(35000));
         PostMessageW(box, WM_COMMAND, IDOK, 0);
         return true;
     };
@@ -434,25 +343,20 @@ TEST_F(SheetApplyTest, AThrowingCollaboratorIsShownAndTheSheetLivesOn)
     SheetRig rig(session().productData(), model(), session().strings(), data);
     Thrower thrower;
     rig.messages().append(UIMessageKind::TabPage, thrower); // asked before the tabs
-    const auto former = OrvikException::SetDisplayHook(&rememberShown);
-    s_shownText.clear();
+    const ShownErrors shown;
     const bool before = boolean(kCollate);
-    const auto clickCollate = [](HWND sheet) {
-        const HWND box = findControl(sheet, L"BUTTON", L"Collate copies");
-        if (box)
-            SendMessageW(box, BM_CLICK, 0, 0);
-        return box != nullptr;
-    };
+    const auto clickCollate = clickOn(L"Collate copies");
     run(rig, {clickCollate,
               [&](HWND) {
                   EXPECT_EQ(boolean(kCollate), before);
                   return true;
               },
               clickCollate, press(PSBTN_OK)});
-    OrvikException::SetDisplayHook(former);
     EXPECT_TRUE(thrower.thrown);
-    EXPECT_NE(s_shownText.find("the collaborator failed"), std::string::npos) << s_shownText;
-    EXPECT_NE(s_shownText.find("CPSUIDialogProcedure"), std::string::npos) << s_shownText;
+    EXPECT_NE(ShownErrors::text().find("the collaborator failed"), std::string::npos)
+        << ShownErrors::text();
+    EXPECT_NE(ShownErrors::text().find("CPSUIDialogProcedure"), std::string::npos)
+        << ShownErrors::text();
 }
 
 } // namespace o7::test

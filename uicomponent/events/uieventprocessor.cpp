@@ -18,6 +18,12 @@ void UIEventProcessor::incrementVisitedTabCount()
     ++m_visitedTabCount;
 }
 
+void UIEventProcessor::decrementVisitedTabCount(bool hasAnswered)
+{
+    --m_visitedTabCount;
+    m_notificationCount -= hasAnswered ? 1 : 0;
+}
+
 void UIEventProcessor::resetNotificationCount()
 {
     m_notificationCount = 0;

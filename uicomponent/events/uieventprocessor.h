@@ -27,6 +27,9 @@ public:
 
     /// One more page has got its window.
     void incrementVisitedTabCount();
+    /// A page has lost its window. @param hasAnswered  its Apply is among those that are counted.
+    void decrementVisitedTabCount(bool hasAnswered);
+    /// A new round begins: the Apply of no page has been counted.
     void resetNotificationCount();
     /// Counts one page's Apply.
     /// @return true exactly when the new count is a multiple of the number of visited pages; false

@@ -18,16 +18,18 @@ namespace {
 class DialogRegistration
 {
 public:
-    DialogRegistration(UIMessageManager& manager, UIMessageHandler& handler) : m_manager(manager)
+    DialogRegistration(UIMessageManager& manager, UIMessageHandler& handler)
+        : m_manager(manager), m_handler(handler)
     {
         m_manager.append(UIMessageKind::Dialog, handler);
     }
-    ~DialogRegistration() { m_manager.removeLast(UIMessageKind::Dialog); }
+    ~DialogRegistration() { m_manager.remove(UIMessageKind::Dialog, m_handler); }
     DialogRegistration(const DialogRegistration&) = delete;
     DialogRegistration& operator=(const DialogRegistration&) = delete;
 
 private:
     UIMessageManager& m_manager;
+    UIMessageHandler& m_handler;
 };
 
 } // namespace

@@ -22,7 +22,7 @@ UIApplyButton::UIApplyButton(FeatureServices& featureServices,
 
 UIApplyButton::~UIApplyButton()
 {
-    if (m_page)
+    if (m_isWatching)
         m_featureServices.UnregisterObserver(*this, SettingsInstanceId(kValues),
                                              FeatureIdWithContext(),
                                              DataModelIds::kObserverFeature);
@@ -32,10 +32,22 @@ void UIApplyButton::pageInitialized(HWND page)
 {
     if (m_page)
         return;
+    if (!m_isWatching)
+        m_featureServices.RegisterObserver(*this, SettingsInstanceId(kValues),
+                                           FeatureIdWithContext(), DataModelIds::kObserverFeature);
+    m_isWatching = true;
     m_page = page;
-    m_featureServices.RegisterObserver(*this, SettingsInstanceId(kValues), FeatureIdWithContext(),
-                                       DataModelIds::kObserverFeature);
     postQuestion(); // the host may have opened the pages with settings that differ already
+}
+
+void UIApplyButton::pageGoes(HWND page, HWND other)
+{
+    if (page != m_page)
+        return;
+    m_page = other;
+    m_isPosted = false; // what was posted to the page has gone with it
+    if (other)
+        postQuestion();
 }
 
 void UIApplyButton::ProcessNotification(const INotification&, unsigned int)
@@ -45,7 +57,7 @@ void UIApplyButton::ProcessNotification(const INotification&, unsigned int)
 
 void UIApplyButton::postQuestion()
 {
-    if (!m_isPosted)
+    if (!m_isPosted && m_page)
         m_isPosted = PostMessageW(m_page, kModelChanged, 0, 0) != FALSE;
 }
 

@@ -27,6 +27,9 @@ public:
 
     /// The first page that gets its window stands for all in what the sheet is told.
     void pageInitialized(HWND page);
+    /// It loses its window. @param other  an open page that can take its place; null when there is
+    /// none.
+    void pageGoes(HWND page, HWND other);
     void modelChanged();
     /// After what a person did: typed input may wait now, or no longer.
     void update();
@@ -43,6 +46,7 @@ private:
     FeatureServices& m_featureServices;
     std::function<bool()> m_hasPendingInput;
     HWND m_page = nullptr;
+    bool m_isWatching = false;
     bool m_isPosted = false;
     bool m_isModelModified = false;
     bool m_isShown = false; ///< what the sheet was told last

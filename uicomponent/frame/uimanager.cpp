@@ -2,8 +2,6 @@
 
 #include <prsht.h>
 
-#include <array>
-
 #include "cxstring.h"
 #include "executioncontextlifetime.h"
 #include "featureservices.h"
@@ -26,14 +24,15 @@
 #include "uipopuplauncher.h"
 #include "uipopupsheet.h"
 #include "uiservices.h"
+#include "uisheetpages.h"
 #include "uispecialfeaturehandler.h"
 #include "uistringnumbers.h"
 #include "uitabmanager.h"
 #include "uitvtabmanager.h"
+#include "undo.h"
 
 namespace {
 
-constexpr std::size_t kMostPages = 16;
 constexpr auto kRootGroup = static_cast<DataModelIds::tagFeatureEnum>(2);
 
 UITabManager::Descriptions listed(const UIDataList<UIContainerData>& containers)
@@ -49,23 +48,19 @@ UITabManager::Descriptions tabsOf(const UIData& data)
     return listed(data.getTabs());
 }
 
-HINSTANCE instanceOf(void* moduleHandle)
-{
-    return moduleHandle ? static_cast<HINSTANCE>(moduleHandle) : IsolationAware::moduleInstance();
-}
-
 } // namespace
 
 UIManager::UIManager(ProductData& productData, void* moduleHandle, UIMode mode,
                      unsigned long option, Workflow workflow)
-    : m_dataSource(std::make_unique<UIDataSource>(instanceOf(moduleHandle), productData)),
+    : m_dataSource(
+          std::make_unique<UIDataSource>(static_cast<HINSTANCE>(moduleHandle), productData)),
       m_finishingHandler(std::make_unique<UIFinishingHandler>()),
       m_offsetHandler(std::make_unique<UIOffsetHandler>()),
       m_colorAccessPinHandler(std::make_unique<UIColorAccessPinHandler>()),
       m_colorHandler(std::make_unique<UIColorHandler>()),
       m_mruHandler(std::make_unique<UIMRUHandler>()),
       m_specialFeatureHandler(std::make_unique<UISpecialFeatureHandler>()),
-      m_moduleInstance(instanceOf(moduleHandle)),
+      m_moduleInstance(IsolationAware::moduleInstance()),
       m_mode(mode),
       m_workflow(workflow),
       m_option(option),
@@ -179,19 +174,15 @@ bool UIManager::runAsPropertySheet(FeatureServices& featureServices, ProductStri
 
     const CXString caption = m_uiData->getCaption() ? strings.LoadStringW(m_uiData->getCaption())
                                                     : m_productData.GetModelName();
-    std::array<HPROPSHEETPAGE, kMostPages> pages{};
+    UISheetPages pages(*m_tabManager, tabsOf(*m_uiData), activationContext);
     PROPSHEETHEADERW header{};
     header.dwSize = sizeof header;
     static_assert(sizeof header == 96);
     header.dwFlags = PSH_NOAPPLYNOW;
     header.hInstance = m_moduleInstance;
     header.pszCaption = caption.c_str();
-    header.nPages = static_cast<UINT>(m_tabManager->createPagesForPropertySheet(
-        tabsOf(*m_uiData), pages.data(), pages.size(), activationContext));
-    header.phpage = pages.data();
     initializePartII(featureServices);
-    // A sheet without pages would be an empty box that answers nothing.
-    return header.nPages != 0 && IsolationAware::propertySheet(header) > 0;
+    return pages.show(header);
 }
 
 bool UIManager::runAsDialog(FeatureServices& featureServices, ProductStringLoader& strings,
@@ -211,7 +202,9 @@ void UIManager::initialize(HWND parent, FeatureServices& featureServices,
     const IsolationAware::CallerContext callerContext(activationContext);
     initializePartI(featureServices, strings, activationContext, true);
     m_tabManager->createPagesForSheetWindow(tabsOf(*m_uiData), parent, activationContext);
+    o7::Undo undo([this] { m_tabManager->takePagesBack(); });
     initializePartII(featureServices);
+    undo.keep();
 }
 
 void UIManager::addDataSources(std::vector<DataSource*>& sources) const

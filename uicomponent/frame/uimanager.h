@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "cxstring.h"
+#include "isolationaware.h"
 #include "uiapi.h"
 #include "uimode.h"
 
@@ -43,8 +44,8 @@ using UIComPropSheetCallback = LONG_PTR(CALLBACK*)(HANDLE, UINT, LPARAM, LPARAM)
 class O7UI_API UIManager
 {
 public:
-    /// @param moduleHandle   the instance whose resources hold dialog template 101; null takes this
-    ///                       module's own.
+    /// @param moduleHandle   for the builder of the description; null when the caller has none.
+    ///                       Pages and dialogs belong to this module whatever is given here.
     /// @param option         passed on to the pages.
     UIManager(ProductData& productData, void* moduleHandle, UIMode mode, unsigned long option,
               Workflow workflow);
@@ -74,7 +75,7 @@ public:
                      void* activationContext);
 
     /// Adds the pages to a property sheet that the caller owns (`PSM_ADDPAGE`).
-    /// @throws ExceptionTabCreationFailure when the sheet refuses a page.
+    /// @throws ExceptionTabCreationFailure when the sheet refuses a page; it has then got none.
     void initialize(HWND parent, FeatureServices& featureServices, ProductStringLoader& strings,
                     void* activationContext);
 
@@ -121,4 +122,5 @@ private:
     CXString m_personalSettings;
     std::unique_ptr<UIPopupSheet> m_popupSheet; ///< an addition, after the fixed order
     CXString m_printer;
+    IsolationAware::Session m_session;
 };

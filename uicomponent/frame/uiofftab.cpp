@@ -34,7 +34,14 @@ UIOffTab::UIOffTab(FeatureServices& featureServices, UIContext& context, UIServi
 
 UIOffTab::~UIOffTab()
 {
+    close();
+}
+
+void UIOffTab::close()
+{
     releaseMolecules(); // while their windows exist
+    if (m_area)
+        DestroyWindow(m_area.get()); // lets go of it with its last message
 }
 
 bool UIOffTab::build(const UIContainerData& data)
@@ -64,9 +71,11 @@ bool UIOffTab::open(HINSTANCE instance, HWND sheet, const RECT& place, HWND pred
     IsolationAware::ActivationScope scope;
     if (scope.isActive())
         m_area.reset(CreateDialogIndirectParamW(instance, areaTemplate.get(), sheet, nullptr, 0));
-    if (!m_area)
+    // Without the property our procedure would swallow every message.
+    if (!m_area || !SetPropW(m_area.get(), UIDialogProcedure::kManagerProperty, &manager)) {
+        m_area.reset();
         return false;
-    SetPropW(m_area.get(), UIDialogProcedure::kManagerProperty, &manager);
+    }
     SetWindowLongPtrW(m_area.get(), GWLP_WNDPROC,
                       reinterpret_cast<LONG_PTR>(&UIDialogProcedure::offTabDialogProcedure));
     getLayout().fillArea(unitsIn(getServices().getDialogConversion(), place.right - place.left));

@@ -31,8 +31,12 @@ public:
     /// Makes the area's window and controls. @param place  in client coordinates of the sheet;
     /// @param predecessor  the window of the sheet that stands before the area in Tab order.
     /// @return false when there is no window.
+    /// What is thrown while the controls are made leaves a window behind, for close().
     bool open(HINSTANCE instance, HWND sheet, const RECT& place, HWND predecessor,
               UIMessageManager& manager);
+
+    /// Destroys controls and window. Messages of the window have to reach the area until then.
+    void close();
 
     /// Claims every message of its own window. Of the sheet's window those that a molecule claims.
     bool handleMessage(const _UIWindowsMessage& message) override;

@@ -2,20 +2,13 @@
 
 #include <prsht.h>
 
-#include <array>
-
 #include "isolationaware.h"
 #include "productstringloader.h"
 #include "uicontainerdata.h"
 #include "uicontext.h"
 #include "uimessagemanager.h"
 #include "uipopuptabmanager.h"
-
-namespace {
-
-constexpr std::size_t kMostPages = 16;
-
-} // namespace
+#include "uisheetpages.h"
 
 UIPopupSheet::UIPopupSheet(UIServices& services, UIMessageManager& messageManager,
                            HINSTANCE moduleInstance, FeatureServices& featureServices,
@@ -42,10 +35,8 @@ bool UIPopupSheet::runPopupSheet(const std::vector<const UIContainerData*>& page
     UIPopupTabManager manager(m_services, m_messageManager, m_moduleInstance, m_featureServices,
                               m_context, m_productData, m_eventProcessor, m_mode, m_option,
                               features);
-    std::array<HPROPSHEETPAGE, kMostPages> handles{};
-    const std::size_t count = manager.createPagesForPropertySheet(
-        pages, handles.data(), handles.size(), m_activationContext);
-    if (count == 0)
+    UISheetPages sheetPages(manager, pages, m_activationContext);
+    if (sheetPages.isEmpty())
         return false;
     m_messageManager.append(UIMessageKind::TabPage, manager); // it takes itself out again
 
@@ -56,7 +47,5 @@ bool UIPopupSheet::runPopupSheet(const std::vector<const UIContainerData*>& page
     header.hwndParent = parent ? GetAncestor(parent, GA_ROOT) : nullptr;
     header.hInstance = m_moduleInstance;
     header.pszCaption = caption.c_str();
-    header.nPages = static_cast<UINT>(count);
-    header.phpage = handles.data();
-    return IsolationAware::propertySheet(header) > 0;
+    return sheetPages.show(header);
 }

@@ -4,7 +4,6 @@
 #include "uicontainerdata.h"
 #include "uicontext.h"
 #include "uidialogactiondata.h"
-#include "uisheetguide.h"
 
 UIPopupTabManager::UIPopupTabManager(UIServices& services, UIMessageManager& messageManager,
                                      HINSTANCE moduleInstance, FeatureServices& featureServices,
@@ -15,7 +14,6 @@ UIPopupTabManager::UIPopupTabManager(UIServices& services, UIMessageManager& mes
                    eventProcessor, mode, option)
 {
     workOn(features);
-    suppressCancelEvent(); // it would bring back what other pages have changed
 }
 
 std::size_t UIPopupTabManager::createPagesForPropertySheet(const Descriptions& descriptions,
@@ -28,8 +26,10 @@ std::size_t UIPopupTabManager::createPagesForPropertySheet(const Descriptions& d
 
 bool UIPopupTabManager::handlePageMessage(const _UIWindowsMessage& message)
 {
-    if (getGuide().handleMessage(message))
+    if (offerToGuide(message))
         return true;
+    if (message.message == WM_NOTIFY)
+        openAgain(message);
     if (message.message != WM_INITDIALOG)
         return offerToTabs(message);
     prepareSheet(message);

@@ -4,8 +4,8 @@
 #include "uitabmanager.h"
 
 /// The pages of a popup tab set: a sheet over the sheet, inside the popup's transaction. It counts
-/// no Apply, sends no event of its own and warns of nothing; what its OK keeps is for the sheet
-/// below to apply.
+/// no Apply, sends no event of its own (that of a Cancel would bring back what other pages have
+/// changed) and warns of nothing; what its OK keeps is for the sheet below to apply.
 class UIPopupTabManager : public UITabManager
 {
 public:

@@ -2,6 +2,8 @@
 
 #include <prsht.h>
 
+#include <algorithm>
+
 #include "booleanfeatureref.h"
 #include "featureservices.h"
 #include "optionfeatureref.h"
@@ -42,11 +44,29 @@ UISheetApply::UISheetApply(FeatureServices& featureServices, const ProductString
 
 void UISheetApply::pageAnswered(const _UIWindowsMessage& message)
 {
+    if (std::find(m_answered.begin(), m_answered.end(), message.window) != m_answered.end())
+        beginRound();
     const LONG_PTR result = GetWindowLongPtrW(message.window, DWLP_MSGRESULT);
-    if (result == PSNRET_INVALID || !isAcceptable(message))
+    if (result == PSNRET_INVALID || !isAcceptable(message)) {
         reject();
-    else if (result == PSNRET_NOERROR && m_eventProcessor.incrementNotificationCount())
+    } else if (result == PSNRET_NOERROR) {
+        m_answered.push_back(message.window);
+        if (!m_eventProcessor.incrementNotificationCount())
+            return;
+        beginRound();
         complete(message);
+    }
+}
+
+void UISheetApply::beginRound()
+{
+    m_answered.clear();
+    m_eventProcessor.resetNotificationCount();
+}
+
+void UISheetApply::pageGoes(HWND page)
+{
+    m_eventProcessor.decrementVisitedTabCount(std::erase(m_answered, page) != 0);
 }
 
 /// What no page can tell alone.
@@ -77,9 +97,9 @@ void UISheetApply::tellMissing(HWND page, const FeatureIdWithContext& feature) c
     m_services.showMessage(GetAncestor(page, GA_ROOT), text, name, MB_ICONWARNING);
 }
 
-void UISheetApply::reject() const
+void UISheetApply::reject()
 {
-    m_eventProcessor.resetNotificationCount();
+    beginRound();
     tellRefused();
 }
 

@@ -5,8 +5,11 @@
 #include "cxstring.h"
 #include "dialogconversion.h"
 #include "trace.h"
+#include "uidialogprocedure.h"
+#include "uiguard.h"
 #include "uiofftab.h"
 #include "uiservices.h"
+#include "undo.h"
 
 namespace {
 
@@ -26,7 +29,17 @@ UISheetAreas::UISheetAreas(HINSTANCE moduleInstance, FeatureServices& featureSer
 {
 }
 
-UISheetAreas::~UISheetAreas() = default;
+UISheetAreas::~UISheetAreas()
+{
+    close();
+}
+
+void UISheetAreas::close()
+{
+    for (const auto& offTab : m_offTabs)
+        offTab->close();
+    m_sheet.restore(); // over the place where they stood
+}
 
 void UISheetAreas::build(const std::vector<const UIContainerData*>& descriptions)
 {
@@ -39,22 +52,35 @@ void UISheetAreas::build(const std::vector<const UIContainerData*>& descriptions
 
 bool UISheetAreas::open(HWND page)
 {
-    if (m_sheet.get() || !m_sheet.adopt(GetParent(page)))
+    if (m_wasTried || !m_sheet.adopt(GetParent(page)))
         return false;
-    const DialogConversion& conversion = m_services.getDialogConversion();
-    RECT place = m_sheet.getTabControl();
-    const long gap = conversion.dialogUnitsToPixels(SIZE{0, kGap}).cy;
+    m_wasTried = true;
+    o7::Undo undo([this] { close(); });
     std::vector<long> heights;
+    const long gap = m_services.getDialogConversion().dialogUnitsToPixels(SIZE{0, kGap}).cy;
+    if (!makeRoom(heights, gap)) {
+        o7::trace(CXString(L"there is no room for the areas under the pages"));
+        return false;
+    }
+    openAll(heights, gap);
+    undo.keep();
+    return true;
+}
+
+bool UISheetAreas::makeRoom(std::vector<long>& heights, long gap)
+{
+    const DialogConversion& conversion = m_services.getDialogConversion();
     long growth = 0;
     for (const auto& offTab : m_offTabs) {
         heights.push_back(conversion.dialogUnitsToPixels(SIZE{0, offTab->getHeight()}).cy);
         growth += gap + heights.back();
     }
-    if (!m_sheet.enlarge(growth)) {
-        o7::trace(CXString(L"the screen is too low for the areas under the pages"));
-        return false;
-    }
-    m_sheet.subclass(m_messageManager);
+    return m_sheet.enlarge(growth) && m_sheet.subclass(m_messageManager);
+}
+
+void UISheetAreas::openAll(const std::vector<long>& heights, long gap)
+{
+    RECT place = m_sheet.getTabControl();
     HWND predecessor = m_sheet.getTabPredecessor();
     for (std::size_t index = 0; index < m_offTabs.size(); ++index) {
         place.top = place.bottom + gap;
@@ -63,12 +89,15 @@ bool UISheetAreas::open(HWND page)
                                    m_messageManager))
             predecessor = m_offTabs[index]->getWindow();
     }
-    return true;
 }
 
 bool UISheetAreas::handleMessage(const _UIWindowsMessage& message)
 {
-    if (offer(message))
+    // The sheet gets its message whatever an area does with it: it could not live without.
+    const bool claimed =
+        !UIDialogProcedure::lacksRecord(message) &&
+        o7::guarded<bool>(L"UISheetAreas::offer", L"uisheetareas", [&] { return offer(message); });
+    if (claimed)
         return true;
     if (message.window != m_sheet.get())
         return false;

@@ -35,9 +35,12 @@ public:
 
     /// Takes the sheet over, makes room and opens the areas, from top to bottom. The dialog-unit
     /// converter has to be that of the page.
-    /// @param page  any page of the sheet. @return false, and nothing changed, when it is open
-    /// already, is no property sheet, or the screen is too low for it.
+    /// @param page  any page of the sheet. @return false, and nothing changed, when that was tried
+    /// before, it is no property sheet, or the screen is too low for it. Nothing is changed either
+    /// when something is thrown.
     bool open(HWND page);
+    /// Closes the areas and gives the sheet back. Messages of both have to arrive until then.
+    void close();
 
     /// Messages of the sheet and of the areas: what no area claims, the sheet's own procedure
     /// answers.
@@ -50,6 +53,8 @@ public:
 
 private:
     bool offer(const _UIWindowsMessage& message) const;
+    bool makeRoom(std::vector<long>& heights, long gap);
+    void openAll(const std::vector<long>& heights, long gap);
 
     HINSTANCE m_moduleInstance;
     FeatureServices& m_featureServices;
@@ -57,5 +62,6 @@ private:
     UIServices& m_services;
     UIMessageManager& m_messageManager;
     UISheetWindow m_sheet;
-    OffTabs m_offTabs; ///< goes before the sheet closes up over the place where they stood
+    OffTabs m_offTabs;
+    bool m_wasTried = false;
 };

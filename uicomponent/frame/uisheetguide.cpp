@@ -8,6 +8,7 @@
 #include "setofsettingids.h"
 #include "uibuttonaction.h"
 #include "uibuttonmolecule.h"
+#include "uiguard.h"
 #include "uimoleculedata.h"
 #include "uitab.h"
 #include "uiwindowsmessage.h"
@@ -27,12 +28,22 @@ UISheetGuide::UISheetGuide(FeatureServices& featureServices, const ProductString
 
 UISheetGuide::~UISheetGuide()
 {
-    end();
+    // Here only when the manager goes before its sheet; what fails then must not end the host.
+    o7::guarded<bool>(L"UISheetGuide::end", L"uisheetguide", [this] {
+        end();
+        return true;
+    });
 }
 
 void UISheetGuide::rememberPage(const CXString& path, const CXString& printer, UIMode mode)
 {
     m_lastPage.emplace(path, printer, mode);
+}
+
+void UISheetGuide::carryOn(HWND page)
+{
+    if (!m_sheet)
+        begin(page);
 }
 
 void UISheetGuide::serve(const UIMoleculeContainer& container)

@@ -26,7 +26,8 @@ struct _UIWindowsMessage;
 /// and which page the person looked at last. Follows the data model as a whole; however many
 /// settings change at once, everything is worked out once, when the thread's messages are.
 ///
-/// Begins with the first page that gets its window and ends with that window.
+/// Begins with the first page that gets its window and ends with that window, unless another one
+/// takes its place.
 class UISheetGuide : public IObserver
 {
 public:
@@ -44,6 +45,8 @@ public:
 
     /// The sheet opens on the page that it was last closed on. An empty path keeps nothing.
     void rememberPage(const CXString& path, const CXString& printer, UIMode mode);
+    /// The page that served the guide has gone, and the sheet has not: this one serves it now.
+    void carryOn(HWND page);
     /// From now on status lines and buttons in this container beside the pages are served like
     /// those on the pages. The container has to live as long as the guide.
     void serve(const UIMoleculeContainer& container);

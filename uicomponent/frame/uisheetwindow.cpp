@@ -9,6 +9,8 @@
 namespace {
 
 constexpr int kTabControlId = 12320; // the same in every version of the common controls
+/// Name of the window property that holds the first UISheetWindow of the chain.
+constexpr wchar_t kChainProperty[] = L"O7UISheetWindows";
 constexpr UINT kKeepsOrder = SWP_NOZORDER | SWP_NOACTIVATE;
 
 RECT placeIn(HWND parent, HWND child)
@@ -29,6 +31,12 @@ bool setHelpButton(HWND sheet, bool present) noexcept
     return had;
 }
 
+void removeProperties(HWND sheet) noexcept
+{
+    RemovePropW(sheet, kChainProperty);
+    RemovePropW(sheet, UIDialogProcedure::kManagerProperty);
+}
+
 /// For as long as a foreign procedure may call ours, its code must not go away. Not given back:
 /// nobody tells when the last such call has returned.
 void keepModuleLoaded() noexcept
@@ -47,7 +55,6 @@ bool UISheetWindow::adopt(HWND sheet)
     if (!tabControl)
         return false;
     m_sheet = sheet;
-    m_hadHelpButton = setHelpButton(sheet, false);
     m_tabControl = placeIn(sheet, tabControl);
     findLowerWindows();
     return true;
@@ -81,6 +88,7 @@ bool UISheetWindow::enlarge(long height)
                                std::max<long>(frame.top - area.top, 0));
     resizeSheet(m_growth, m_shift);
     moveLowerWindows(m_growth);
+    m_tookHelpButton = setHelpButton(m_sheet, false);
     return true;
 }
 
@@ -94,16 +102,15 @@ void UISheetWindow::resizeSheet(long growth, long shift) const noexcept
 
 void UISheetWindow::moveLowerWindows(long distance) const noexcept
 {
-    HDWP batch = BeginDeferWindowPos(static_cast<int>(m_lowerWindows.size()));
+    if (distance == 0)
+        return;
     for (const HWND window : m_lowerWindows) {
-        if (!batch || GetParent(window) != m_sheet) // a host may have taken it away
+        if (GetParent(window) != m_sheet) // a host may have taken it away
             continue;
         const RECT place = placeIn(m_sheet, window);
-        batch = DeferWindowPos(batch, window, nullptr, place.left, place.top + distance, 0, 0,
-                               SWP_NOSIZE | kKeepsOrder);
+        SetWindowPos(window, nullptr, place.left, place.top + distance, 0, 0,
+                     SWP_NOSIZE | kKeepsOrder);
     }
-    if (batch)
-        EndDeferWindowPos(batch);
     // A sheet that is shown already may keep stale pixels where it has grown.
     RECT below{};
     if (IsWindowVisible(m_sheet) && GetClientRect(m_sheet, &below)) {
@@ -112,29 +119,79 @@ void UISheetWindow::moveLowerWindows(long distance) const noexcept
     }
 }
 
-void UISheetWindow::subclass(UIMessageManager& manager)
+bool UISheetWindow::storeFirst(UISheetWindow& first) const noexcept
 {
-    SetPropW(m_sheet, UIDialogProcedure::kManagerProperty, &manager);
-    m_keptProcedure = reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrW(m_sheet, GWLP_WNDPROC,
-                          reinterpret_cast<LONG_PTR>(&UIDialogProcedure::offTabDialogProcedure)));
+    return SetPropW(m_sheet, kChainProperty, &first) &&
+           SetPropW(m_sheet, UIDialogProcedure::kManagerProperty, first.m_manager);
+}
+
+bool UISheetWindow::subclass(UIMessageManager& manager)
+{
+    m_before = static_cast<UISheetWindow*>(GetPropW(m_sheet, kChainProperty));
+    m_manager = &manager;
+    // Without its properties our procedure would swallow every message, so they come first.
+    if (!storeFirst(*this)) {
+        if (!m_before || !storeFirst(*m_before))
+            removeProperties(m_sheet);
+        m_manager = nullptr;
+        m_before = nullptr;
+        return false;
+    }
+    if (!m_before)
+        takeProcedure();
+    return true;
+}
+
+void UISheetWindow::takeProcedure()
+{
+    // Ours may stand in the chain of procedures still, behind a stranger's.
+    m_keptProcedure =
+        reinterpret_cast<WNDPROC>(RemovePropW(m_sheet, UIDialogProcedure::kKeptProcedureProperty));
+    if (!m_keptProcedure)
+        m_keptProcedure = reinterpret_cast<WNDPROC>(SetWindowLongPtrW(
+            m_sheet, GWLP_WNDPROC,
+            reinterpret_cast<LONG_PTR>(&UIDialogProcedure::offTabDialogProcedure)));
 }
 
 LRESULT UISheetWindow::passOn(const _UIWindowsMessage& message)
 {
+    const UISheetWindow* const before = m_before;
     const WNDPROC kept = m_keptProcedure;
     if (message.message == WM_NCDESTROY) {
-        restoreProcedure();
+        m_isGoing = true;
+        leaveChain();
         m_sheet = nullptr;
     }
+    if (before)
+        return before->m_manager->handleMessage(message) ? message.result : 0;
     return CallWindowProcW(kept, message.window, message.message, message.wParam, message.lParam);
 }
 
-void UISheetWindow::restoreProcedure() noexcept
+void UISheetWindow::leaveChain() noexcept
 {
-    if (!m_keptProcedure)
+    if (!m_manager)
         return;
-    RemovePropW(m_sheet, UIDialogProcedure::kManagerProperty);
+    auto* const first = static_cast<UISheetWindow*>(GetPropW(m_sheet, kChainProperty));
+    auto* after = first;
+    while (after && after != this && after->m_before != this)
+        after = after->m_before;
+    if (after && after != this) {
+        after->m_before = m_before;
+        after->m_keptProcedure = m_keptProcedure;
+    } else if (m_before) {
+        storeFirst(*m_before);
+    } else {
+        removeProperties(m_sheet);
+        if (!m_isGoing)
+            giveProcedureBack();
+    }
+    m_manager = nullptr;
+    m_before = nullptr;
+    m_keptProcedure = nullptr;
+}
+
+void UISheetWindow::giveProcedureBack() const noexcept
+{
     if (GetWindowLongPtrW(m_sheet, GWLP_WNDPROC) ==
         reinterpret_cast<LONG_PTR>(&UIDialogProcedure::offTabDialogProcedure)) {
         SetWindowLongPtrW(m_sheet, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_keptProcedure));
@@ -143,7 +200,6 @@ void UISheetWindow::restoreProcedure() noexcept
                  reinterpret_cast<HANDLE>(m_keptProcedure));
         keepModuleLoaded();
     }
-    m_keptProcedure = nullptr;
 }
 
 void UISheetWindow::restore() noexcept
@@ -151,8 +207,9 @@ void UISheetWindow::restore() noexcept
     if (m_sheet && IsWindow(m_sheet)) {
         moveLowerWindows(-m_growth);
         resizeSheet(-m_growth, -m_shift);
-        setHelpButton(m_sheet, m_hadHelpButton);
-        restoreProcedure();
+        if (m_tookHelpButton)
+            setHelpButton(m_sheet, true);
+        leaveChain();
     }
     m_sheet = nullptr;
 }

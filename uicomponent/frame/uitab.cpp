@@ -10,6 +10,7 @@
 #include "uidump.h"
 #include "uieventprocessor.h"
 #include "uilayoutmanager.h"
+#include "undo.h"
 
 namespace {
 
@@ -23,43 +24,54 @@ constexpr DataModelIds::EventEnum kRefreshEvents[] = {
 } // namespace
 
 UITab::UITab(FeatureServices& featureServices, UIContext& context, UIEventProcessor& eventProcessor,
-             UIServices& services, const ListOfFeaturesRef& features, ProductData& productData,
-             bool notifySuppressed)
+             UIServices& services, const ListOfFeaturesRef& features, ProductData& productData)
     : UIMoleculeContainer(featureServices, context.strings, services, features),
       m_eventProcessor(eventProcessor),
-      m_productData(productData),
-      m_notifySuppressed(notifySuppressed)
+      m_productData(productData)
 {
 }
 
 UITab::~UITab()
 {
     unregisterForEvents();
-    letWindowGo();
 }
 
 // A page that outlives its manager (a host that closes its sheet too late) must find nobody instead
 // of a dead manager: its procedure then answers 0.
-void UITab::letWindowGo() const
+void UITab::letWindowGo()
 {
-    const auto manager = reinterpret_cast<LONG_PTR>(m_pageRecord.messageManager);
-    if (getWindow() && manager && GetWindowLongPtrW(getWindow(), GWLP_USERDATA) == manager)
-        SetWindowLongPtrW(getWindow(), GWLP_USERDATA, 0);
+    const HWND window = m_failedWindow ? m_failedWindow : getWindow();
+    const auto manager = reinterpret_cast<LONG_PTR>(getPageRecord().messageManager);
+    if (window && manager && GetWindowLongPtrW(window, GWLP_USERDATA) == manager)
+        SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+}
+
+void UITab::outliveIn(HWND sheet)
+{
+    letWindowGo();
+    if (!getWindow())
+        UIPageSource::keepFor(sheet, std::move(m_source));
 }
 
 bool UITab::build(const UIContainerData& data, UINT_PTR tabId)
 {
     m_data = &data;
-    m_pageRecord.tabId = tabId;
+    getPageRecord().tabId = tabId;
     m_width = data.getWidth();
     m_height = data.getHeight();
-    buildFrom(data);
-    m_misfit = getLayout().findMisfit();
+    buildMolecules();
     if (!m_misfit.IsEmpty())
         return false;
-    getLayout().layOut();
     registerForEvents();
     return true;
+}
+
+void UITab::buildMolecules()
+{
+    buildFrom(*m_data);
+    m_misfit = getLayout().findMisfit();
+    if (m_misfit.IsEmpty())
+        getLayout().layOut();
 }
 
 std::uint32_t UITab::getPageId() const
@@ -93,13 +105,13 @@ void UITab::unregisterForEvents()
 
 void UITab::ProcessNotification(const INotification&, unsigned int kind)
 {
-    if (kind == DataModelIds::kObserverEvent && getWindow())
+    if (kind == DataModelIds::kObserverEvent && m_isOpen)
         refreshAll();
 }
 
 void UITab::settled()
 {
-    if (getWindow())
+    if (m_isOpen)
         refreshAll();
 }
 
@@ -107,13 +119,14 @@ bool UITab::handleMessage(const _UIWindowsMessage& message)
 {
     if (message.message == WM_INITDIALOG)
         return !getWindow() && takeWindow(message);
-    if (!getWindow() || message.window != getWindow())
+    if (!getWindow() || message.window != getWindow() || m_failedWindow)
         return false;
     switch (message.message) {
     case WM_NOTIFY:
         return handleNotification(message);
     case WM_DESTROY: { // the controls go while their windows still exist
         const UIControl::ParentGoes going(message.window);
+        m_isOpen = false;
         releaseMolecules();
         return false;
     }
@@ -126,16 +139,45 @@ bool UITab::takeWindow(const _UIWindowsMessage& message)
 {
     const auto& page = *reinterpret_cast<const PROPSHEETPAGEW*>(message.lParam);
     const auto& record = *reinterpret_cast<const UIPageRecord*>(page.lParam);
-    if (record.tabId != m_pageRecord.tabId)
+    if (record.tabId != getPageRecord().tabId)
         return false;
-    return initialize(message.window);
+    return open(message.window);
+}
+
+bool UITab::open(HWND window)
+{
+    m_failedWindow = nullptr;
+    m_hasBeenLeft = false;
+    o7::Undo undo([this, window] {
+        m_failedWindow = window;
+        releaseMolecules();
+    });
+    if (!initialize(window))
+        return false;
+    undo.keep();
+    m_isOpen = true;
+    return true;
+}
+
+bool UITab::openAgain(const _UIWindowsMessage& message)
+{
+    if (!m_failedWindow || message.window != m_failedWindow || message.message != WM_NOTIFY)
+        return false;
+    const UINT code = reinterpret_cast<const NMHDR*>(message.lParam)->code;
+    m_hasBeenLeft |= code == PSN_KILLACTIVE;
+    if (code != PSN_APPLY && !(code == PSN_SETACTIVE && m_hasBeenLeft))
+        return false;
+    const HWND window = m_failedWindow;
+    buildMolecules();
+    return open(window);
 }
 
 bool UITab::handleNotification(const _UIWindowsMessage& message)
 {
     switch (reinterpret_cast<const NMHDR*>(message.lParam)->code) {
-    case PSN_QUERYCANCEL:
-        return queryCancel(message);
+    case PSN_QUERYCANCEL: // allowed
+        setResult(message, FALSE);
+        return true;
     case PSN_APPLY:
         return apply(message);
     case PSN_KILLACTIVE:
@@ -151,14 +193,6 @@ void UITab::setResult(const _UIWindowsMessage& message, LONG_PTR result) const
 {
     SetWindowLongPtrW(message.window, DWLP_MSGRESULT, result);
     message.result = TRUE; // DWLP_MSGRESULT counts
-}
-
-bool UITab::queryCancel(const _UIWindowsMessage& message)
-{
-    setResult(message, FALSE);
-    if (!m_notifySuppressed)
-        m_eventProcessor.notifyDataModel(DataModelIds::kEventCancelQueried, getWindow());
-    return true;
 }
 
 bool UITab::apply(const _UIWindowsMessage& message)
@@ -197,7 +231,9 @@ void UITab::dump() const
                                      m_inConflict ? L", in conflict" : L"")
                      .View());
     const UIDump::Level inner;
-    if (getWindow())
+    if (m_failedWindow)
+        UIDump::line(L"could not be built");
+    else if (getWindow())
         dumpMolecules();
     else
         UIDump::line(L"not visited");

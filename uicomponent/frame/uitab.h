@@ -3,14 +3,14 @@
 #include <windows.h>
 
 #include <cstdint>
+#include <memory>
 
 #include "cxstring.h"
 #include "iobserver.h"
 #include "listoffeaturesref.h"
-#include "uidialogprocedure.h"
-#include "uidialogtemplate.h"
 #include "uimessagehandler.h"
 #include "uimoleculecontainer.h"
+#include "uipagesource.h"
 
 class ProductData;
 class UIEventProcessor;
@@ -22,11 +22,9 @@ struct UIContext;
 class UITab : public UIMoleculeContainer, public UIMessageHandler, public IObserver
 {
 public:
-    /// @param features           what the page works on: the full feature list, or one within it.
-    /// @param notifySuppressed   the tab sends no event when Cancel is queried.
+    /// @param features  what the page works on: the full feature list, or one within it.
     UITab(FeatureServices& featureServices, UIContext& context, UIEventProcessor& eventProcessor,
-          UIServices& services, const ListOfFeaturesRef& features, ProductData& productData,
-          bool notifySuppressed);
+          UIServices& services, const ListOfFeaturesRef& features, ProductData& productData);
     ~UITab() override;
 
     bool handleMessage(const _UIWindowsMessage& message) override;
@@ -44,7 +42,7 @@ public:
     void setTitle(const CXString& title) { m_title = title; }
     long getWidth() const { return m_width; }   ///< dialog units
     long getHeight() const { return m_height; } ///< dialog units
-    UIPageRecord& getPageRecord() { return m_pageRecord; }
+    UIPageRecord& getPageRecord() { return m_source->record; }
     /// The description's number of the page; unique in its sheet.
     std::uint32_t getPageId() const;
     /// Whether the page shows a setting that is in conflict; for descriptions.
@@ -52,7 +50,19 @@ public:
     /// Why the tab is not shown; empty when it is.
     const CXString& getMisfit() const { return m_misfit; }
     /// The template of the page, which has to live as long as the page can be created.
-    void adoptTemplate(UIDialogTemplate dialogTemplate) { m_template = std::move(dialogTemplate); }
+    void adoptTemplate(UIDialogTemplate dialogTemplate)
+    {
+        m_source->pageTemplate = std::move(dialogTemplate);
+    }
+    /// The tab goes before the sheet: a page without a window must find nobody when it gets one.
+    void outliveIn(HWND sheet);
+
+    /// Whether the page has its window and its controls, and is one that the sheet asks at Apply.
+    bool isOpen() const { return m_isOpen; }
+    /// A page that could not be built is tried again when the person comes back to it, and when it
+    /// is to be applied. Offered before the message itself.
+    /// @return whether it is open now. Throws what prevents it.
+    bool openAgain(const _UIWindowsMessage& message);
 
     /// Builds columns and molecules and lays them out.
     /// @return whether the tab is to be shown: false when its content does not fit the page.
@@ -60,15 +70,16 @@ public:
 
 private:
     bool takeWindow(const _UIWindowsMessage& message);
+    bool open(HWND window);
+    void buildMolecules();
     bool handleNotification(const _UIWindowsMessage& message);
-    bool queryCancel(const _UIWindowsMessage& message);
     bool apply(const _UIWindowsMessage& message);
     bool killActive(const _UIWindowsMessage& message);
     bool setActive(const _UIWindowsMessage& message);
     void setResult(const _UIWindowsMessage& message, LONG_PTR result) const;
     void registerForEvents();
     void unregisterForEvents();
-    void letWindowGo() const;
+    void letWindowGo();
 
     UIEventProcessor& m_eventProcessor;
     ProductData& m_productData;
@@ -77,9 +88,10 @@ private:
     CXString m_misfit;
     long m_width = 0;
     long m_height = 0;
-    UIPageRecord m_pageRecord;
-    UIDialogTemplate m_template;
-    bool m_notifySuppressed;
+    std::unique_ptr<UIPageSource> m_source = std::make_unique<UIPageSource>();
+    HWND m_failedWindow = nullptr; ///< of a page that could not be built
+    bool m_hasBeenLeft = false;    ///< since then
+    bool m_isOpen = false;
     bool m_registered = false;
     bool m_inConflict = false;
 };

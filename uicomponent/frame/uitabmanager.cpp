@@ -1,6 +1,7 @@
 #include "uitabmanager.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "dialogconversion.h"
 #include "exceptiontabcreationfailure.h"
@@ -15,14 +16,18 @@
 #include "uidialogprocedure.h"
 #include "uidialogtemplate.h"
 #include "uieventprocessor.h"
+#include "uiguard.h"
 #include "uimessagemanager.h"
 #include "uiofftab.h"
+#include "uipagesource.h"
 #include "uiservices.h"
 #include "uisheetguide.h"
 #include "uitab.h"
+#include "undo.h"
 
 namespace {
 
+constexpr wchar_t kSource[] = L"uitabmanager";
 constexpr UINT kFirstPaintMessage = WM_APP + 7;
 constexpr UINT kAddPropSheetPage = 1; // function index of the print system's callback
 
@@ -73,23 +78,25 @@ UITabManager::UITabManager(UIServices& services, UIMessageManager& messageManage
       m_apply(featureServices, context.strings, services, eventProcessor, m_mode, m_areas, *m_guide,
               m_applyButton)
 {
+    UIPageSource::freeUnused();
     for (const UINT message : kOwnMessages)
         m_wanted.add(message);
 }
 
 UITabManager::~UITabManager()
 {
-    if (!m_areas.isEmpty())
-        m_messageManager.removeLast(UIMessageKind::OffTab);
-    if (!m_tabs.empty())
-        m_messageManager.removeLast(UIMessageKind::TabPage);
+    m_areas.close(); // the sheet needs its messages until it has been given back
+    m_messageManager.remove(UIMessageKind::OffTab, *this);
+    m_messageManager.remove(UIMessageKind::TabPage, *this);
+    for (const auto& tab : m_tabs)
+        tab->outliveIn(m_sheet);
 }
 
 UITab* UITabManager::buildTab(const UIContainerData& description, HANDLE activationContext,
                               Page& page)
 {
     auto tab = std::make_unique<UITab>(m_featureServices, m_context, m_eventProcessor, m_services,
-                                       m_features, m_productData, m_tabFlag);
+                                       m_features, m_productData);
     // Unique among all managers: a popup's page is offered to the sheet's tabs as well.
     const auto tabId = reinterpret_cast<UINT_PTR>(tab.get());
     if (!tab->build(description, tabId)) {
@@ -100,6 +107,8 @@ UITab* UITabManager::buildTab(const UIContainerData& description, HANDLE activat
     tab->getPageRecord().messageManager = &m_messageManager;
 
     UIDialogTemplate dialogTemplate(m_moduleInstance);
+    if (!dialogTemplate.get())
+        throwPageFailure(*tab);
     dialogTemplate.setSize(description.getWidth(), description.getHeight());
     if (m_services.isRightToLeft())
         dialogTemplate.mirror();
@@ -127,32 +136,33 @@ UITab* UITabManager::buildTab(const UIContainerData& description, HANDLE activat
     return m_tabs.back().get();
 }
 
-void UITabManager::keepPage(HPROPSHEETPAGE page, UITab& tab)
+/// Never null.
+HPROPSHEETPAGE UITabManager::createPage(Page& page, UITab& tab) const
 {
-    if (!page)
+    const HPROPSHEETPAGE handle = IsolationAware::createPropertySheetPage(page.structure);
+    if (!handle)
         throwPageFailure(tab);
-    m_pages.push_back(page);
+    return handle;
 }
 
 std::size_t UITabManager::createPagesForPropertySheet(const Descriptions& descriptions,
                                                       HPROPSHEETPAGE* pages, std::size_t room,
                                                       HANDLE activationContext)
 {
+    o7::Undo undo([this] {
+        for (const HPROPSHEETPAGE made : m_pages)
+            IsolationAware::destroyPropertySheetPage(made);
+        m_pages.clear();
+    });
+    m_pages.reserve(std::min(room, descriptions.size()));
     for (const UIContainerData* description : descriptions) {
         if (m_pages.size() == room)
             break;
         Page page;
-        UITab* const tab = buildTab(*description, activationContext, page);
-        if (!tab)
-            continue;
-        const HPROPSHEETPAGE handle = IsolationAware::createPropertySheetPage(page.structure);
-        if (!handle) {
-            for (const HPROPSHEETPAGE made : m_pages)
-                IsolationAware::destroyPropertySheetPage(made);
-            m_pages.clear();
-        }
-        keepPage(handle, *tab);
+        if (UITab* const tab = buildTab(*description, activationContext, page))
+            m_pages.push_back(createPage(page, *tab));
     }
+    undo.keep();
     std::copy(m_pages.begin(), m_pages.end(), pages);
     return m_pages.size();
 }
@@ -160,18 +170,29 @@ std::size_t UITabManager::createPagesForPropertySheet(const Descriptions& descri
 void UITabManager::createPagesForSheetWindow(const Descriptions& descriptions, HWND sheet,
                                              HANDLE activationContext)
 {
+    m_sheet = sheet;
+    o7::Undo undo([this] { takePagesBack(); });
+    m_pages.reserve(descriptions.size());
     for (const UIContainerData* description : descriptions) {
         Page page;
         UITab* const tab = buildTab(*description, activationContext, page);
         if (!tab)
             continue;
-        const HPROPSHEETPAGE handle = IsolationAware::createPropertySheetPage(page.structure);
-        if (handle && !SendMessageW(sheet, PSM_ADDPAGE, 0, reinterpret_cast<LPARAM>(handle))) {
+        const HPROPSHEETPAGE handle = createPage(page, *tab);
+        if (!SendMessageW(sheet, PSM_ADDPAGE, 0, reinterpret_cast<LPARAM>(handle))) {
             IsolationAware::destroyPropertySheetPage(handle);
             throwPageFailure(*tab);
         }
-        keepPage(handle, *tab);
+        m_pages.push_back(handle);
     }
+    undo.keep();
+}
+
+void UITabManager::takePagesBack()
+{
+    for (const HPROPSHEETPAGE page : m_pages)
+        SendMessageW(m_sheet, PSM_REMOVEPAGE, 0, reinterpret_cast<LPARAM>(page));
+    m_pages.clear();
 }
 
 void UITabManager::createPagesForCPSUI(const Descriptions& descriptions, HANDLE sheet,
@@ -188,7 +209,9 @@ void UITabManager::createPagesForCPSUI(const Descriptions& descriptions, HANDLE 
         }
         const LONG_PTR handle = m_cpsuiCallback(m_cpsuiSheet, kAddPropSheetPage,
                                                 reinterpret_cast<LPARAM>(&page.structure), 0);
-        keepPage(reinterpret_cast<HPROPSHEETPAGE>(std::max<LONG_PTR>(handle, 0)), *tab);
+        if (handle <= 0)
+            throwPageFailure(*tab);
+        m_pages.push_back(reinterpret_cast<HPROPSHEETPAGE>(handle));
     }
 }
 
@@ -224,17 +247,27 @@ bool UITabManager::offerToTabs(const _UIWindowsMessage& message) const
     return false;
 }
 
+bool UITabManager::offerToGuide(const _UIWindowsMessage& message) const
+{
+    if (message.message != WM_INITDIALOG)
+        return m_guide->handleMessage(message);
+    // A page does not stay blank because what is told around it fails.
+    return o7::guarded<bool>(L"UITabManager::offerToGuide", kSource,
+                             [&] { return m_guide->handleMessage(message); });
+}
+
 bool UITabManager::handlePageMessage(const _UIWindowsMessage& message)
 {
-    if (m_guide->handleMessage(message))
+    if (offerToGuide(message))
         return true;
     switch (message.message) {
     case WM_INITDIALOG:
         return initializePage(message);
     case WM_NOTIFY:
-        if (reinterpret_cast<const NMHDR*>(message.lParam)->code == PSN_APPLY)
-            return applyPage(message);
-        [[fallthrough]];
+        return handleNotification(message);
+    case WM_DESTROY:
+        pageGoes(message.window);
+        return offerToTabs(message);
     case WM_PAINT:
         postFirstPaint(message);
         return offerToTabs(message);
@@ -284,8 +317,11 @@ void UITabManager::areasOpened(HWND page)
 void UITabManager::prepareSheet(const _UIWindowsMessage& message)
 {
     m_services.getDialogConversion().initDialogConversions(message.window);
+    if (!m_sheet)
+        m_sheet = GetParent(message.window);
     if (!m_areas.isEmpty())
-        handleOffTabMessage(message);
+        o7::guarded<bool>(L"UITabManager::prepareSheet", kSource,
+                          [&] { return handleOffTabMessage(message); });
 }
 
 bool UITabManager::initializePage(const _UIWindowsMessage& message)
@@ -293,9 +329,76 @@ bool UITabManager::initializePage(const _UIWindowsMessage& message)
     prepareSheet(message);
     if (!offerToTabs(message))
         return false;
-    m_eventProcessor.incrementVisitedTabCount();
-    m_applyButton.pageInitialized(message.window);
+    pageOpened(message.window);
     return true;
+}
+
+void UITabManager::pageOpened(HWND page)
+{
+    m_eventProcessor.incrementVisitedTabCount();
+    m_applyButton.pageInitialized(page);
+}
+
+/// The host has removed it, or the sheet goes: nobody waits for its Apply any more.
+void UITabManager::pageGoes(HWND page)
+{
+    HWND other = nullptr;
+    bool wasOpen = false;
+    for (const auto& tab : m_tabs) {
+        if (!tab->isOpen())
+            continue;
+        if (tab->getWindow() == page)
+            wasOpen = true;
+        else
+            other = tab->getWindow();
+    }
+    if (!wasOpen)
+        return;
+    m_apply.pageGoes(page);
+    m_applyButton.pageGoes(page, other);
+    if (other && IsWindowVisible(m_sheet)) // a sheet that goes itself is hidden first
+        m_guide->carryOn(other);
+}
+
+bool UITabManager::openAgain(const _UIWindowsMessage& message) const
+{
+    return std::any_of(m_tabs.begin(), m_tabs.end(),
+                       [&](const auto& tab) { return tab->openAgain(message); });
+}
+
+bool UITabManager::handleNotification(const _UIWindowsMessage& message)
+{
+    if (openAgain(message))
+        pageOpened(message.window);
+    tellCancel(message);
+    if (reinterpret_cast<const NMHDR*>(message.lParam)->code == PSN_APPLY)
+        return applyPage(message);
+    return offerToTabs(message);
+}
+
+/// Only the page in front is asked whether Cancel is allowed, and it may be one of the host's;
+/// every visited page is told of the Cancel itself, and some systems do all of it twice. The model
+/// hears of the first of these, and again when something has changed since.
+void UITabManager::tellCancel(const _UIWindowsMessage& message)
+{
+    const bool isOurs = std::any_of(m_tabs.begin(), m_tabs.end(), [&](const auto& tab) {
+        return tab->getWindow() == message.window;
+    });
+    if (!isOurs) // of a popup set over the sheet
+        return;
+    switch (reinterpret_cast<const NMHDR*>(message.lParam)->code) {
+    case PSN_QUERYCANCEL:
+    case PSN_RESET:
+        if (!std::exchange(m_isCancelTold, true) || m_featureServices.IsModified())
+            m_eventProcessor.notifyDataModel(DataModelIds::kEventCancelQueried, message.window);
+        break;
+    case PSN_SETACTIVE: // the sheet lives on
+    case PSN_KILLACTIVE:
+        m_isCancelTold = false;
+        break;
+    default:
+        break;
+    }
 }
 
 void UITabManager::postFirstPaint(const _UIWindowsMessage& message)

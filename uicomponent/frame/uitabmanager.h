@@ -50,20 +50,23 @@ public:
     void dump() const override;
 
     /// Pages for PropertySheetW. @return how many; their handles are written to `pages`, and belong
-    /// to whoever passes them to a sheet.
+    /// to the caller, who passes them to a sheet (UISheetPages). When something is thrown, there
+    /// are none.
     /// @param room  length of `pages`; descriptions beyond it get no page.
     /// @throws ExceptionTabCreationFailure
     virtual std::size_t createPagesForPropertySheet(const Descriptions& descriptions,
                                                     HPROPSHEETPAGE* pages, std::size_t room,
                                                     HANDLE activationContext);
     /// Pages for a sheet that exists already (PSM_ADDPAGE).
-    /// @throws ExceptionTabCreationFailure
+    /// @throws ExceptionTabCreationFailure; the sheet has then got none.
     virtual void createPagesForSheetWindow(const Descriptions& descriptions, HWND sheet,
                                            HANDLE activationContext);
     /// Pages for the print system's sheet, through its callback.
     /// @throws ExceptionTabCreationFailure
     virtual void createPagesForCPSUI(const Descriptions& descriptions, HANDLE sheet,
                                      UIComPropSheetCallback callback, HANDLE activationContext);
+    /// Takes the pages out of the sheet into which createPagesForSheetWindow() has put them.
+    void takePagesBack();
     /// Called when the data model has settled: what is on screen already is brought up to date.
     virtual void buildTabs(const Descriptions& descriptions);
 
@@ -87,22 +90,30 @@ protected:
 
     /// Offers a message to the tabs in creation order, up to the first that claims it.
     bool offerToTabs(const _UIWindowsMessage& message) const;
-    /// For a page's WM_INITDIALOG: measures the page's dialog units and opens the areas.
+    /// For a page's WM_INITDIALOG: measures the page's dialog units and opens the areas. An area
+    /// that fails says why, and leaves the page alone.
     void prepareSheet(const _UIWindowsMessage& message);
+    /// For a page's WM_NOTIFY: one that could not be built may be now. @return whether it is.
+    bool openAgain(const _UIWindowsMessage& message) const;
+
+    /// Offers a message to the guide, which sees all before the tabs do. @return true when it was
+    /// for the guide alone.
+    bool offerToGuide(const _UIWindowsMessage& message) const;
 
     /// The list of features that pages made from now on work on; the full one otherwise.
     void workOn(const ListOfFeaturesRef& features) { m_features = features; }
-    /// Pages made from now on send no event when Cancel is queried.
-    void suppressCancelEvent() { m_tabFlag = true; }
     const UIContext& getContext() const { return m_context; }
-    UISheetGuide& getGuide() const { return *m_guide; }
 
 private:
     struct Page;
 
     UITab* buildTab(const UIContainerData& description, HANDLE activationContext, Page& page);
-    void keepPage(HPROPSHEETPAGE page, UITab& tab);
+    HPROPSHEETPAGE createPage(Page& page, UITab& tab) const;
     bool initializePage(const _UIWindowsMessage& message);
+    void pageOpened(HWND page);
+    void pageGoes(HWND page);
+    bool handleNotification(const _UIWindowsMessage& message);
+    void tellCancel(const _UIWindowsMessage& message);
     void postFirstPaint(const _UIWindowsMessage& message);
     bool applyPage(const _UIWindowsMessage& message);
     bool hasPendingInput() const;
@@ -123,8 +134,9 @@ private:
     unsigned long m_option;
     HANDLE m_activationContext = nullptr; ///< the caller's, for what the pages create
     ListOfFeaturesRef m_features;
-    bool m_tabFlag = false;
     bool m_firstPaintPending = true;
+    bool m_isCancelTold = false;
+    HWND m_sheet = nullptr; ///< null until it is known
     UISheetAreas m_areas;
     std::unique_ptr<UISheetGuide> m_guide; ///< goes before the tabs and the areas
     UIApplyButton m_applyButton;

@@ -2,6 +2,10 @@
 
 #include <prsht.h>
 
+#include <algorithm>
+#include <iterator>
+#include <optional>
+
 #include "entryheight.h"
 #include "uiguard.h"
 #include "uimessagemanager.h"
@@ -19,6 +23,8 @@ void storePointer(HWND window, void* pointer)
 
 UIMessageManager* managerOfPage(LPARAM pageStructure)
 {
+    if (pageStructure == 0)
+        return nullptr;
     const auto& page = *reinterpret_cast<const PROPSHEETPAGEW*>(pageStructure);
     if (reinterpret_cast<ULONG_PTR>(page.pResource) == kNoResource)
         return nullptr;
@@ -51,10 +57,12 @@ INT_PTR routePage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message == WM_INITDIALOG)
         storePointer(window, managerOfPage(lParam));
+    const auto packed = pack(UIMessageKind::TabPage, window, message, wParam, lParam);
+    if (UIDialogProcedure::lacksRecord(packed))
+        return 0;
     tellControls(window, message, wParam, lParam);
     const auto* manager =
         reinterpret_cast<UIMessageManager*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    const auto packed = pack(UIMessageKind::TabPage, window, message, wParam, lParam);
     if (manager && manager->handleMessage(packed))
         return packed.result;
     return answerOf(window, message, lParam);
@@ -64,16 +72,28 @@ INT_PTR routeDialog(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message == WM_INITDIALOG)
         storePointer(window, reinterpret_cast<void*>(lParam));
+    const auto packed = pack(UIMessageKind::Dialog, window, message, wParam, lParam);
+    if (UIDialogProcedure::lacksRecord(packed))
+        return 0;
     tellControls(window, message, wParam, lParam);
     const auto* record =
         reinterpret_cast<const UIDialogRecord*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    const auto packed = pack(UIMessageKind::Dialog, window, message, wParam, lParam);
     if (!record || !record->messageManager || !record->messageManager->handleMessage(packed))
         return answerOf(window, message, lParam);
     if (message == WM_CTLCOLORSTATIC)
         return packed.result; // a brush goes back directly
     SetWindowLongPtrW(window, DWLP_MSGRESULT, packed.result);
     return 1;
+}
+
+/// What a page answers when something was thrown: it refuses an Apply, so that the sheet stays open
+/// and what has not been told is not lost.
+INT_PTR answerOfFailed(HWND window, UINT message, LPARAM lParam)
+{
+    if (message != WM_NOTIFY || reinterpret_cast<const NMHDR*>(lParam)->code != PSN_APPLY)
+        return 0;
+    SetWindowLongPtrW(window, DWLP_MSGRESULT, PSNRET_INVALID);
+    return TRUE;
 }
 
 /// For a sheet that has outlived us while somebody else stood before our procedure.
@@ -100,11 +120,22 @@ LRESULT routeOffTab(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 
 } // namespace
 
+bool UIDialogProcedure::lacksRecord(const _UIWindowsMessage& message) noexcept
+{
+    constexpr UINT kWithRecord[] = {WM_NOTIFY, WM_MEASUREITEM, WM_DRAWITEM, WM_DELETEITEM,
+                                    WM_COMPAREITEM};
+    return message.lParam == 0 && std::find(std::begin(kWithRecord), std::end(kWithRecord),
+                                            message.message) != std::end(kWithRecord);
+}
+
 INT_PTR CALLBACK UIDialogProcedure::cpsuiDialogProcedure(HWND window, UINT message, WPARAM wParam,
                                                          LPARAM lParam) noexcept
 {
-    return o7::guarded<INT_PTR>(L"CPSUIDialogProcedure", kSource,
-                                [=] { return routePage(window, message, wParam, lParam); });
+    using Answer = std::optional<INT_PTR>;
+    const Answer answer = o7::guarded<Answer>(L"CPSUIDialogProcedure", kSource, [=] {
+        return Answer(routePage(window, message, wParam, lParam));
+    });
+    return answer ? *answer : answerOfFailed(window, message, lParam);
 }
 
 INT_PTR CALLBACK UIDialogProcedure::dialogProcedure(HWND window, UINT message, WPARAM wParam,

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 class UIMessageManager;
+struct _UIWindowsMessage;
 
 /// What a page hands to its procedure as creation parameter.
 struct UIPageRecord
@@ -19,8 +20,8 @@ struct UIDialogRecord
 };
 
 /// The window procedures through which the system calls into the pages: the only places that pack
-/// messages. Each shows whatever is thrown behind it and answers 0; a window for which no message
-/// manager is known gets 0 without routing.
+/// messages. Each shows whatever is thrown behind it and answers 0, or, for a page that was to be
+/// applied, that it refuses; a window for which no message manager is known gets 0 without routing.
 class UIDialogProcedure
 {
 public:
@@ -34,6 +35,10 @@ public:
     /// of these areas.
     static LRESULT CALLBACK offTabDialogProcedure(HWND window, UINT message, WPARAM wParam,
                                                   LPARAM lParam) noexcept;
+
+    /// True for a message that speaks about a record and brings none: it comes from somebody who
+    /// guesses, and nobody behind the procedures is asked.
+    static bool lacksRecord(const _UIWindowsMessage& message) noexcept;
 
     /// Name of the window property that holds the message manager of a subclassed sheet.
     static constexpr wchar_t kManagerProperty[] = L"O7UIMessageManager";

@@ -1,6 +1,7 @@
 #include "uimessagemanager.h"
 
 #include <algorithm>
+#include <iterator>
 
 int UIMessageManager::handleMessage(const _UIWindowsMessage& message) const
 {
@@ -24,11 +25,16 @@ void UIMessageManager::append(UIMessageKind kind, UIMessageHandler& handler)
     m_handlers.at(static_cast<std::size_t>(kind)).push_back(&handler);
 }
 
-void UIMessageManager::removeLast(UIMessageKind kind) noexcept
+void UIMessageManager::remove(UIMessageKind kind, const UIMessageHandler& handler) noexcept
 {
     const auto index = static_cast<std::size_t>(kind);
-    if (index < kKinds && !m_handlers[index].empty()) {
-        m_handlers[index].pop_back();
+    if (index >= kKinds) {
+        return;
+    }
+    HandlerList& list = m_handlers[index];
+    const auto last = std::find(list.rbegin(), list.rend(), &handler);
+    if (last != list.rend()) {
+        list.erase(std::next(last).base());
     }
 }
 

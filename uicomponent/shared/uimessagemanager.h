@@ -32,8 +32,9 @@ public:
     /// Appends a handler at the end of the list of a kind. The handler is borrowed.
     void append(UIMessageKind kind, UIMessageHandler& handler);
 
-    /// Takes the last handler off the list of a kind; an empty list stays empty.
-    void removeLast(UIMessageKind kind) noexcept;
+    /// Takes a handler off the list of a kind, the last time that it stands there. Nothing happens
+    /// when it does not: whoever appended nothing takes nobody else off.
+    void remove(UIMessageKind kind, const UIMessageHandler& handler) noexcept;
 
     /// The handlers of a kind, in the order in which they are asked.
     const HandlerList& handlers(UIMessageKind kind) const;
