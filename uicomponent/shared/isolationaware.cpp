@@ -128,14 +128,9 @@ LibraryFunction<decltype(&::CreatePropertySheetPageW)> s_createPage("CreatePrope
 LibraryFunction<decltype(&::DestroyPropertySheetPage)> s_destroyPage("DestroyPropertySheetPage");
 
 /// The lock is held.
-void releaseAll() noexcept
+void releaseContext() noexcept
 {
-    s_propertySheet.forget();
-    s_createPage.forget();
-    s_destroyPage.forget();
-    s_state.library = nullptr;
     s_state.context = INVALID_HANDLE_VALUE;
-    s_state.libraryOwner.reset();
     s_state.contextOwner.reset();
     s_state.cleanedUp = true;
 }
@@ -237,15 +232,22 @@ IsolationAware::Session::~Session()
     // Under one lock: whoever opens a session meanwhile comes before the last one's end and so
     // prevents the cleaning up, or after it.
     const LockScope lock(s_state.lock);
+    // The library stays until the module goes: loading it for each sheet costs time, and on some
+    // systems a bitmap each time.
     if (--s_state.sessions == 0) {
-        releaseAll();
+        releaseContext();
     }
 }
 
 void IsolationAware::cleanUp() noexcept
 {
     const LockScope lock(s_state.lock);
-    releaseAll();
+    s_propertySheet.forget();
+    s_createPage.forget();
+    s_destroyPage.forget();
+    s_state.library = nullptr;
+    s_state.libraryOwner.reset();
+    releaseContext();
 }
 
 HINSTANCE IsolationAware::moduleInstance() noexcept

@@ -78,8 +78,8 @@ public:
     };
 
     /// A time during which the module is in use, on any thread; every UIManager is one. The end of
-    /// the last session cleans up; a new one makes calls legal again. What a session has created is
-    /// gone before it ends.
+    /// the last session releases the context; a new one makes calls legal again. What a session has
+    /// created is gone before it ends.
     class O7UI_API Session
     {
     public:
