@@ -86,12 +86,10 @@ constexpr UIContainerRecord kJobPage = jobPage(6, kJobColumns, kJobFeatures);
 
 // Page "Advanced", and "Policies" in its place where the administrator sets the defaults
 constexpr UIMoleculeRecord kWarnGroup[] = {s::kWarnOnApply};
-constexpr UIMoleculeRecord kLinkGroup[] = {s::kBidirectional};
 constexpr UIMoleculeRecord kAdvancedRight[] = {group(O7STR_G_DATA, kDataGroup),
                                                group(O7STR_G_UNITS, kUnitsGroup),
                                                group(O7STR_G_APPLY, kWarnGroup)};
 constexpr UIMoleculeRecord kPolicyRight[] = {group(O7STR_G_DATA, kDataGroup),
-                                             group(O7STR_G_CONNECTION, kLinkGroup),
                                              group(O7STR_G_APPLY, kWarnGroup)};
 constexpr UIColumnRecord kAdvancedColumns[] = {left(kAccountsAndTracking), right(kAdvancedRight)};
 constexpr UIColumnRecord kPolicyColumns[] = {left(kAccountsAndTracking), right(kPolicyRight)};
@@ -117,8 +115,7 @@ constexpr UIMoleculeRecord kStateGroup[] = {s::kBidirectional, text<O7STR_T_CONN
 constexpr UIMoleculeRecord kLinkLeft[] = {group(O7STR_G_CONNECTION, kStateGroup),
                                           group(O7STR_G_TRACKING, kTrackingGroup),
                                           group(O7STR_G_APPLY, kApplyGroup)};
-constexpr UIMoleculeRecord kLinkRight[] = {group(O7STR_G_DEVICE, kDeviceGroup),
-                                           group(O7STR_G_UNITS, kUnitsGroup)};
+constexpr UIMoleculeRecord kLinkRight[] = {group(O7STR_G_DEVICE, kDeviceGroup)};
 constexpr UIColumnRecord kLinkColumns[] = {left(kLinkLeft), right(kLinkRight)};
 constexpr UIContainerRecord kLinkPage = devicePage(3, O7STR_TAB_COMMUNICATION, kLinkColumns);
 

@@ -100,7 +100,7 @@ constexpr UIContainerRecord kJobPage = jobPage(7, kJobColumns, kJobFeatures);
 constexpr UIMoleculeRecord kPagesGroup[] = {s::kSkipBlankPages, s::kReverseOrder, s::kRotate180};
 constexpr UIMoleculeRecord kPolicyLeft[] = {group(O7STR_G_PAGES, kPagesGroup),
                                             group(O7STR_G_UNITS, kUnitsGroup)};
-constexpr UIColumnRecord kPolicyColumns[] = {left(kPolicyLeft), right(kApplyAndConnection)};
+constexpr UIColumnRecord kPolicyColumns[] = {left(kPolicyLeft), right(kApplyOnly)};
 constexpr UIContainerRecord kPolicyPage = page(8, O7STR_TAB_POLICY, kPolicyColumns);
 
 // Device settings
@@ -122,7 +122,6 @@ constexpr UIMoleculeRecord kColourUnitsGroup[] = {s::kSpecialColourStation, s::k
 constexpr UIMoleculeRecord kServiceLeft[] = {group(O7STR_G_COLOUR, kColourUnitsGroup),
                                              group(O7STR_G_SECURITY, kSecurityGroup)};
 constexpr UIMoleculeRecord kServiceRight[] = {group(O7STR_G_CONNECTION, kConnectionGroup),
-                                              group(O7STR_G_UNITS, kUnitsGroup),
                                               group(O7STR_G_APPLY, kApplyGroup)};
 constexpr UIColumnRecord kServiceColumns[] = {left(kServiceLeft), right(kServiceRight)};
 constexpr UIContainerRecord kServicePage = devicePage(3, O7STR_TAB_SERVICE, kServiceColumns);

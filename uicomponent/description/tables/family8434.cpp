@@ -74,7 +74,7 @@ constexpr UIMoleculeRecord kAdvancedRight[] = {group(O7STR_G_UNITS, kUnitsGroup)
                                                group(O7STR_G_APPLY, kApplyGroup)};
 constexpr UIColumnRecord kAdvancedColumns[] = {left(kAccountsLeft), right(kAdvancedRight)};
 constexpr UIMoleculeRecord kPolicyLeft[] = {group(O7STR_G_UNITS, kUnitsGroup)};
-constexpr UIColumnRecord kPolicyColumns[] = {left(kPolicyLeft), right(kApplyAndConnection)};
+constexpr UIColumnRecord kPolicyColumns[] = {left(kPolicyLeft), right(kApplyOnly)};
 constexpr UIContainerRecord kAdvancedPage = page(6, O7STR_TAB_ADVANCED, kAdvancedColumns);
 constexpr UIContainerRecord kPolicyPage = page(7, O7STR_TAB_POLICY, kPolicyColumns);
 
@@ -97,7 +97,7 @@ constexpr UIMoleculeRecord kRollContentsGroup[] = {s::kRoll1Width, s::kRoll1Type
 constexpr UIMoleculeRecord kSuppliesGroup[] = {s::kLowSupplyWarning, s::kCalibrationDays};
 constexpr UIMoleculeRecord kRollsLeft[] = {group(O7STR_G_ROLL, kRollContentsGroup),
                                            group(O7STR_G_SUPPLIES, kSuppliesGroup)};
-constexpr UIColumnRecord kRollsColumns[] = {left(kRollsLeft), right(kUnitsAndRegion)};
+constexpr UIColumnRecord kRollsColumns[] = {left(kRollsLeft), right(kRegionOnly)};
 constexpr UIContainerRecord kRollsPage = devicePage(2, O7STR_TAB_ROLL, kRollsColumns);
 
 // Dialogs

@@ -31,10 +31,8 @@ inline constexpr UIMoleculeRecord kSecurityGroup[] = {s::kEncryptionKit, s::kCar
 
 inline constexpr UIMoleculeRecord kAccountsAndTracking[] = {
     group(O7STR_G_ACCOUNTING, kAccountsGroup), group(O7STR_G_TRACKING, kNotifyGroup)};
-inline constexpr UIMoleculeRecord kApplyAndConnection[] = {
-    group(O7STR_G_APPLY, kApplyGroup), group(O7STR_G_CONNECTION, kConnectionGroup)};
-inline constexpr UIMoleculeRecord kUnitsAndRegion[] = {group(O7STR_G_UNITS, kUnitsGroup),
-                                                       group(O7STR_G_REGION, kRegionGroup)};
+inline constexpr UIMoleculeRecord kApplyOnly[] = {group(O7STR_G_APPLY, kApplyGroup)};
+inline constexpr UIMoleculeRecord kRegionOnly[] = {group(O7STR_G_REGION, kRegionGroup)};
 
 /// The address for tracking travels with a page of job options although nobody types it there.
 inline constexpr UISimpleFeatureRecord kJobFeatures[] = {{DataModelIds::kFeatureDeviceAddress}};
