@@ -96,10 +96,12 @@ std::unique_ptr<ProductSession> openDocument(const DocumentPropertyHeader& heade
     return session;
 }
 
+/// @throws std::runtime_error when the settings do not fit, instead of keeping some of them.
 void writeDocument(IDataModel& model, const DocumentPropertyHeader& header)
 {
-    if (wants(header, DM_OUT_BUFFER) && header.pdmOut != nullptr) {
-        writeDevMode(model, header.pszPrinterName, bufferOf(*header.pdmOut), scopeOf(header));
+    if (wants(header, DM_OUT_BUFFER) && header.pdmOut != nullptr &&
+        !writeDevMode(model, header.pszPrinterName, bufferOf(*header.pdmOut), scopeOf(header))) {
+        throw std::runtime_error("The settings are more than a document can hold.");
     }
 }
 
@@ -139,6 +141,7 @@ std::unique_ptr<DriverSheet> documentSheet(LPARAM parameter)
                                              if (!locked) {
                                                  writeDocument(model, *header);
                                              }
+                                             return !locked;
                                          });
 }
 
@@ -160,6 +163,7 @@ std::unique_ptr<DriverSheet> deviceSheet(LPARAM parameter)
             if (!locked && !storeDeviceSettings(header->hPrinter, model)) {
                 throw std::runtime_error("The print system did not keep the device settings.");
             }
+            return !locked;
         });
 }
 

@@ -140,8 +140,9 @@ void DriverSheet::fillHeader(PROPSHEETUI_INFO_HEADER& header) const
 void DriverSheet::ProcessNotification(const INotification&, unsigned int)
 {
     // Registered for one event only: the settings were accepted, and nothing was stored yet.
-    m_accepted(m_session->model());
-    reportAccepted();
+    if (m_accepted(m_session->model())) {
+        reportAccepted();
+    }
 }
 
 /// Tells the print system, which tells the application that there is something to take.

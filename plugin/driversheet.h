@@ -23,9 +23,10 @@ namespace o7 {
 class DriverSheet : private IObserver
 {
 public:
-    /// Called when the model has accepted the settings, to store them. Throws when it cannot: then
-    /// the model takes the acceptance back, and the print system is told nothing.
-    using Accepted = std::function<void(IDataModel&)>;
+    /// Called when the model has accepted the settings, to store them. False when nothing was to be
+    /// stored: then the print system is told nothing. Throws when it cannot: then the model takes
+    /// the acceptance back as well.
+    using Accepted = std::function<bool(IDataModel&)>;
 
     /// @param session      with the settings that the pages shall show.
     /// @param printerName  for the sheet's caption; null: the model's name.
