@@ -189,9 +189,7 @@ bool DataModel::CopyFrom(FeatureNode& feature, const IFeatureNode& source)
 {
     if (m_interpreter.IsLocked(feature))
         return false;
-    if (IsLeaf(feature))
-        return Operate([&] { return m_writer.CopyFrom(feature, source); });
-    // How much a list brings along shows when it is there.
+    // How much comes along shows when it is there.
     const auto transaction = OpenTransaction(CXString());
     m_room->Forget();
     const bool copied = m_writer.CopyFrom(feature, source) && m_room->IsEnough();

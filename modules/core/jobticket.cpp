@@ -144,7 +144,7 @@ public:
             if (entry == entries.end() || member.kind == FeatureKind::Resolution ||
                 !member.IsKept())
                 continue;
-            // Secrets were written once; they are not to come back, nor to stay.
+            // A ticket may hold secrets all the same; they neither come in nor stay.
             if (member.loadedFromTicket && !member.flags.secret)
                 Read(member, *entry, settings.children[i]);
             const bool foreignInside = member.list && entry->is_object() && !entry->empty();

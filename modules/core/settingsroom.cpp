@@ -48,7 +48,8 @@ bool SettingsRoom::Take(std::size_t bytes, std::size_t instead)
 {
     if (bytes > m_left)
         IsEnough();
-    if (bytes > m_left + instead)
+    // What stands around a text is not given back: with more bytes its sizes may need more.
+    if (bytes > m_left + (instead - std::min(instead, kAroundText)))
         return false;
     m_left -= std::min(bytes, m_left);
     return true;
