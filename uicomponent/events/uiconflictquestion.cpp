@@ -72,7 +72,7 @@ UIConflictQuestion::Answer UIConflictQuestion::ask(HWND owner, const Features& c
     if (!settled && answer != IDIGNORE)
         return Answer::GoBack;
     m_kept = settled ? openOnes(settlement.left) : open;
-    return Answer::GoOn;
+    return settled ? Answer::Settled : Answer::GoOn;
 }
 
 CXString UIConflictQuestion::textOf(const std::vector<Conflict>& open,

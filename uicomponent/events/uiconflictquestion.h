@@ -26,7 +26,8 @@ public:
 
     enum class Answer
     {
-        GoOn, ///< nothing to ask, settled, or to be kept
+        GoOn,    ///< nothing to ask, or to be kept
+        Settled, ///< settings were changed; they may ask for others now
         GoBack
     };
 

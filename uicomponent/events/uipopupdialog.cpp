@@ -172,9 +172,14 @@ bool UIPopupDialog::isAgreed()
         getServices().showMessage(getWindow(), text, name, MB_ICONWARNING);
         return false;
     }
-    if (m_question.ask(getWindow(), UIConflictWalk::conflicts(getFeatureServices())) ==
-        UIConflictQuestion::Answer::GoOn)
+    switch (m_question.ask(getWindow(), UIConflictWalk::conflicts(getFeatureServices()))) {
+    case UIConflictQuestion::Answer::GoOn:
         return true;
+    case UIConflictQuestion::Answer::Settled:
+        return isAgreed();
+    case UIConflictQuestion::Answer::GoBack:
+        break;
+    }
     goTo(m_question.getFirst());
     return false;
 }

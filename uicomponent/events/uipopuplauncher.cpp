@@ -1,5 +1,7 @@
 #include "uipopuplauncher.h"
 
+#include <utility>
+
 #include "cxstring.h"
 #include "featureservices.h"
 #include "isolationaware.h"
@@ -74,8 +76,9 @@ bool UIPopupLauncher::launch(DialogId id, const ListOfFeaturesRef& features, HWN
         dialogTemplate.mirror();
 
     const IsolationAware::CallerContext callerContext(m_activationContext);
-    UIPopupDialog dialog(m_featureServices, m_context, m_services, features, *data, m_wholeUi,
-                         param);
+    // What this dialog opens in turn is no whole UI.
+    const bool wholeUi = std::exchange(m_wholeUi, false);
+    UIPopupDialog dialog(m_featureServices, m_context, m_services, features, *data, wholeUi, param);
     const DialogRegistration registration(m_messageManager, dialog);
     const auto transaction = m_featureServices.OpenTransaction(CXString(L"popup dialog"));
     const INT_PTR result =

@@ -110,19 +110,22 @@ void UISheetApply::tellRefused() const
         .SetValue(false);
 }
 
-bool UISheetApply::isAgreed(HWND page)
+bool UISheetApply::isAgreed(const _UIWindowsMessage& message)
 {
-    if (m_question.ask(GetAncestor(page, GA_ROOT), m_guide.conflictsInOrder()) ==
-        UIConflictQuestion::Answer::GoOn)
+    const auto answer =
+        m_question.ask(GetAncestor(message.window, GA_ROOT), m_guide.conflictsInOrder());
+    if (answer == UIConflictQuestion::Answer::GoOn ||
+        (answer == UIConflictQuestion::Answer::Settled && isAcceptable(message)))
         return true;
     tellRefused();
-    m_guide.goTo(m_question.getFirst());
+    if (answer == UIConflictQuestion::Answer::GoBack)
+        m_guide.goTo(m_question.getFirst());
     return false;
 }
 
 void UISheetApply::complete(const _UIWindowsMessage& message)
 {
-    if (!isAgreed(message.window)) {
+    if (!isAgreed(message)) {
         SetWindowLongPtrW(message.window, DWLP_MSGRESULT, PSNRET_INVALID_NOCHANGEPAGE);
         return;
     }

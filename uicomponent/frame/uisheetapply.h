@@ -43,7 +43,7 @@ private:
     void tellMissing(HWND page, const FeatureIdWithContext& feature) const;
     void reject();
     void tellRefused() const;
-    bool isAgreed(HWND page);
+    bool isAgreed(const _UIWindowsMessage& message);
     void complete(const _UIWindowsMessage& message);
     bool warn(HWND page) const;
 
