@@ -158,7 +158,9 @@ void ModelStage::ProcessNotification(const INotification&, unsigned int)
 void ModelStage::store() const
 {
     if (m_mode != kDeviceMode) {
-        return m_store.keep(record(), written(model()));
+        return m_store.keep(record(),
+                            written(model(), m_mode == kDefaultsMode ? SettingsScope::Defaults
+                                                                     : SettingsScope::Document));
     }
     std::vector<std::uint8_t> block;
     if (!model().ExportSettings(block)) {
@@ -189,11 +191,11 @@ std::unique_ptr<IDataModel> ModelStage::newModel() const
 }
 
 /// @throws StepFailure when the settings are more than a document can carry.
-std::vector<std::uint8_t> ModelStage::written(IDataModel& model)
+std::vector<std::uint8_t> ModelStage::written(IDataModel& model, SettingsScope scope)
 {
     std::vector<std::uint8_t> bytes(kDevModeSize);
     const std::span<std::uint8_t, kDevModeSize> devMode(bytes);
-    if (!writeDevMode(model, L"Printer of a story", devMode)) {
+    if (!writeDevMode(model, L"Printer of a story", devMode, scope)) {
         throw StepFailure("The settings are more than a document can carry.");
     }
     return bytes;

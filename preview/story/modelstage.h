@@ -65,7 +65,8 @@ private:
 
     std::unique_ptr<IDataModel> newModel() const;
     std::vector<std::uint8_t> document() const;
-    static std::vector<std::uint8_t> written(IDataModel& model);
+    static std::vector<std::uint8_t> written(IDataModel& model,
+                                             SettingsScope scope = SettingsScope::Document);
     StoryStore::Record record() const;
 
     Product m_product;

@@ -49,7 +49,8 @@ void PreviewHost::show()
     const auto opened = openSession(package(), session().language);
     const std::filesystem::path ticket = opened->jobTicketPath(m_store);
     if (const auto loaded = opened->model().LoadJobTicket(ticket);
-        loaded.outcome == JobTicketOutcome::Damaged) {
+        loaded.outcome == JobTicketOutcome::Damaged ||
+        loaded.outcome == JobTicketOutcome::Unreadable) {
         throw std::runtime_error(loaded.message);
     }
     const AcceptanceWatch watch(opened->featureServices());
