@@ -67,7 +67,7 @@ constexpr UIMoleculeRecord kAdvancedLeft[] = {group(O7STR_G_MESSAGES, kSendGroup
 constexpr UIMoleculeRecord kAdvancedRight[] = {group(O7STR_G_UNITS, kUnitsGroup),
                                                group(O7STR_G_APPLY, kApplyGroup)};
 constexpr UIColumnRecord kAdvancedColumns[] = {left(kAdvancedLeft), right(kAdvancedRight)};
-constexpr UIColumnRecord kPolicyColumns[] = {left(kAdvancedLeft), right(kApplyAndConnection)};
+constexpr UIColumnRecord kPolicyColumns[] = {left(kAdvancedLeft), right(kApplyOnly)};
 constexpr UIContainerRecord kAdvancedPage = page(5, O7STR_TAB_ADVANCED, kAdvancedColumns);
 constexpr UIContainerRecord kPolicyPage = page(6, O7STR_TAB_POLICY, kPolicyColumns);
 
