@@ -152,7 +152,7 @@ TEST_F(FaultyPackage, IsToldOfDeviceSettingsOnPagesOfDocuments)
                              ", but it belongs to the device")
                                 .c_str()});
     }
-    EXPECT_EQ(mistakes.find("3041"), std::string::npos) << "its place is in mode 2";
+    EXPECT_EQ(mistakes.find("shows feature 3041"), std::string::npos) << "its place is in mode 2";
 }
 
 TEST_F(FaultyPackage, IsToldOfKeysThatCannotBeUsed)

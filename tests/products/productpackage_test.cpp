@@ -333,7 +333,6 @@ const Story kOfficeStories[] = {
     {"office finisher cannot stitch", {{3018, 1}}, 3012, 5163, Effect::Disabled},
     {"booklet finisher stitches booklets", {{3040, 5222}, {3018, 1}}, 3012, 5163, Effect::Free},
     {"stitched: booklet tray", {{3040, 5222}, {3018, 1}, {3012, 5163}}, 3015, 5178, Effect::Free},
-    {"black-and-white family has no colour", {{285, 8432}}, 3009, 0, Effect::Hidden},
     {"no punch kit", {{3042, 0}}, 3013, 0, Effect::Disabled},
     {"folding unit", {{3044, 1}}, 3014, 0, Effect::Free},
     {"two trays: no tray 3", {{3041, 5225}}, 3003, 5123, Effect::Disabled},
@@ -378,6 +377,8 @@ const Story kOfficeStories[] = {
     {"colour not allowed: nothing to choose", {{3083, 5786}}, 3009, 0, Effect::Disabled},
     {"colour, then not allowed", {{3009, 5151}, {3083, 5786}}, 3009, 0, Effect::Conflict},
     {"glossy paper in tray 2", {{3076, 5133}, {3004, 5133}}, 3003, 5122, Effect::Free},
+    // Last: Cancel leaves what the device reports as it is.
+    {"black-and-white family has no colour", {{285, 8432}}, 3009, 0, Effect::Hidden},
 };
 
 const Story kProductionStories[] = {
