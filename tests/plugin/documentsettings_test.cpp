@@ -415,7 +415,7 @@ std::string deviceState(const IFeatureNode& list, bool isDevice)
             const auto* flag = std::get_if<bool>(&value);
             text += feature->GetId().Dump(true).ToUtf8() +
                     (feature->IsSpecified() ? "" : " unspecified") +
-                    (number != nullptr ? " " + std::to_string(*number) : "") +
+                    (number != nullptr ? std::string(" ").append(std::to_string(*number)) : "") +
                     (flag != nullptr ? *flag ? " on" : " off" : "") + "\n";
         }
         text += deviceState(*feature, own);
