@@ -32,7 +32,8 @@ protected:
 
     void add(const std::string& name, const std::string& text)
     {
-        run.files.push_back(folder.path() / name);
+        // UTF-8 whatever the system's own encoding is.
+        run.files.push_back(folder.path() / std::u8string(name.begin(), name.end()));
         std::ofstream(run.files.back(), std::ios::binary) << text;
     }
 
