@@ -9,7 +9,7 @@ namespace {
 /// Lists in lists in lists: no product goes deeper, and a path is not followed for ever.
 constexpr int kDeepest = 8;
 
-IFeatureNode::Ptr supported(IFeatureNode::Ptr node)
+IFeatureNode::Ptr supported(const IFeatureNode::Ptr& node)
 {
     return node && node->GetKind() != FeatureKind::Unsupported ? node : nullptr;
 }

@@ -99,7 +99,7 @@ std::string judgeState(StoryStage& stage, const Expectation& expected)
 }
 
 /// What stands in the way of the window, if something does.
-std::string withMessage(StoryStage& stage, std::string seen)
+std::string withMessage(StoryStage& stage, const std::string& seen)
 {
     const auto message = stage.message();
     return message ? seen + ", and a message says " + inQuotes(*message) : seen;

@@ -38,7 +38,7 @@ std::string takeState(std::string_view& rest)
         return {};
     }
     const std::size_t end = std::min(rest.find(']'), rest.size() - 1);
-    const std::string state(rest.substr(2, end - 2));
+    std::string state(rest.substr(2, end - 2));
     rest.remove_prefix(end + 1);
     return state;
 }

@@ -124,7 +124,8 @@ protected:
         setOption(kPaperType, kEnvelope);
         setOption(kPaperTray, kTray1);
         setOption(kPaperSize, kPaperA3);
-        setBoolean(kAccountRequired, true);
+        setBoolean(kAccountRequired, true); // accounting follows, until somebody turns it off
+        setBoolean(kAccounting, false);
     }
 
     void setBoolean(tagFeatureEnum feature, bool value)
@@ -297,7 +298,9 @@ TEST_F(SheetGuideTest, ASettingThatIsNotShownIsExplainedBesideTheStatus)
         selectPage(0), // which shows no such setting
         selectPage(1),
         until(isExplained),
-        act([&](HWND) { model().RevertToAccepted(); }),
+        act([&](HWND) { // what the device reports is not taken back
+            setOption(DataModelIds::kFeatureControllerFamily, DataModelIds::kValueFamily8430);
+        }),
         until([&](HWND sheet) { return !isExplained(sheet); }),
         key(VK_ESCAPE),
     });

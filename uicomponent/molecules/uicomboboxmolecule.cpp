@@ -62,6 +62,10 @@ bool UIComboBoxMolecule::HandleNotification(int notification)
         if (!SendMessageW(m_combo->UIControl::getHwnd(), CB_GETDROPPEDSTATE, 0, 0))
             ChooseEntry(m_combo->getSelection(true));
         return true;
+    case CBN_DROPDOWN:
+        // A list that was not open is cancelled as well, when the focus goes with its page.
+        m_choiceCancelled = false;
+        return false;
     case CBN_SELENDCANCEL:
         m_choiceCancelled = true;
         return true;

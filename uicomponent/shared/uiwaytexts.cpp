@@ -92,6 +92,7 @@ std::vector<CXString> UIWayTexts::lines(const o7::Alternative& alternative,
 {
     const auto& changes = alternative.changes;
     std::vector<CXString> all;
+    all.reserve(changes.size() + consequences.size());
     for (const o7::SettingChange& change : changes)
         all.push_back(verb(change));
     for (const o7::Consequence& consequence : consequences) {
