@@ -432,7 +432,7 @@ TEST(DocumentSettings, NeverTakesTheDeviceFromADocument)
     };
     const auto change = [&](const TestModel& model, int number) {
         auto all = model->GetFullListOfFeatures();
-        const auto set = [&](ListOfFeaturesRef list, int id) {
+        const auto set = [&](const ListOfFeaturesRef& list, int id) {
             EXPECT_TRUE(list.GetIntegerFeature(feature(id)).SetValue(number));
         };
         set(all, 3051);

@@ -207,7 +207,7 @@ TEST_P(EveryDocument, HoldsTwoHundredAndFiftySpecialPages)
 
 bool contains(const Bytes& bytes, const Bytes& text)
 {
-    return std::ranges::search(bytes, text).begin() != bytes.end();
+    return std::search(bytes.begin(), bytes.end(), text.begin(), text.end()) != bytes.end();
 }
 
 TEST_P(EveryDocument, CarriesItsSecretsUnreadableAndGivesThemToNobodyElse)

@@ -137,7 +137,7 @@ TEST(StoryParser, ChordsAreReadInAnyCase)
 {
     struct Row
     {
-        const char* text;
+        const char* text = "";
         Chord chord;
     };
     const Row rows[] = {

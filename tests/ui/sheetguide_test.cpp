@@ -31,8 +31,9 @@ namespace {
 
 using Steps = std::vector<IdleDriver::Step>;
 
-constexpr int kEnvelope = 5136; // a paper type
-constexpr int kTray1 = 5121;
+constexpr int kRecycled = 5131; // a paper type
+constexpr int kTray2 = 5122;
+constexpr int kEnvelope10 = 5267; // a paper size
 
 // "Layout" shows nothing that can be in conflict; "Image" shows the paper type again.
 constexpr UIMoleculeRecord kPaperRows[] = {combo<kPaperTray, O7STR_L_PAPER_TRAY>(),
@@ -120,10 +121,9 @@ protected:
     /// Paper tray and paper type on the first page, accounting on the third.
     void makeConflicts()
     {
-        setOption(kPaperSize, kPaperEnvelopeDL);
-        setOption(kPaperType, kEnvelope);
-        setOption(kPaperTray, kTray1);
-        setOption(kPaperSize, kPaperA3);
+        setOption(kPaperTray, kTray2);
+        setOption(kPaperType, kRecycled);
+        setOption(kPaperSize, kEnvelope10);
         setBoolean(kAccountRequired, true); // accounting follows, until somebody turns it off
         setBoolean(kAccounting, false);
     }
@@ -353,7 +353,13 @@ TEST_F(SheetGuideTest, NothingIsLeftBehind)
 {
     makeConflicts();
     const auto openAndClose = [&] {
-        runSheet({key(VK_F8), key(VK_F8), key(VK_F8), key(VK_ESCAPE)});
+        runSheet({
+            key(VK_F8),
+            until([](HWND box) { return GetDlgItem(box, IDOK) && !tabsOf(box); }),
+            key(VK_ESCAPE),
+            until([](HWND sheet) { return tabsOf(sheet) != nullptr; }),
+            key(VK_ESCAPE),
+        });
     };
     openAndClose();
     const ResourceGuard guard(ResourceGuard::Windows | ResourceGuard::GdiObjects);

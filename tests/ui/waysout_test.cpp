@@ -125,10 +125,10 @@ protected:
     }
     void makeAccountConflict(bool required = true)
     {
-        ASSERT_TRUE(model()
-                        .GetFullListOfFeatures()
-                        .GetBooleanFeature(FeatureId(kAccountRequired))
-                        .SetValue(required));
+        const auto all = model().GetFullListOfFeatures();
+        ASSERT_TRUE(all.GetBooleanFeature(FeatureId(kAccountRequired)).SetValue(required));
+        // Accounting follows, until somebody turns it off.
+        ASSERT_TRUE(all.GetBooleanFeature(FeatureId(kAccounting)).SetValue(!required));
     }
     bool isInConflict(tagFeatureEnum feature)
     {
@@ -195,6 +195,7 @@ TEST_F(WaysOutUiTest, TheMarkOffersThemAndEnterCarriesOneOut)
         key(VK_ESCAPE),
         sheetIsBack(),
         act([&](HWND) { EXPECT_TRUE(isInConflict(kPaperTray)) << "Escape changes nothing"; }),
+        act([](HWND) { Sleep(GetDoubleClickTime()); }), // the next click is one of its own
         clickMark(),
         asked(L"Carry Out"),
         key(VK_DOWN),
@@ -420,6 +421,7 @@ TEST_F(WaysOutUiTest, TheCompactDialogAsksAsWell)
 TEST_F(WaysOutUiTest, TheBoxLeavesNothing)
 {
     makeTrayConflict();
+    model().CommitAccepted(); // so that each Cancel comes back to it
     const auto round = [&] {
         runSheet({clickMark(), asked(L"Carry Out"), key(VK_ESCAPE), sheetIsBack(), key(VK_ESCAPE)});
     };

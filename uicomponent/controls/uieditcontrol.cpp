@@ -47,7 +47,7 @@ CXString longTextOfClipboard(HWND window, std::size_t most)
     }
     // The block may be larger than its text.
     const bool isLong = std::find(text, text + most, L'\0') == text + most;
-    const CXString beginning = isLong ? CXString(std::wstring_view(text, most)) : CXString();
+    CXString beginning = isLong ? CXString(std::wstring_view(text, most)) : CXString();
     ::GlobalUnlock(data);
     return beginning;
 }

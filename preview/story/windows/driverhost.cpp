@@ -28,7 +28,7 @@ PublicFields fieldsOf(const std::vector<std::uint8_t>& document)
 
 } // namespace
 
-DriverHost::DriverHost(std::filesystem::path package, Session session,
+DriverHost::DriverHost(const std::filesystem::path& package, const Session& session,
                        const std::filesystem::path& store)
     : StoryHost(package, session),
       m_package(package.wstring()),

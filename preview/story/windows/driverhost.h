@@ -18,7 +18,8 @@ class DriverHost : public StoryHost, private PrinterStandIn
 {
 public:
     /// @param store  the folder of the printer.
-    DriverHost(std::filesystem::path package, Session session, const std::filesystem::path& store);
+    DriverHost(const std::filesystem::path& package, const Session& session,
+               const std::filesystem::path& store);
 
     void show() override;
     std::string documentField(const std::string& field) const override;
