@@ -133,6 +133,7 @@ TEST(IsolationAware, SessionsOfSeveralThreadsDoNotDisturbEachOther)
     constexpr int kRounds = 300;
     std::atomic<int> failures{0};
     std::vector<std::thread> threads;
+    threads.reserve(kThreads);
     for (int thread = 0; thread < kThreads; ++thread) {
         threads.emplace_back([&] {
             for (int round = 0; round < kRounds; ++round) {

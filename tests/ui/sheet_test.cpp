@@ -217,6 +217,8 @@ TEST_F(SheetTest, AnOpenListExplainsWhatItDoesNotOffer)
 {
     constexpr int kEnvelopeDl = 5116;
     constexpr int kEnvelope = 5136;
+    constexpr int kHeavyweight = 5132;
+    setOption(kPaperType, kHeavyweight); // what nobody chose would follow the size
     setOption(kPaperSize, kEnvelopeDl);
     const int before = option(kPaperType);
     ASSERT_NE(before, kEnvelope);

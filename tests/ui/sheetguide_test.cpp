@@ -352,6 +352,7 @@ TEST_F(SheetGuideTest, TheLastPageIsKeptForPrinterAndModeAndByNumber)
 TEST_F(SheetGuideTest, NothingIsLeftBehind)
 {
     makeConflicts();
+    model().CommitAccepted(); // so that each Cancel comes back to them
     const auto openAndClose = [&] {
         runSheet({
             key(VK_F8),

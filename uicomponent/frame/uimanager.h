@@ -41,7 +41,7 @@ using UIComPropSheetCallback = LONG_PTR(CALLBACK*)(HANDLE, UINT, LPARAM, LPARAM)
 /// can live (for `initializeForCPSUI` and `initialize` until the pages' sheet is gone), destroy it.
 /// Everything runs on the thread that calls the entry operation. The product data, the data model
 /// and the string loader are borrowed and must outlive the manager.
-class O7UI_API UIManager
+class O7UI_API UIManager final
 {
 public:
     /// @param moduleHandle   for the builder of the description; null when the caller has none.

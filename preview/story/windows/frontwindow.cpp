@@ -100,6 +100,7 @@ std::vector<TabTitle> FrontWindow::tabs() const
 {
     std::vector<TabTitle> titles;
     const int count = isSheet() ? static_cast<int>(ask(m_tabs, TCM_GETITEMCOUNT)) : 0;
+    titles.reserve(static_cast<std::size_t>(std::max(count, 0)));
     for (int i = 0; i < count; ++i) {
         titles.emplace_back(tabText(m_tabs, i));
     }

@@ -34,7 +34,7 @@ private:
 
 struct Call
 {
-    const std::function<void()>* function;
+    const std::function<void()>* function = nullptr;
     std::exception_ptr thrown;
     std::atomic<bool> abandoned = false;
 };
@@ -184,7 +184,8 @@ bool UiThread::waitUntilIdle(std::chrono::milliseconds limit) const
 
 void UiThread::call(const std::function<void()>& function) const
 {
-    auto call = std::make_unique<Call>(&function, nullptr);
+    auto call = std::make_unique<Call>();
+    call->function = &function;
     DWORD_PTR result = 0;
     if (SendMessageTimeoutW(m_state->window, kCall, 0, reinterpret_cast<LPARAM>(call.get()),
                             SMTO_NORMAL, kCallMilliseconds, &result) == 0 ||
