@@ -29,7 +29,11 @@ struct Setting
 class Walks : public test::EveryProduct
 {
 protected:
+#ifdef __SANITIZE_ADDRESS__ // some thirty times slower
+    static constexpr int kWalks = 100;
+#else
     static constexpr int kWalks = 5000;
+#endif
     /// Walks whose states are worked out from scratch, and that go through a file.
     static constexpr int kThorough = 100;
 

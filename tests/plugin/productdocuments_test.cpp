@@ -158,7 +158,7 @@ std::string settingsOf(IDataModel& model)
 TEST_P(EveryDocument, SettlesWithTheFirstMerging)
 {
     std::mt19937 random(20260);
-    for (int round = 0; round < 400; ++round) {
+    for (int round = 0; round < 100; ++round) {
         const auto author = m_product.model();
         changeSome(*author, random);
         Bytes changed = written(*author);

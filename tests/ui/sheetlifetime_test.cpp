@@ -495,8 +495,8 @@ TEST_F(SheetLifetimeTest, AMessageWithoutItsRecordReachesNobody)
             windows.push_back(area);
     ASSERT_EQ(windows.size(), 2U);
     for (const HWND window : windows)
-        for (const UINT message :
-             {WM_NOTIFY, WM_MEASUREITEM, WM_DRAWITEM, WM_DELETEITEM, WM_COMPAREITEM})
+        for (const UINT message : {UINT{WM_NOTIFY}, UINT{WM_MEASUREITEM}, UINT{WM_DRAWITEM},
+                                   UINT{WM_DELETEITEM}, UINT{WM_COMPAREITEM}})
             EXPECT_EQ(SendMessageW(window, message, 0, 0), 0) << message;
     EXPECT_EQ(shown.text(), "");
     DestroyWindow(sheet);
